@@ -1,0 +1,3 @@
+#pragma once
+// Marks what libork_outer.so exports.
+#define ORK_OUTER extern "C" __attribute__((visibility("default")))
