@@ -20,6 +20,8 @@ static_assert(sizeof(RuaChunk) == 32);
 static_assert(sizeof(RuaBrngProperties) == 36);
 static_assert(sizeof(RuaSharedRow) == 24);
 
+constexpr uint32_t kAlignment = 128;  // of every block
+
 // The generator's own words.
 template <class State>
 inline State& state(RuaStream* stream) {
@@ -28,6 +30,19 @@ inline State& state(RuaStream* stream) {
 template <class State>
 inline const State& state(const RuaStream* stream) {
   return *reinterpret_cast<const State*>(stream + 1);
+}
+
+// The registry row of a live stream.
+inline const RuaBrngProperties& properties(const RuaStream* stream) {
+  int32_t row, offset;
+  const RuaBrngProperties* table = __ruaGetBrngBaseOffset(stream->brng, &row, &offset);
+  return table[row];
+}
+
+// Bytes of the generator's words. A registered row may claim less than the head.
+inline uint32_t state_bytes(const RuaBrngProperties& row) {
+  constexpr int32_t head = sizeof(RuaStream);
+  return row.stateSize > head ? row.stateSize - head : 0;
 }
 
 // The number of the stream within its generator's family, 0 where there is no family.
