@@ -53,6 +53,7 @@ struct Integers {
 
   void put(uint32_t x) { *r++ = x; }
   void put8(const __m128i (&x)[4]) {
+#pragma GCC unroll 4
     for (int i = 0; i < 4; i += 2, r += 4) {
       const __m128 even = _mm_shuffle_ps(_mm_castsi128_ps(x[i]), _mm_castsi128_ps(x[i + 1]), 0x88);
       _mm_storeu_ps(reinterpret_cast<float*>(r), even);
@@ -81,6 +82,7 @@ struct Doubles : Reals {
   Doubles(double* r, double a, double b) : Reals(a, b), r(r) {}
   void put(uint32_t x) { *r++ = real(x); }
   void put8(const __m128i (&x)[4]) {
+#pragma GCC unroll 4
     for (int i = 0; i < 4; ++i, r += 2) _mm_storeu_pd(r, real2(x[i]));
   }
 };
@@ -91,6 +93,7 @@ struct Floats : Reals {
   Floats(float* r, double a, double b) : Reals(a, b), r(r) {}
   void put(uint32_t x) { *r++ = float(real(x)); }
   void put8(const __m128i (&x)[4]) {
+#pragma GCC unroll 4
     for (int i = 0; i < 4; i += 2, r += 4)
       _mm_storeu_ps(
           r, _mm_movelh_ps(_mm_cvtpd_ps(real2(x[i])), _mm_cvtpd_ps(real2(x[i + 1]))));
@@ -106,9 +109,11 @@ void generate(Mcg31m1& state, int32_t n, Output out) {
     for (int i = 0; i < 16; i += 2, x = multiply(x, a)) lane[i] = x;
     const __m128i a8 = _mm_set1_epi64x(power(a, 8));
     __m128i v[4];
+#pragma GCC unroll 4
     for (int i = 0; i < 4; ++i) v[i] = _mm_load_si128(reinterpret_cast<__m128i*>(lane) + i);
     for (; n >= 8; n -= 8) {
       out.put8(v);
+#pragma GCC unroll 4
       for (__m128i& w : v) w = step2(w, a8);
     }
     x = _mm_cvtsi128_si32(v[0]);
