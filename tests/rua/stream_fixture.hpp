@@ -37,6 +37,7 @@ class Stream {
     void* data = ork_serv_allocate(words.size() * 4, 128);
     memcpy(data, words.data(), words.size() * 4);
     EXPECT_EQ(__ruaAddChunk(stream_, id, key, data, words.size() * 4), 0);
+    if (stream_->chunks->data != data) ork_serv_deallocate(data);  // live shared data instead
   }
 
  private:
