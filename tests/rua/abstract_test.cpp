@@ -185,16 +185,16 @@ TEST_F(AbstractStream, RangesAreMapped) {
   Stream d, s;
   ASSERT_EQ(__ruadNewAbstractStream(d.slot(), 3, dring, -0.1, 3, refill<double>), 0);
   act.ring = dring, act.stream = d;
-  double rd[3];
-  ASSERT_EQ(__ruadBRngdAbstract(d, 3, rd, 10, 11.7), 0);
+  double rd[50];
+  ASSERT_EQ(__ruadBRngdAbstract(d, 50, rd, 10, 11.7), 0);
   const double scale = (11.7 - 10) / (3 - -0.1);
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(bits(rd[i]), bits((i - -0.1) * scale + 10));
+  for (int i = 0; i < 50; ++i) EXPECT_EQ(bits(rd[i]), bits((i - -0.1) * scale + 10));
   ASSERT_EQ(__ruasNewAbstractStream(s.slot(), 3, sring, -0.1f, 3, refill<float>), 0);
   act.ring = sring, act.stream = s, act.next = 0;
-  float rs[3];
-  ASSERT_EQ(__ruasBRngsAbstract(s, 3, rs, 10, 11.7f), 0);
+  float rs[50];
+  ASSERT_EQ(__ruasBRngsAbstract(s, 50, rs, 10, 11.7f), 0);
   const float fscale = (11.7f - 10.0f) / (3.0f - -0.1f);
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(bits(rs[i]), bits((float(i) - -0.1f) * fscale + 10.0f));
+  for (int i = 0; i < 50; ++i) EXPECT_EQ(bits(rs[i]), bits((float(i) - -0.1f) * fscale + 10.0f));
 }
 
 TEST_F(AbstractStream, ConstructorsAndOtherForms) {

@@ -214,4 +214,32 @@ TEST_F(Chunks, ThreadsShareTheTable) {
   for (uint32_t tag = 1; tag <= kKeys; ++tag) EXPECT_FALSE(in_table(Words{tag, 0, 0, 0}.data()));
 }
 
+// References counted from several threads, while other rows come and go below and above.
+TEST_F(Chunks, ThreadsLoseNoReference) {
+  constexpr int kThreads = 3, kRounds = 200000;
+  const uint32_t shared[] = {1, 0, 0, 0};
+  RuaSharedRow* row;
+  ASSERT_EQ(__ruaCreateGlobRODataTableEntry(&row, shared, block(1)), 0);
+  std::atomic<int> wrong = 0;
+  std::atomic<int> started = 0;
+  const auto work = [&](uint32_t thread) {
+    for (++started; started < kThreads;) std::this_thread::yield();
+    RuaChunk chunk = {};
+    RuaSharedRow* mine;
+    for (int round = 0; round < kRounds; ++round) {
+      const uint32_t own[] = {2, thread, 0, 0};
+      wrong += __ruaRegisterGlobRODataReference(&chunk, shared) != 0;
+      wrong += __ruaCreateGlobRODataTableEntry(&mine, own, nullptr) != 0;
+      wrong += __ruaUnregisterGlobRODataReference(own) != 0;
+    }
+  };
+  std::vector<std::thread> threads;
+  for (uint32_t i = 0; i < kThreads; ++i) threads.emplace_back(work, i);
+  for (std::thread& t : threads) t.join();
+  EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(references(shared), 1u + kThreads * kRounds);
+  for (int i = 0; i <= kThreads * kRounds; ++i) __ruaUnregisterGlobRODataReference(shared);
+  EXPECT_FALSE(in_table(shared));
+}
+
 }  // namespace

@@ -133,6 +133,14 @@ TEST_F(Nondeterministic, KeepsItsRetries) {
   }
 }
 
+// The word behind the last one given is not read.
+TEST_F(Nondeterministic, OneSeedWordHoldsNoRetries) {
+  Stream s(RUA_BRNG_NONDETERM, {});
+  const uint32_t words[] = {3, 4};
+  ASSERT_EQ(__ruaBRngTRNGInitStream(0, s, 1, words), 0);
+  EXPECT_EQ(s.state<uint32_t>()[1], 10u);
+}
+
 TEST_F(Nondeterministic, DrawsFromTheProcessor) {
   if (!__ruaCPUisRDRAND()) GTEST_SKIP() << "the processor has no RDRAND";
   Stream s(RUA_BRNG_NONDETERM, {0, 1000});

@@ -35,7 +35,7 @@ class Stream {
   // Gives the stream a chunk of these words.
   void add_chunk(uint32_t id, const uint32_t* key, const std::vector<uint32_t>& words) const {
     void* data = ork_serv_allocate(words.size() * 4, 128);
-    memcpy(data, words.data(), words.size() * 4);
+    std::copy(words.begin(), words.end(), static_cast<uint32_t*>(data));
     EXPECT_EQ(__ruaAddChunk(stream_, id, key, data, words.size() * 4), 0);
     if (stream_->chunks->data != data) ork_serv_deallocate(data);  // live shared data instead
   }
