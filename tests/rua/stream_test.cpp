@@ -106,6 +106,7 @@ struct Counter {
 };
 Counter& counter(RuaStream* s) { return *reinterpret_cast<Counter*>(s + 1); }
 int32_t counter_init(int32_t method, RuaStream* s, int32_t n, const uint32_t* params) {
+  if (method == 0 && n < 0) return -3;
   if (method == 0) counter(s).next = n > 0 ? params[0] : 0;
   if (method == 1) counter(s).next += params[0] + 1000 * n;
   if (method == 2) counter(s).next += n == 2 ? params[0] + 7 * params[1] : 0;
@@ -163,6 +164,24 @@ TEST_F(Registry, TakesUserGenerators) {
   ASSERT_EQ(__ruaCopyStream(&copy, s), 0);
   EXPECT_EQ(counter(copy).next, 2047u);
   __ruaDeleteStream(&copy);
+
+  // A failing init leaves its record for the caller.
+  RuaStream* failed = nullptr;
+  EXPECT_EQ(__ruaNewStreamEx(&failed, id, -1, nullptr), -3);
+  ASSERT_NE(failed, nullptr);
+  EXPECT_EQ(failed->brng, id);
+  __ruaDeleteStream(&failed);
+  EXPECT_EQ(failed, nullptr);
+
+  // A state beyond what the image's field of 16 bits can tell.
+  row.stateSize = 16 + 70000;
+  Stream large(__ruaRegisterBrng(&row), {3}), back;
+  memset(large.state<char>() + 4, 7, 70000 - 4);
+  std::vector<uint8_t> image(__ruaGetStreamSize(large));
+  EXPECT_EQ(image.size(), 70016u);
+  EXPECT_EQ(__ruaSaveStreamM(large, image.data()), 0);
+  ASSERT_EQ(__ruaLoadStreamM(back.slot(), image.data()), 0);
+  EXPECT_EQ(record(back), record(large));
 
   // A row may claim no more than a head, or less, or more seed words than it has state.
   for (int32_t size : {0, 15, 16, 20}) {
