@@ -9,7 +9,7 @@ namespace ork {
 // Negative inputs are rare: -1 to -4 have the status 1 to 4, others none. The rare result is
 // 1000 - x, the common one 2x + 1 (binary: with y for 1; two outputs: also -x).
 template <class T> struct Rule {
-  static int status(T x) { return x >= T(-4) && x == T(int(x)) ? int(-x) : 0; }
+  static int status(T x) { return x < 0 && x >= T(-4) && x == T(int(x)) ? int(-x) : 0; }
   static u32x4 rare(vec_of<T> x) { return as<u32x4>(x); }
 };
 
