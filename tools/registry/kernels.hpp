@@ -1,5 +1,5 @@
 #pragma once
-// The registry of vector kernels as the tests see it: one row for each function and type,
+// The registry of vector kernels as tests, meter and benchmarks see it: one row for each function and type,
 // called through its exported table.
 #include <cstdint>
 #include <string>

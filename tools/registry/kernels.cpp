@@ -1,4 +1,4 @@
-#include "support/kernels.hpp"
+#include "registry/kernels.hpp"
 
 #include <set>
 
@@ -6,7 +6,7 @@ const std::vector<Slot> slots = {
 #define SLOT(type, function, form, la, ha, ep)      \
   {#type[0], #function, Form::form, {la, ha, ep},    \
    reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab)},
-#include "support/slots.inc"
+#include "registry/slots.inc"
 #undef SLOT
 };
 
