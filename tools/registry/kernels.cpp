@@ -5,7 +5,8 @@
 const std::vector<Slot> slots = {
 #define SLOT(type, function, form, la, ha, ep)      \
   {#type[0], #function, Form::form, {la, ha, ep},    \
-   reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab)},
+   reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab), \
+   ork_zem_kernel_##type##function##_ctab},
 #include "registry/slots.inc"
 #undef SLOT
 };

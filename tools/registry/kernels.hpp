@@ -15,6 +15,7 @@ struct Slot {
   Form form;
   const char* kernels[3];  // "W7LA", ... by level
   const void* const* table;
+  const float* costs;
 
   bool exists(int level) const { return table[level] != nullptr; }
   std::string name(int level) const {
