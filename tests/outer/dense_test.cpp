@@ -284,7 +284,7 @@ TYPED_TEST(DenseTest, Trmm) {
           for (int order : sizes)
             for (int other : {1, 3, 4, 9, 70, 900})
               for (R alpha : {R(1), R(-0.5), R(0)}) {
-                if (other == 900 && (order != 40 || alpha != 1))
+                if (other == 900 && (order != 40 || alpha != 1 || diag == 'u'))
                   continue;  // more than a cached piece of B
                 TRACE(side << uplo << trans << diag << " order " << order << " by " << other
                            << " alpha " << alpha);
