@@ -29,6 +29,9 @@ uint32_t multiply(uint32_t a, uint32_t b) {
   return s >= kModulus ? s - kModulus : s;
 }
 
+// True of the states that seeds lead to.
+bool below_modulus(uint32_t x) { return x != 0 && x < kModulus; }
+
 uint32_t power(uint32_t base, uint64_t exponent) {
   uint32_t result = 1;
   for (; exponent != 0; exponent >>= 1) {
@@ -38,88 +41,88 @@ uint32_t power(uint32_t base, uint64_t exponent) {
   return result;
 }
 
-// Two states in the even 32-bit words. A second fold stands for the conditional
-// subtraction: it differs only for the sum 2^31 - 1, that is for a product of 0.
-__m128i step2(__m128i x, __m128i a) {
-  const __m128i mask = _mm_set1_epi64x(kModulus);
-  const __m128i p = _mm_mul_epu32(x, a);
-  const __m128i s = _mm_add_epi64(_mm_and_si128(p, mask), _mm_srli_epi64(p, 31));
-  return _mm_add_epi64(_mm_and_si128(s, mask), _mm_srli_epi64(s, 31));
+// Vectors hold two states each, in the low halves of their 64-bit lanes.
+//
+// The four state vectors fill half of the registers, so the constants stay in memory: the
+// loop hides where they come from, or the compiler would take registers for them and spill
+// the states.
+struct alignas(16) Constants {
+  __m128i mask = _mm_set1_epi64x(kModulus);
+  __m128i a8 = {};
+  __m128d two52 = _mm_set1_pd(0x1p52);
+  __m128d scale = {}, shift = {};
+};
+
+// A second fold stands for the conditional subtraction: it differs only for the sum
+// 2^31 - 1, that is for a product of 0.
+inline __m128i step(__m128i x, const Constants& c) {
+  const __m128i p = _mm_mul_epu32(x, c.a8);
+  const __m128i s = _mm_add_epi64(_mm_and_si128(p, c.mask), _mm_srli_epi64(p, 31));
+  return _mm_add_epi64(_mm_and_si128(s, c.mask), _mm_srli_epi64(s, 31));
 }
 
-// What becomes of the states, eight at a time or one alone.
+// x scale + shift. Or-ed into the mantissa of 2^52, a state is that much above it.
+inline __m128d real(__m128i x, const Constants& c) {
+  const __m128d z = _mm_sub_pd(_mm_or_pd(_mm_castsi128_pd(x), c.two52), c.two52);
+  return _mm_add_pd(_mm_mul_pd(z, c.scale), c.shift);
+}
+
+// What is stored of four states, or of one.
 struct Integers {
-  uint32_t* r;
-
-  void put(uint32_t x) { *r++ = x; }
-  void put8(const __m128i (&x)[4]) {
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; i += 2, r += 4) {
-      const __m128 even = _mm_shuffle_ps(_mm_castsi128_ps(x[i]), _mm_castsi128_ps(x[i + 1]), 0x88);
-      _mm_storeu_ps(reinterpret_cast<float*>(r), even);
-    }
+  using Item = uint32_t;
+  static void put4(uint32_t* r, __m128i x, __m128i y, const Constants&) {
+    const __m128 words = _mm_shuffle_ps(_mm_castsi128_ps(x), _mm_castsi128_ps(y), 0x88);
+    _mm_storeu_ps(reinterpret_cast<float*>(r), words);
+  }
+  static void put(uint32_t* r, uint32_t x, const Constants&) { *r = x; }
+};
+struct Doubles {
+  using Item = double;
+  static void put4(double* r, __m128i x, __m128i y, const Constants& c) {
+    _mm_storeu_pd(r, real(x, c));
+    _mm_storeu_pd(r + 2, real(y, c));
+  }
+  static void put(double* r, uint32_t x, const Constants& c) {
+    _mm_store_sd(r, real(_mm_cvtsi32_si128(int32_t(x)), c));
+  }
+};
+struct Floats {
+  using Item = float;
+  static void put4(float* r, __m128i x, __m128i y, const Constants& c) {
+    _mm_storeu_ps(r, _mm_movelh_ps(_mm_cvtpd_ps(real(x, c)), _mm_cvtpd_ps(real(y, c))));
+  }
+  static void put(float* r, uint32_t x, const Constants& c) {
+    _mm_store_ss(r, _mm_cvtpd_ps(real(_mm_cvtsi32_si128(int32_t(x)), c)));
   }
 };
 
-struct Reals {
-  double scale, shift;
-  __m128d scale2, shift2;
-
-  Reals(double a, double b)
-      : scale((b - a) * kStep), shift(a), scale2(_mm_set1_pd(scale)), shift2(_mm_set1_pd(shift)) {}
-  double real(uint32_t x) const { return double(int32_t(x)) * scale + shift; }
-  // Or-ed into the mantissa of 2^52, a word is that much above it.
-  __m128d real2(__m128i x) const {
-    const __m128d two52 = _mm_set1_pd(0x1p52);
-    const __m128d z = _mm_sub_pd(_mm_or_pd(_mm_castsi128_pd(x), two52), two52);
-    return _mm_add_pd(_mm_mul_pd(z, scale2), shift2);
-  }
-};
-
-struct Doubles : Reals {
-  double* r;
-
-  Doubles(double* r, double a, double b) : Reals(a, b), r(r) {}
-  void put(uint32_t x) { *r++ = real(x); }
-  void put8(const __m128i (&x)[4]) {
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i, r += 2) _mm_storeu_pd(r, real2(x[i]));
-  }
-};
-
-struct Floats : Reals {
-  float* r;
-
-  Floats(float* r, double a, double b) : Reals(a, b), r(r) {}
-  void put(uint32_t x) { *r++ = float(real(x)); }
-  void put8(const __m128i (&x)[4]) {
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; i += 2, r += 4)
-      _mm_storeu_ps(
-          r, _mm_movelh_ps(_mm_cvtpd_ps(real2(x[i])), _mm_cvtpd_ps(real2(x[i + 1]))));
-  }
-};
-
-template <class Output>
-void generate(Mcg31m1& state, int32_t n, Output out) {
-  uint32_t x = state.x;
-  const uint32_t a = state.a;
-  if (n >= 8 && x - 1 < kModulus - 1 && a - 1 < kModulus - 1) {
-    alignas(16) uint32_t lane[16] = {};  // eight states, each in the low half of 64 bits
-    for (int i = 0; i < 16; i += 2, x = multiply(x, a)) lane[i] = x;
-    const __m128i a8 = _mm_set1_epi64x(power(a, 8));
+template <class Form>
+void generate(RuaStream* stream, int32_t n, typename Form::Item* r, double a, double b) {
+  Mcg31m1& s = state<Mcg31m1>(stream);
+  Constants constants;
+  constants.scale = _mm_set1_pd((b - a) * kStep);
+  constants.shift = _mm_set1_pd(a);
+  uint32_t x = s.x;
+  if (n >= 8 && below_modulus(x) && below_modulus(s.a)) {
+    constants.a8 = _mm_set1_epi64x(power(s.a, 8));
     __m128i v[4];
+    for (__m128i& two : v) {
+      const uint32_t next = multiply(x, s.a);
+      two = _mm_set_epi64x(next, x);
+      x = multiply(next, s.a);
+    }
+    for (; n >= 8; n -= 8, r += 8) {
+      const Constants* c = &constants;
+      asm("" : "+r"(c));
+      Form::put4(r, v[0], v[1], *c);
+      Form::put4(r + 4, v[2], v[3], *c);
 #pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) v[i] = _mm_load_si128(reinterpret_cast<__m128i*>(lane) + i);
-    for (; n >= 8; n -= 8) {
-      out.put8(v);
-#pragma GCC unroll 4
-      for (__m128i& w : v) w = step2(w, a8);
+      for (__m128i& two : v) two = step(two, *c);
     }
     x = _mm_cvtsi128_si32(v[0]);
   }
-  for (; n > 0; --n, x = multiply(x, a)) out.put(x);
-  state.x = x;
+  for (; n > 0; --n, ++r, x = multiply(x, s.a)) Form::put(r, x, constants);
+  s.x = x;
 }
 
 }  // namespace
@@ -150,16 +153,16 @@ ORK_EXPORT int32_t __ruaBRngMCG31M1InitStream(int32_t method, RuaStream* stream,
 }
 
 ORK_EXPORT int32_t __ruasBRngMCG31M1(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  generate(state<Mcg31m1>(stream), n, Floats(r, a, b));
+  generate<Floats>(stream, n, r, a, b);
   return RUA_STATUS_OK;
 }
 
 ORK_EXPORT int32_t __ruadBRngMCG31M1(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  generate(state<Mcg31m1>(stream), n, Doubles(r, a, b));
+  generate<Doubles>(stream, n, r, a, b);
   return RUA_STATUS_OK;
 }
 
 ORK_EXPORT int32_t __ruaiBRngMCG31M1(RuaStream* stream, int32_t n, void* r) {
-  generate(state<Mcg31m1>(stream), n, Integers{static_cast<uint32_t*>(r)});
+  generate<Integers>(stream, n, static_cast<uint32_t*>(r), 0, 1);
   return RUA_STATUS_OK;
 }
