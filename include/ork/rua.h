@@ -22,34 +22,34 @@ extern "C" {
 
 enum {
   RUA_STATUS_OK = 0,
-  RUA_STATUS_BAD_METHOD = -2,             /* an init function does not know the method */
-  RUA_STATUS_BAD_ARGUMENT = -3,           /* abstract constructors, quasi-random parameter blocks */
-  RUA_STATUS_NO_MEMORY = -4,              /* an allocation failed */
-  RUA_STATUS_NULL_POINTER = -5,           /* null function in a row, null ring of an abstract stream */
-  RUA_STATUS_BAD_GENERATOR = -1000,       /* the id names no row or no member; the registry is full */
-  RUA_STATUS_NO_LEAPFROG = -1002,         /* the generator has no leapfrog */
-  RUA_STATUS_NO_SKIPAHEAD = -1003,        /* the generator has no skip-ahead */
-  RUA_STATUS_BAD_STATE_SIZE = -1008,      /* registration: stateSize negative */
-  RUA_STATUS_BAD_WORD_SIZE = -1009,       /* registration: wordSize not 4, 8 or 16 */
-  RUA_STATUS_BAD_SEED_WORDS = -1010,      /* registration: seedWords below 1 */
-  RUA_STATUS_BAD_BIT_COUNT = -1011,       /* registration: bitCount below 1 */
-  RUA_STATUS_SEQUENCE_ENDED = -1012,      /* a quasi-random sequence has run out */
-  RUA_STATUS_BAD_LEAPFROG_COUNT = -1013,  /* leapfrog: negative number of streams */
-  RUA_STATUS_NO_BITS_FORM = -1014,        /* the generator has no uniform-bits form */
-  RUA_STATUS_FILE_CLOSE = -1100,          /* closing a stream file failed */
-  RUA_STATUS_FILE_OPEN = -1101,           /* opening a stream file failed */
-  RUA_STATUS_FILE_WRITE = -1102,          /* writing a stream file failed */
-  RUA_STATUS_FILE_READ = -1103,           /* reading a stream image failed */
-  RUA_STATUS_BAD_FILE_FORMAT = -1110,     /* the header of a stream file is wrong */
-  RUA_STATUS_BAD_FILE_VERSION = -1111,    /* the version of a stream file is above 1 */
-  RUA_STATUS_ABSTRACT_CALLBACK = -1120,   /* refill returned a count below 0 or above the room */
-  RUA_STATUS_ABSTRACT_NO_DATA = -1121,    /* refill returned 0 */
-  RUA_STATUS_ABSTRACT_WRONG_FORM = -1122, /* an abstract stream has not the form asked for */
-  RUA_STATUS_NO_HARDWARE_RANDOM = -1130,  /* the processor has no RDRAND */
+  RUA_STATUS_BAD_METHOD = -2,        /* an init function does not know the method */
+  RUA_STATUS_BAD_ARGUMENT = -3,      /* abstract constructors, quasi-random parameter blocks */
+  RUA_STATUS_NO_MEMORY = -4,         /* an allocation failed */
+  RUA_STATUS_NULL_POINTER = -5,      /* null function in a row, null ring of an abstract stream */
+  RUA_STATUS_BAD_GENERATOR = -1000,  /* the id names no row or no member; the registry is full */
+  RUA_STATUS_NO_LEAPFROG = -1002,    /* the generator has no leapfrog */
+  RUA_STATUS_NO_SKIPAHEAD = -1003,   /* the generator has no skip-ahead */
+  RUA_STATUS_BAD_STATE_SIZE = -1008, /* registration: stateSize negative */
+  RUA_STATUS_BAD_WORD_SIZE = -1009,  /* registration: wordSize not 4, 8 or 16 */
+  RUA_STATUS_BAD_SEED_WORDS = -1010, /* registration: seedWords below 1 */
+  RUA_STATUS_BAD_BIT_COUNT = -1011,  /* registration: bitCount below 1 */
+  RUA_STATUS_SEQUENCE_ENDED = -1012, /* a quasi-random sequence has run out */
+  RUA_STATUS_BAD_LEAPFROG_COUNT = -1013,     /* leapfrog: negative number of streams */
+  RUA_STATUS_NO_BITS_FORM = -1014,           /* the generator has no uniform-bits form */
+  RUA_STATUS_FILE_CLOSE = -1100,             /* closing a stream file failed */
+  RUA_STATUS_FILE_OPEN = -1101,              /* opening a stream file failed */
+  RUA_STATUS_FILE_WRITE = -1102,             /* writing a stream file failed */
+  RUA_STATUS_FILE_READ = -1103,              /* reading a stream image failed */
+  RUA_STATUS_BAD_FILE_FORMAT = -1110,        /* the header of a stream file is wrong */
+  RUA_STATUS_BAD_FILE_VERSION = -1111,       /* the version of a stream file is above 1 */
+  RUA_STATUS_ABSTRACT_CALLBACK = -1120,      /* refill returned a count below 0 or above the room */
+  RUA_STATUS_ABSTRACT_NO_DATA = -1121,       /* refill returned 0 */
+  RUA_STATUS_ABSTRACT_WRONG_FORM = -1122,    /* an abstract stream has not the form asked for */
+  RUA_STATUS_NO_HARDWARE_RANDOM = -1130,     /* the processor has no RDRAND */
   RUA_STATUS_HARDWARE_RANDOM_FAILED = -1131, /* RDRAND failed too often */
-  RUA_STATUS_BAD_MEMORY_FORMAT = -1200,   /* the header of a memory image is wrong */
-  RUA_STATUS_NO_SHARED_ENTRY = -3000,     /* no row of the shared table has this key */
-  RUA_STATUS_SHARED_TABLE_FULL = -3001    /* the shared table has no free row */
+  RUA_STATUS_BAD_MEMORY_FORMAT = -1200,      /* the header of a memory image is wrong */
+  RUA_STATUS_NO_SHARED_ENTRY = -3000,        /* no row of the shared table has this key */
+  RUA_STATUS_SHARED_TABLE_FULL = -3001       /* the shared table has no free row */
 };
 
 /* ---- Generator ids ----------------------------------------------------------------- */
@@ -144,8 +144,8 @@ int32_t __ruaNewStreamEx(RuaStream** stream, int32_t brng, int32_t n, const uint
 /* The step under all constructors: checks row and offset, allocates a record of
  * table[row].stateSize bytes (16 at least), aligned to 128, and fills its head. The
  * generator's words are left unset. */
-int32_t __ruaAllocateStream(RuaStream** stream, RuaBrngProperties* table, int32_t brng,
-                            int32_t row, int32_t offset);
+int32_t __ruaAllocateStream(RuaStream** stream, RuaBrngProperties* table, int32_t brng, int32_t row,
+                            int32_t offset);
 
 /* Releases record and chunks and sets *stream to null. A null *stream is allowed. */
 int32_t __ruaDeleteStream(RuaStream** stream);

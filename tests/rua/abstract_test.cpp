@@ -7,9 +7,11 @@ namespace {
 
 // What the callback of a stream does and saw. One at a time.
 struct Script {
-  int next = 0;                          // number to write next
-  std::vector<int> gives;                // per call: the count to write; beyond: the room
-  struct Call { int size, want, room, write; };
+  int next = 0;            // number to write next
+  std::vector<int> gives;  // per call: the count to write; beyond: the room
+  struct Call {
+    int size, want, room, write;
+  };
   std::vector<Call> calls;
   void* ring = nullptr;
   RuaStream* stream = nullptr;
@@ -33,20 +35,26 @@ int32_t refill(RuaStream* stream, int32_t* size, T* ring, int32_t* want, int32_t
 
 // The three forms behind one face. Real rings hold numbers from -2 to 6 as far as the stream
 // knows; asked for -2 to 6 they come out as they are.
-template <class T> struct Form;
-template <> struct Form<uint32_t> {
+template <class T>
+struct Form;
+template <>
+struct Form<uint32_t> {
   static int32_t make(RuaStream** s, int n, uint32_t* ring) {
     return __ruaiNewAbstractStream(s, n, ring, refill<uint32_t>);
   }
   static int32_t draw(RuaStream* s, int n, uint32_t* r) { return __ruaiBRngiAbstract(s, n, r); }
 };
-template <> struct Form<double> {
+template <>
+struct Form<double> {
   static int32_t make(RuaStream** s, int n, double* ring) {
     return __ruadNewAbstractStream(s, n, ring, -2, 6, refill<double>);
   }
-  static int32_t draw(RuaStream* s, int n, double* r) { return __ruadBRngdAbstract(s, n, r, -2, 6); }
+  static int32_t draw(RuaStream* s, int n, double* r) {
+    return __ruadBRngdAbstract(s, n, r, -2, 6);
+  }
 };
-template <> struct Form<float> {
+template <>
+struct Form<float> {
   static int32_t make(RuaStream** s, int n, float* ring) {
     return __ruasNewAbstractStream(s, n, ring, -2, 6, refill<float>);
   }
@@ -74,7 +82,8 @@ struct Source {
   }
 };
 
-template <class T> class Abstract : public RuaTest {};
+template <class T>
+class Abstract : public RuaTest {};
 using Types = testing::Types<uint32_t, double, float>;
 TYPED_TEST_SUITE(Abstract, Types);
 class AbstractStream : public RuaTest {};
@@ -148,12 +157,9 @@ TYPED_TEST(Abstract, FailedRequestLeavesTheStreamAndWhatItDelivered) {
     int32_t status;
     int delivered;
   } cases[] = {
-      {{0}, RUA_STATUS_ABSTRACT_NO_DATA, 2},
-      {{-1}, RUA_STATUS_ABSTRACT_CALLBACK, 2},
-      {{INT32_MIN}, RUA_STATUS_ABSTRACT_CALLBACK, 2},
-      {{6}, RUA_STATUS_ABSTRACT_CALLBACK, 2},
-      {{3, 0}, RUA_STATUS_ABSTRACT_NO_DATA, 5},
-      {{5, 1, -7}, RUA_STATUS_ABSTRACT_CALLBACK, 8},
+      {{0}, RUA_STATUS_ABSTRACT_NO_DATA, 2},          {{-1}, RUA_STATUS_ABSTRACT_CALLBACK, 2},
+      {{INT32_MIN}, RUA_STATUS_ABSTRACT_CALLBACK, 2}, {{6}, RUA_STATUS_ABSTRACT_CALLBACK, 2},
+      {{3, 0}, RUA_STATUS_ABSTRACT_NO_DATA, 5},       {{5, 1, -7}, RUA_STATUS_ABSTRACT_CALLBACK, 8},
   };
   for (const auto& c : cases) {
     Source<TypeParam> source(5);

@@ -168,7 +168,10 @@ TEST_F(Image, SharedChunksMeetTheLiveData) {
 }
 
 TEST_F(Image, VersionsAndOrdersOfTheFirstWord) {
-  const Bytes image = [] { Stream s = example(); return saved(s); }();
+  const Bytes image = [] {
+    Stream s = example();
+    return saved(s);
+  }();
   const Bytes plain(image.begin(), image.begin() + 24);
   const auto with_word = [](Bytes bytes, std::initializer_list<uint8_t> word, uint8_t chunks) {
     std::copy(word.begin(), word.end(), bytes.begin());
@@ -181,22 +184,28 @@ TEST_F(Image, VersionsAndOrdersOfTheFirstWord) {
   const struct {
     std::initializer_list<uint8_t> word;
     int32_t file, memory;
-  } words[] = {
-      {{0, 'R', 'N', 'G'}, 0, 0},           {{1, 'R', 'N', 'G'}, 0, 0},
-      {{2, 'R', 'N', 'G'}, version, memory}, {{255, 'R', 'N', 'G'}, version, memory},
-      {{'R', 'N', 'G', 0}, 0, 0},           {{'R', 'N', 'G', 1}, 0, 0},
-      {{'R', 'N', 'G', 2}, version, memory}, {{'R', 'N', 'G', 255}, version, memory},
-      {{1, 'r', 'N', 'G'}, format, memory}, {{1, 'R', 'N', 'H'}, format, memory},
-      {{1, 'R', 'M', 'G'}, format, memory}, {{'R', 'N', 1, 'G'}, format, memory},
-      {{'G', 'N', 'R', 1}, format, memory}, {{1, 'G', 'N', 'R'}, format, memory},
-      {{0, 0, 0, 0}, format, memory},       {{1, 0, 0, 0}, format, memory}};
+  } words[] = {{{0, 'R', 'N', 'G'}, 0, 0},
+               {{1, 'R', 'N', 'G'}, 0, 0},
+               {{2, 'R', 'N', 'G'}, version, memory},
+               {{255, 'R', 'N', 'G'}, version, memory},
+               {{'R', 'N', 'G', 0}, 0, 0},
+               {{'R', 'N', 'G', 1}, 0, 0},
+               {{'R', 'N', 'G', 2}, version, memory},
+               {{'R', 'N', 'G', 255}, version, memory},
+               {{1, 'r', 'N', 'G'}, format, memory},
+               {{1, 'R', 'N', 'H'}, format, memory},
+               {{1, 'R', 'M', 'G'}, format, memory},
+               {{'R', 'N', 1, 'G'}, format, memory},
+               {{'G', 'N', 'R', 1}, format, memory},
+               {{1, 'G', 'N', 'R'}, format, memory},
+               {{0, 0, 0, 0}, format, memory},
+               {{1, 0, 0, 0}, format, memory}};
   for (const auto& w : words) {
     SCOPED_TRACE(testing::PrintToString(Bytes(w.word)));
     expect_load(with_word(plain, w.word, 0), w.file, w.memory, &none);
   }
   // Chunks need the version in front: in the other order they cannot be read.
-  for (uint8_t v : {0, 1})
-    expect_load(with_word(image, {'R', 'N', 'G', v}, 3), read, read);
+  for (uint8_t v : {0, 1}) expect_load(with_word(image, {'R', 'N', 'G', v}, 3), read, read);
 
   // Version 0 has no keys: all chunks are private.
   Bytes old = example_head(2);
@@ -219,25 +228,24 @@ TEST_F(Image, EachHeaderFieldCounts) {
     size_t offset, size;
     uint32_t value;
     int32_t file, memory;
-  } edits[] = {
-      {4, 2, 15, format, memory},
-      {4, 2, 0, format, memory},
-      {4, 2, 17, 0, 0},  // a longer head passes, and nothing is passed over
-      {4, 2, 0xFFFF, 0, 0},
-      {6, 2, 7, format, memory},
-      {6, 2, 9, format, memory},
-      {6, 2, 0x108, format, memory},
-      {8, 2, 1, RUA_STATUS_FILE_READ, kUntouched},
-      {8, 2, 0x100, RUA_STATUS_FILE_READ, kUntouched},
-      {10, 2, 0xFFFF, 0, 0},
-      {12, 4, 0, 0, 0},
-      {12, 4, 1, format, memory},  // another generator, whose state has another size
-      {12, 4, RUA_BRNG_NONDETERM, __ruaCPUisRDRAND() ? 0 : RUA_STATUS_NO_HARDWARE_RANDOM,
-       __ruaCPUisRDRAND() ? 0 : RUA_STATUS_NO_HARDWARE_RANDOM},
-      {12, 4, 0x100001, format, memory},
-      {12, 4, 279, format, memory},
-      {12, 4, 0xFFFFFFFF, format, memory},
-      {12, 4, 0x7FFFFFFF, format, memory}};
+  } edits[] = {{4, 2, 15, format, memory},
+               {4, 2, 0, format, memory},
+               {4, 2, 17, 0, 0},  // a longer head passes, and nothing is passed over
+               {4, 2, 0xFFFF, 0, 0},
+               {6, 2, 7, format, memory},
+               {6, 2, 9, format, memory},
+               {6, 2, 0x108, format, memory},
+               {8, 2, 1, RUA_STATUS_FILE_READ, kUntouched},
+               {8, 2, 0x100, RUA_STATUS_FILE_READ, kUntouched},
+               {10, 2, 0xFFFF, 0, 0},
+               {12, 4, 0, 0, 0},
+               {12, 4, 1, format, memory},  // another generator, whose state has another size
+               {12, 4, RUA_BRNG_NONDETERM, __ruaCPUisRDRAND() ? 0 : RUA_STATUS_NO_HARDWARE_RANDOM,
+                __ruaCPUisRDRAND() ? 0 : RUA_STATUS_NO_HARDWARE_RANDOM},
+               {12, 4, 0x100001, format, memory},
+               {12, 4, 279, format, memory},
+               {12, 4, 0xFFFFFFFF, format, memory},
+               {12, 4, 0x7FFFFFFF, format, memory}};
   for (const auto& e : edits) {
     SCOPED_TRACE(testing::Message() << e.offset << ": " << e.value);
     Bytes bytes = image;
@@ -351,8 +359,8 @@ TEST_F(Image, FailingAllocations) {
     for (bool file : {true, false}) {
       const int allocations = blocks::fail_each([&] {
         RuaStream* t = reinterpret_cast<RuaStream*>(16);
-        const int32_t status = file ? __ruaLoadStreamF(&t, file_.c_str(), name)
-                                    : __ruaLoadStreamM(&t, image.data());
+        const int32_t status =
+            file ? __ruaLoadStreamF(&t, file_.c_str(), name) : __ruaLoadStreamM(&t, image.data());
         EXPECT_EQ(status, blocks::failed() ? RUA_STATUS_NO_MEMORY : 0);
         EXPECT_EQ(t == nullptr, blocks::failed());
         __ruaDeleteStream(&t);

@@ -79,8 +79,8 @@ TEST_F(Mcg31m1, FormsFollowTheRecurrence) {
 }
 
 TEST_F(Mcg31m1, PowerIsThatOfTheField) {
-  for (uint64_t e : {0ull, 1ull, 2ull, 3ull, 0x80000000ull, 0x7FFFFFFEull, 0x123456789ABCDEFull,
-                     ~0ull})
+  for (uint64_t e :
+       {0ull, 1ull, 2ull, 3ull, 0x80000000ull, 0x7FFFFFFEull, 0x123456789ABCDEFull, ~0ull})
     for (uint32_t base : {1u, 2u, uint32_t(kA), 0x7FFFFFFEu, 0x7FFFFFFFu, 0xFFFFFFFFu})
       EXPECT_EQ(__ruaiPowMod2P31M1(base, uint32_t(e), uint32_t(e >> 32)), power(base % kM, e))
           << base << '^' << e;

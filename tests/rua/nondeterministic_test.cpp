@@ -36,11 +36,11 @@ TEST_F(Nondeterministic, RetriesARound) {
   } cases[] = {
       {"", 10, 4, 0, {1, 2, 3, 4}, 4},
       {"", 1, 3, 0, {1, 2, 3}, 3},
-      {"..x.", 10, 4, 0, {1, 2, 5, 6}, 6},   // the whole pair is drawn again
+      {"..x.", 10, 4, 0, {1, 2, 5, 6}, 6},  // the whole pair is drawn again
       {"...x", 10, 4, 0, {1, 2, 5, 6}, 6},
-      {"..x", 10, 3, 0, {1, 2, 4}, 4},       // the odd end draws one word
-      {"x.x.", 3, 2, 0, {5, 6}, 6},          // two repeats within an allowance of three
-      {"x.x.x.", 3, 2, failed, {0, 0}, 8},   // the third is good and does not count
+      {"..x", 10, 3, 0, {1, 2, 4}, 4},      // the odd end draws one word
+      {"x.x.", 3, 2, 0, {5, 6}, 6},         // two repeats within an allowance of three
+      {"x.x.x.", 3, 2, failed, {0, 0}, 8},  // the third is good and does not count
       {"x.", 1, 2, failed, {0, 0}, 4},
       {"..x.x.", 2, 5, failed, {1, 2, 0, 0, 9}, 8},
       {"..xxxx", 2, 3, failed, {1, 2, 0}, 5},
@@ -58,9 +58,9 @@ TEST_F(Nondeterministic, RetriesARound) {
 
     draws = 0;
     std::vector<float> f(c.output.size(), 9);
-    EXPECT_EQ(ork::rua::draw_singles(Scripted{c.pattern, &draws}, c.retries, c.n, f.data(), 0,
-                                     0x1p32f),
-              c.status);
+    EXPECT_EQ(
+        ork::rua::draw_singles(Scripted{c.pattern, &draws}, c.retries, c.n, f.data(), 0, 0x1p32f),
+        c.status);
     for (size_t i = 0; i < f.size(); ++i)  // a failed round leaves what was there
       EXPECT_EQ(f[i], c.output[i] == 0 ? 9 : float(c.output[i])) << c.pattern;
 
@@ -102,9 +102,9 @@ TEST_F(Nondeterministic, ConvertsWithOneRounding) {
   } cases[] = {{0, 0, 0},
                {1, 0, 1},
                {0, 0x80000000, 0x1p63},
-               {0x400, 0x80000000, 0x1p63},                       // tie to even
-               {0x401, 0x80000000, 0x1.0000000000001p63},         // beyond it by one bit
-               {0xC00, 0x80000000, 0x1.0000000000002p63},         // tie to even, upwards
+               {0x400, 0x80000000, 0x1p63},                // tie to even
+               {0x401, 0x80000000, 0x1.0000000000001p63},  // beyond it by one bit
+               {0xC00, 0x80000000, 0x1.0000000000002p63},  // tie to even, upwards
                {0xFFFFFBFF, 0xFFFFFFFF, 0x1.fffffffffffffp63},
                {0xFFFFFFFF, 0xFFFFFFFF, 0x1p64},
                {0x200, 0x40000000, 0x1p62},

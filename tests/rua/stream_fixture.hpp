@@ -16,7 +16,8 @@ class Stream {
  public:
   Stream() = default;
   Stream(int32_t brng, const std::vector<uint32_t>& seed) {
-    EXPECT_EQ(__ruaNewStreamEx(&stream_, brng, int(seed.size()), seed.data()), 0) << std::hex << brng;
+    EXPECT_EQ(__ruaNewStreamEx(&stream_, brng, int(seed.size()), seed.data()), 0)
+        << std::hex << brng;
   }
   Stream(Stream&& other) : stream_(std::exchange(other.stream_, nullptr)) {}
   ~Stream() { __ruaDeleteStream(&stream_); }
@@ -24,7 +25,10 @@ class Stream {
   operator RuaStream*() const { return stream_; }
   RuaStream* operator->() const { return stream_; }
   RuaStream** slot() { return &stream_; }
-  template <class T> T* state() const { return reinterpret_cast<T*>(stream_ + 1); }
+  template <class T>
+  T* state() const {
+    return reinterpret_cast<T*>(stream_ + 1);
+  }
 
   std::vector<uint32_t> integers(int n) const {
     const RuaBrngProperties row = properties(stream_->brng);
@@ -52,9 +56,8 @@ inline std::vector<uint8_t> record(const RuaStream* stream) {
 
 // A generator of every kind with a sequence of its own.
 inline constexpr int32_t kSequences[] = {
-    RUA_BRNG_MCG31M1, RUA_BRNG_R250,          RUA_BRNG_MRG32K3A,
-    RUA_BRNG_MCG59,   RUA_BRNG_WH + 272,      RUA_BRNG_MT19937,
-    276,              RUA_BRNG_MT2203 + 6023, RUA_BRNG_SFMT19937};
+    RUA_BRNG_MCG31M1, RUA_BRNG_R250, RUA_BRNG_MRG32K3A,      RUA_BRNG_MCG59,    RUA_BRNG_WH + 272,
+    RUA_BRNG_MT19937, 276,           RUA_BRNG_MT2203 + 6023, RUA_BRNG_SFMT19937};
 
 // Every block that a test got is gone at its end.
 class RuaTest : public ::testing::Test {

@@ -176,15 +176,14 @@ int32_t drop_if_failed(int32_t status, RuaStream** stream) {
 }  // namespace
 
 ORK_EXPORT int32_t __ruaSaveStreamF(const RuaStream* stream, const char* name, int32_t len) {
-  return with_file(name, len, "wb", [=](FILE* file) {
-    return save(FileSink{file}, stream, header_of(stream));
-  });
+  return with_file(name, len, "wb",
+                   [=](FILE* file) { return save(FileSink{file}, stream, header_of(stream)); });
 }
 
 ORK_EXPORT int32_t __ruaLoadStreamF(RuaStream** stream, const char* name, int32_t len) {
   *stream = nullptr;
-  const int32_t status = with_file(
-      name, len, "rb", [=](FILE* file) { return load(FileSource{file}, stream); });
+  const int32_t status =
+      with_file(name, len, "rb", [=](FILE* file) { return load(FileSource{file}, stream); });
   return drop_if_failed(status, stream);
 }
 

@@ -11,12 +11,10 @@ using Row = RuaBrngProperties;
 constexpr Row built_in[] = {
     {24, 1, 0, 4, 31, __ruaBRngMCG31M1InitStream, __ruasBRngMCG31M1, __ruadBRngMCG31M1,
      __ruaiBRngMCG31M1},
-    {1024, 252, 1, 4, 32, __ruaBRngR250InitStream, __ruasBRngR250, __ruadBRngR250,
-     __ruaiBRngR250},
+    {1024, 252, 1, 4, 32, __ruaBRngR250InitStream, __ruasBRngR250, __ruadBRngR250, __ruaiBRngR250},
     {40, 6, 1, 4, 32, __ruaBRngMRG32K3AInitStream, __ruasBRngMRG32K3A, __ruadBRngMRG32K3A,
      __ruaiBRngMRG32K3A},
-    {32, 1, 0, 8, 59, __ruaBRngMCG59InitStream, __ruasBRngMCG59, __ruadBRngMCG59,
-     __ruaiBRngMCG59},
+    {32, 1, 0, 8, 59, __ruaBRngMCG59InitStream, __ruasBRngMCG59, __ruadBRngMCG59, __ruaiBRngMCG59},
     {48, 4, 1, 16, 24, __ruaBRngWHInitStream, __ruasBRngWH, __ruadBRngWH, __ruaiBRngWH},
     {11648, 2604, 0, 4, 32, __ruaBRngSobolInitStream, __ruasBRngSobol, __ruadBRngSobol,
      __ruaiBRngSobol},
@@ -67,8 +65,9 @@ constinit SmallTable small = [] {
   using S = SmallTable;
   S t{};
   for (int32_t i = 0; i < S::kRows; ++i)
-    t.row[i] = built_in[i < S::kFirstWh ? i : i <= S::kLastWh ? S::kFirstWh
-                                                               : S::kFirstWh + i - S::kLastWh];
+    t.row[i] = built_in[i < S::kFirstWh   ? i
+                        : i <= S::kLastWh ? S::kFirstWh
+                                          : S::kFirstWh + i - S::kLastWh];
   return t;
 }();
 

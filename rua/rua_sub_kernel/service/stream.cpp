@@ -1,9 +1,10 @@
 // Making, copying and positioning streams.
+#include "rua_sub_kernel/service/stream.hpp"
+
 #include <string.h>
 
 #include "frame/export.hpp"
 #include "ork/serv.h"
-#include "rua_sub_kernel/service/stream.hpp"
 
 using namespace ork::rua;
 

@@ -12,6 +12,4 @@ ORK_EXPORT int32_t __ruasBRngSobol(RuaStream*, int32_t, float*, float, float) {
 ORK_EXPORT int32_t __ruadBRngSobol(RuaStream*, int32_t, double*, double, double) {
   return RUA_STATUS_BAD_GENERATOR;
 }
-ORK_EXPORT int32_t __ruaiBRngSobol(RuaStream*, int32_t, void*) {
-  return RUA_STATUS_BAD_GENERATOR;
-}
+ORK_EXPORT int32_t __ruaiBRngSobol(RuaStream*, int32_t, void*) { return RUA_STATUS_BAD_GENERATOR; }
