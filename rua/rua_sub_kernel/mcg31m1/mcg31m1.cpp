@@ -6,6 +6,7 @@
 
 #include "frame/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
+#include "rua_sub_kernel/service/words.hpp"
 
 using namespace ork::rua;
 
@@ -46,11 +47,9 @@ uint32_t power(uint32_t base, uint64_t exponent) {
 // The four state vectors fill half of the registers, so the constants stay in memory: the
 // loop hides where they come from, or the compiler would take registers for them and spill
 // the states.
-struct alignas(16) Constants {
-  __m128i mask = _mm_set1_epi64x(kModulus);
-  __m128i a8 = {};
-  __m128d two52 = _mm_set1_pd(0x1p52);
-  __m128d scale = {}, shift = {};
+struct Constants {
+  __m128i mask, a8;
+  Affine real;
 };
 
 // A second fold stands for the conditional subtraction: it differs only for the sum
@@ -59,12 +58,6 @@ inline __m128i step(__m128i x, const Constants& c) {
   const __m128i p = _mm_mul_epu32(x, c.a8);
   const __m128i s = _mm_add_epi64(_mm_and_si128(p, c.mask), _mm_srli_epi64(p, 31));
   return _mm_add_epi64(_mm_and_si128(s, c.mask), _mm_srli_epi64(s, 31));
-}
-
-// x scale + shift. Or-ed into the mantissa of 2^52, a state is that much above it.
-inline __m128d real(__m128i x, const Constants& c) {
-  const __m128d z = _mm_sub_pd(_mm_or_pd(_mm_castsi128_pd(x), c.two52), c.two52);
-  return _mm_add_pd(_mm_mul_pd(z, c.scale), c.shift);
 }
 
 // What is stored of four states, or of one.
@@ -79,29 +72,25 @@ struct Integers {
 struct Doubles {
   using Item = double;
   static void put4(double* r, __m128i x, __m128i y, const Constants& c) {
-    _mm_storeu_pd(r, real(x, c));
-    _mm_storeu_pd(r + 2, real(y, c));
+    _mm_storeu_pd(r, c.real(x));
+    _mm_storeu_pd(r + 2, c.real(y));
   }
-  static void put(double* r, uint32_t x, const Constants& c) {
-    _mm_store_sd(r, real(_mm_cvtsi32_si128(int32_t(x)), c));
-  }
+  static void put(double* r, uint32_t x, const Constants& c) { _mm_store_sd(r, c.real.one(x)); }
 };
 struct Floats {
   using Item = float;
   static void put4(float* r, __m128i x, __m128i y, const Constants& c) {
-    _mm_storeu_ps(r, _mm_movelh_ps(_mm_cvtpd_ps(real(x, c)), _mm_cvtpd_ps(real(y, c))));
+    _mm_storeu_ps(r, _mm_movelh_ps(_mm_cvtpd_ps(c.real(x)), _mm_cvtpd_ps(c.real(y))));
   }
   static void put(float* r, uint32_t x, const Constants& c) {
-    _mm_store_ss(r, _mm_cvtpd_ps(real(_mm_cvtsi32_si128(int32_t(x)), c)));
+    _mm_store_ss(r, _mm_cvtpd_ps(c.real.one(x)));
   }
 };
 
 template <class Form>
 void generate(RuaStream* stream, int32_t n, typename Form::Item* r, double a, double b) {
   Mcg31m1& s = state<Mcg31m1>(stream);
-  Constants constants;
-  constants.scale = _mm_set1_pd((b - a) * kStep);
-  constants.shift = _mm_set1_pd(a);
+  Constants constants = {_mm_set1_epi64x(kModulus), {}, Affine(a, b, kStep)};
   uint32_t x = s.x;
   if (n >= 8 && below_modulus(x) && below_modulus(s.a)) {
     constants.a8 = _mm_set1_epi64x(power(s.a, 8));
