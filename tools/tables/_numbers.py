@@ -53,7 +53,7 @@ def table(command, rule, rows):
     """Text of an .inc file: what it holds, how it was made, a line per row."""
     head = [f"// {line}" for line in rule.strip().splitlines()]
     head.append(f"// {mp.prec} bits of precision; made by ./dev tables {command}.")
-    return "\n".join(head + ["{" + ", ".join(row) + "}," for row in rows]) + "\n"
+    return "\n".join(head + [(", ".join(row) if len(row) == 1 else "{" + ", ".join(row) + "}") + "," for row in rows]) + "\n"
 
 
 def fit(f, powers, low, high, t, fixed=None, points=160, rounds=60):
