@@ -7,7 +7,7 @@
 #include <set>
 #include <sstream>
 
-#include "support/kernels.hpp"
+#include "registry/kernels.hpp"
 #include "support/pch.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "support/kernels.hpp"
+#include "registry/kernels.hpp"
 
 template <class T> struct SpecialCase {
   T a;         // input
