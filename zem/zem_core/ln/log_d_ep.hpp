@@ -33,7 +33,10 @@ template <class Base> struct LogEpD : Core<double> {
   static int special(const double* a, double* out) {
     const uint64_t image = as<uint64_t>(*a), magnitude = image & ~0ull >> 1;
     double result;
-    asm("fldt %2\n\tfldl %1\n\tfyl2x\n\tfstpl %0" : "=m"(result) : "m"(*a), "m"(Base::x87_log_2) : "st", "st(1)");
+    const X87Guard<x87_extended> nearest;  // the store rounds as the control word says
+    asm volatile("fldt %2\n\tfldl %1\n\tfyl2x\n\tfstpl %0" : "=m"(result)
+                 : "m"(*a), "m"(Base::x87_log_2)
+                 : "st", "st(1)", "memory");
     __builtin_memcpy(out, &result, sizeof result);
     if (magnitude == 0) return ZEM_STATUS_SINGULARITY;
     if (magnitude <= 0x7FF0000000000000 && image != magnitude) return ZEM_STATUS_DOMAIN;
