@@ -2,6 +2,7 @@
 // relative error 1.3e-4 on [-1/2, 1/2]; 2^n is added to the exponent field.
 // Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: given.
 #include "frame/chunk.hpp"
+#include "frame/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -10,14 +11,12 @@ namespace {
 constexpr float shifter = 12582912.0f;  // 1.5 * 2^23
 
 int vsexp_cout_rare(const float* a, float* out) {
-  uint32_t image;
-  __builtin_memcpy(&image, a, sizeof image);
-  if (image == 0xFF800000) {
+  if (sign(a) && magnitude(a) == infinity_bits<float>) {
     *out = 0.0f;
     return 0;
   }
   const float x = *a;
-  if ((image & 0x7FFFFFFF) >= 0x7F800000) {
+  if (magnitude(a) >= infinity_bits<float>) {
     *out = x * x;
     return 0;
   }

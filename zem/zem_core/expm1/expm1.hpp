@@ -43,10 +43,10 @@ ORK_INLINE f64x2 expm1_scale(f64x2 n, f64x2& s_lo) {
   const u64x2 exponent = as<u64x2>(image & u32x4{0x3FF800, 0, 0x3FF800, 0}) << 41;
   const u32x4 row = image & 0x7F0;
   const char* const table = (const char*)expm1_split128_d;
-  const f64x2 row0 = *(const f64x2*)(table + row[0]);
-  const f64x2 row1 = *(const f64x2*)(table + _mm_extract_epi16((__m128i)row, 4));
-  s_lo = (f64x2)_mm_unpackhi_pd(row0, row1) * as<f64x2>(exponent);
-  return or_bits(_mm_unpacklo_pd(row0, row1), exponent);
+  f64x2 high, low;
+  gather_pairs((const double*)(table + row[0]), (const double*)(table + word<4>(row)), high, low);
+  s_lo = low * as<f64x2>(exponent);
+  return or_bits(high, exponent);
 }
 
 // Puts back the sign of a zero; all other results have the sign of x by themselves.

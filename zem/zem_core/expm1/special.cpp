@@ -1,6 +1,7 @@
 // Expm1 of one element beyond the fast range: -1 below, e^x above, where e^x - 1 rounds to it.
 #include "exp/tables.hpp"
 #include "expm1/expm1.hpp"
+#include "frame/image.hpp"
 
 namespace ork {
 namespace {
@@ -21,16 +22,12 @@ double exp_of_large(double x) {
 }
 
 template <class T> int rare(const T* a, T* out, T limit, T largest) {
-  bits_of<T> image;
-  __builtin_memcpy(&image, a, sizeof image);
-  constexpr bits_of<T> sign = (bits_of<T>)1 << (8 * sizeof(T) - 1);
-  const bits_of<T> infinity = as<bits_of<T>>((T)__builtin_inf());
-  if (image & sign && (image & ~sign) <= infinity) {
+  if (sign(a) && magnitude(a) <= infinity_bits<T>) {
     *out = T(-1);
     return 0;
   }
   const T x = *a;
-  if ((image & ~sign) >= infinity) {
+  if (magnitude(a) >= infinity_bits<T>) {
     *out = x * x;
     return 0;
   }

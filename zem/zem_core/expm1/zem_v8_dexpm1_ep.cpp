@@ -15,8 +15,8 @@ struct Expm1EpD : Expm1D {
     const u32x4 image = as<u32x4>(n + 844424930262912.0), row = image & 0x3F8;
     const u64x2 exponent = as<u64x2>(image & u32x4{0x1FFC00, 0, 0x1FFC00, 0}) << 42;
     const char* const table = (const char*)exp_mantissa128_d;
-    const f64x2 mantissa = _mm_loadh_pd(_mm_load_sd((const double*)(table + row[0])),
-                                        (const double*)(table + _mm_extract_epi16((__m128i)row, 4)));
+    const f64x2 mantissa =
+        gather((const double*)(table + row[0]), (const double*)(table + word<4>(row)));
     const f64x2 s = or_bits(mantissa, exponent);
     test(x, rare);
     return with_sign_of(x, (s - 1.0) + s * p);
