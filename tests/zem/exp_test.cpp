@@ -16,33 +16,43 @@ const Limits limits_s = {{1.95, 0.58, 0x1p-12}, {false, false, true}};
 TEST(Exp, SpecialDouble) {
   for (int level = 0; level < 3; ++level) {
     const auto nan = [&](uint64_t image) {
-      return SpecialCase<double>{.a = from_bits<double>(image),
-                                 .r = from_bits<double>(level == 1 ? ~0ull : image | 0x0008000000000000),
-                                 .exact_nan = true};
+      return SpecialCase<double>{
+          .a = from_bits<double>(image),
+          .r = from_bits<double>(level == 1 ? ~0ull : image | 0x0008000000000000),
+          .exact_nan = true};
     };
-    check_special<double>({"Exp", level, "vdExp", 0.75, 0,
-                           {nan(0x7FF8000000000123),
-                            nan(0x7FF0000000000001),
-                            nan(0xFFF4000000000000),
-                            {inf<double>, inf<double>},
-                            {-inf<double>, 0.0},
-                            {0.0, 1.0},
-                            {-0.0, 1.0},
-                            {smallest_denormal<double>, 1.0},
-                            {-largest<double>, 0.0, ZEM_STATUS_UNDERFLOW},
-                            {-746.0, 0.0, ZEM_STATUS_UNDERFLOW},
-                            {-745.1332191019412, 0.0, ZEM_STATUS_UNDERFLOW},
-                            {from_bits<double>(0xC0874910D52D3051), smallest_denormal<double>, ZEM_STATUS_UNDERFLOW},
-                            {-740.0, from_bits<double>(0x55), ZEM_STATUS_UNDERFLOW},
-                            {709.7827128933841, inf<double>, ZEM_STATUS_OVERFLOW},
-                            {710.0, inf<double>, ZEM_STATUS_OVERFLOW},
-                            {largest<double>, inf<double>, ZEM_STATUS_OVERFLOW}}});
+    check_special<double>(
+        {"Exp",
+         level,
+         "vdExp",
+         0.75,
+         0,
+         {nan(0x7FF8000000000123),
+          nan(0x7FF0000000000001),
+          nan(0xFFF4000000000000),
+          {inf<double>, inf<double>},
+          {-inf<double>, 0.0},
+          {0.0, 1.0},
+          {-0.0, 1.0},
+          {smallest_denormal<double>, 1.0},
+          {-largest<double>, 0.0, ZEM_STATUS_UNDERFLOW},
+          {-746.0, 0.0, ZEM_STATUS_UNDERFLOW},
+          {-745.1332191019412, 0.0, ZEM_STATUS_UNDERFLOW},
+          {from_bits<double>(0xC0874910D52D3051), smallest_denormal<double>, ZEM_STATUS_UNDERFLOW},
+          {-740.0, from_bits<double>(0x55), ZEM_STATUS_UNDERFLOW},
+          {709.7827128933841, inf<double>, ZEM_STATUS_OVERFLOW},
+          {710.0, inf<double>, ZEM_STATUS_OVERFLOW},
+          {largest<double>, inf<double>, ZEM_STATUS_OVERFLOW}}});
   }
 }
 
 TEST(Exp, SpecialSingle) {
   for (int level = 0; level < 3; ++level)
-    check_special<float>({"Exp", level, "vsExp", 0.75f, 0,
+    check_special<float>({"Exp",
+                          level,
+                          "vsExp",
+                          0.75f,
+                          0,
                           {{quiet_nan<float>, quiet_nan<float>},
                            {from_bits<float>(0x7F800001), quiet_nan<float>},
                            {inf<float>, inf<float>},
@@ -58,9 +68,11 @@ TEST(Exp, SpecialSingle) {
 }
 
 // Where a result is not exact, its status is.
-template <class T> void check_status(const char* function, int level, T x, int status) {
+template <class T>
+void check_status(const char* function, int level, T x, int status) {
   for (const Slot& slot : slots) {
-    if (slot.type != (sizeof(T) == 8 ? 'd' : 's') || std::string(slot.function) != function) continue;
+    if (slot.type != (sizeof(T) == 8 ? 'd' : 's') || std::string(slot.function) != function)
+      continue;
     T r;
     ork_zem_kernel_ClearErrStatus();
     Call<T>{&slot, level}(1, &x, &x, &r, &r);
@@ -109,12 +121,17 @@ TEST(Exp, FlushedToZero) {
 }
 
 TEST(Exp, Directed) {
-  const double step = 0.005415212348514943;  // ln 2/128; halfway between two: the table changes its row
-  std::vector<double> centres = {-708.3964185322642, -708.39599609375, 709.7772976810359, 709.78000528721};
+  const double step =
+      0.005415212348514943;  // ln 2/128; halfway between two: the table changes its row
+  std::vector<double> centres = {-708.3964185322642, -708.39599609375, 709.7772976810359,
+                                 709.78000528721};
   std::vector<float> centres_s = {87.3365479f, -87.3365479f, -103.2f};
-  for (int i = -300; i < 300; ++i) centres.push_back((i + 0.5) * step), centres_s.push_back(float((i + 0.5) * step));
-  check_directed<double>("Exp", expq, neighbours(centres, 20) + spread<double>(-745, 709.78, 20000), limits_d);
-  check_directed<float>("Exp", expq, neighbours(centres_s, 20) + spread<float>(-103.27, 88.72, 20000), limits_s);
+  for (int i = -300; i < 300; ++i)
+    centres.push_back((i + 0.5) * step), centres_s.push_back(float((i + 0.5) * step));
+  check_directed<double>("Exp", expq, neighbours(centres, 20) + spread<double>(-745, 709.78, 20000),
+                         limits_d);
+  check_directed<float>("Exp", expq,
+                        neighbours(centres_s, 20) + spread<float>(-103.27, 88.72, 20000), limits_s);
 }
 
 TEST(Exp, WorstCasesDouble) { check_worst_cases<double>("Exp", "exp", limits_d); }

@@ -13,9 +13,14 @@ namespace {
 const Limits limits_d = {{3.1, 0.65, 0x1p-30}, {false, false, true}};
 const Limits limits_s = {{0.6, 0.6, 0.6}, {false, false, false}};
 
-template <class T> void special(const char* name, T overflow) {
+template <class T>
+void special(const char* name, T overflow) {
   for (int level = 0; level < 3; ++level)
-    check_special<T>({"Expm1", level, name, T(0.75), 0,
+    check_special<T>({"Expm1",
+                      level,
+                      name,
+                      T(0.75),
+                      0,
                       {{quiet_nan<T>, quiet_nan<T>},
                        {-quiet_nan<T>, quiet_nan<T>},
                        {inf<T>, inf<T>},
@@ -39,15 +44,19 @@ TEST(Expm1, SpecialSingle) { special<float>("vsExpm1", 88.72283935546875f); }
 
 TEST(Expm1, Directed) {
   const double step = 0.005415212348514943;
-  std::vector<double> centres = {707.7032713517041, -707.7032713517041, -40, 1e-300, -1e-300, 1e-17};
+  std::vector<double> centres = {
+      707.7032713517041, -707.7032713517041, -40, 1e-300, -1e-300, 1e-17};
   std::vector<float> centres_s = {86.6433945f, -86.6433945f, 1e-8f, 1e-40f};
-  for (int i = -300; i < 300; ++i) centres.push_back((i + 0.5) * step), centres_s.push_back(float((i + 0.5) * step));
+  for (int i = -300; i < 300; ++i)
+    centres.push_back((i + 0.5) * step), centres_s.push_back(float((i + 0.5) * step));
   check_directed<double>("Expm1", expm1q,
-                         neighbours(centres, 20) + spread<double>(-40, 709.78, 10000) + spread<double>(-1, 1, 10000) +
-                             spread<double>(-0.01, 0.01, 10000) + spread<double>(707, 709.78, 2000),
+                         neighbours(centres, 20) + spread<double>(-40, 709.78, 10000) +
+                             spread<double>(-1, 1, 10000) + spread<double>(-0.01, 0.01, 10000) +
+                             spread<double>(707, 709.78, 2000),
                          limits_d);
   check_directed<float>("Expm1", expm1q,
-                        neighbours(centres_s, 20) + spread<float>(-20, 88.72, 10000) + spread<float>(-0.01, 0.01, 10000),
+                        neighbours(centres_s, 20) + spread<float>(-20, 88.72, 10000) +
+                            spread<float>(-0.01, 0.01, 10000),
                         limits_s);
 }
 

@@ -23,8 +23,9 @@ struct ExpHa {
     t = x * 92.33248261689366 + exp_shifter;
     const f64x2 n = t - exp_shifter;
     const f64x2 r = x - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
-    return r + r * r * (0.49999999999945266 + r * (0.16666666666653376 +
-                                 r * (0.04166672515731616 + r * 0.008333343728805863)));
+    return r + r * r *
+                   horner(r, 0.49999999999945266, 0.16666666666653376, 0.04166672515731616,
+                          0.008333343728805863);
   }
   static f64x2 parts(f64x2 t, f64x2 p, f64x2& hi) {
     const u32x4 row = (as<u32x4>(t) & 63) << 4;
@@ -68,7 +69,7 @@ struct ExpLa : ExpOneWord {
     t = x * 184.66496523378731 + exp_shifter;
     const f64x2 n = t - exp_shifter;
     const f64x2 r = x - n * 0x1.62e42feep-8 - n * 1.4907929134926466e-12;
-    return r + r * r * (0.49999999999998135 + r * (0.16666671248624326 + r * 0.041666679394326736));
+    return r + r * r * horner(r, 0.49999999999998135, 0.16666671248624326, 0.041666679394326736);
   }
 };
 
@@ -85,7 +86,8 @@ struct ExpEp : ExpOneWord {
 };
 
 // One element beyond the fast range. x rises through the rows.
-template <class Level> int _zemdSpecSc(const double* a, double* out) {
+template <class Level>
+int _zemdSpecSc(const double* a, double* out) {
   const uint64_t magnitude = ork::magnitude(a);
   if (magnitude > infinity_bits<double>) {
     const uint64_t quiet = Level::nan_is_all_ones ? ~0ull : image(a) | 0x0008000000000000;
@@ -127,7 +129,8 @@ template <class Level> int _zemdSpecSc(const double* a, double* out) {
   return 0;
 }
 
-template <class Level> struct ExpD : Core<double> {
+template <class Level>
+struct ExpD : Core<double> {
   static constexpr char name[] = "vdExp";
   static f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 t;

@@ -27,9 +27,11 @@ struct ExpLaS {
   }
 };
 
-template <class Level> int _ScalarExp(const float* a, float* out);
+template <class Level>
+int _ScalarExp(const float* a, float* out);
 
-template <class Level> struct ExpS : Core<float> {
+template <class Level>
+struct ExpS : Core<float> {
   static constexpr char name[] = "vsExp";
 
   // e^x / 2^down.
@@ -52,7 +54,8 @@ template <class Level> struct ExpS : Core<float> {
 };
 
 // One element beyond the fast range.
-template <class Level> int _ScalarExp(const float* a, float* out) {
+template <class Level>
+int _ScalarExp(const float* a, float* out) {
   const float x = *a;
   const uint32_t magnitude = ork::magnitude(a);
   if (magnitude >= infinity_bits<float>) {

@@ -54,7 +54,8 @@ ORK_INLINE f64x2 with_sign_of(f64x2 x, f64x2 y) { return or_bits(y, as<u64x2>(x)
 ORK_INLINE f32x4 with_sign_of(f32x4 x, f32x4 y) { return or_bits(y, as<u32x4>(x) & sign_f32x4); }
 
 // The last steps at HA: S (1 + u_hi + v) - 1, S = S_hi + S_lo, S_hi u_hi exact.
-template <class V> ORK_INLINE V expm1_sum(V s_hi, V s_lo, V u_hi, V v) {
+template <class V>
+ORK_INLINE V expm1_sum(V s_hi, V s_lo, V u_hi, V v) {
   using T = std::remove_cvref_t<decltype(V{}[0])>;
   const V minus_one = splat(T(-1));
   const V w = u_hi + v;

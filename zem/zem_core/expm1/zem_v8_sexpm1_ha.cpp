@@ -14,11 +14,13 @@ struct Expm1HaS : Core<float> {
     const u32x4 whole = (u32x4)(u == x);
     const f32x4 u_hi = and_bits(u, whole | splat_u32(0xFFFFF000)), u_lo = u - u_hi;
     const f32x4 r = u - v0;
-    const f32x4 p = r * r * (0.500000894f + r * 0.16666697f);
+    const f32x4 p = r * r * horner(r, 0.500000894f, 0.16666697f);
     // 8 n in the low bits, biased.
     const u32x4 image = as<u32x4>(n + 1974208.0f), exponent = (image & 0x1FE00) << 14;
     const u32x4 j = image & 0x1F8;
-    const auto row = [](int offset) { return (const float*)((const char*)expm1_split64_s + offset); };
+    const auto row = [](int offset) {
+      return (const float*)((const char*)expm1_split64_s + offset);
+    };
     f32x4 high, low;
     gather_pairs(row(j[0]), row(word<2>(j)), row(word<4>(j)), row(word<6>(j)), high, low);
     const f32x4 s_hi = or_bits(high, exponent), s_lo = low * as<f32x4>(exponent);

@@ -96,6 +96,13 @@ inline constexpr u32x4 sign_f32x4 = {0x80000000, 0x80000000, 0x80000000, 0x80000
 ORK_INLINE f64x2 abs(f64x2 x) { return and_bits(x, ~sign_f64x2); }
 ORK_INLINE f32x4 abs(f32x4 x) { return and_bits(x, ~sign_f32x4); }
 
+// c0 + x (c1 + x (c2 + ...)), in that order of operations; of vectors or scalars.
+template <class V, class T> ORK_INLINE V horner(V x, T c0, T c1) { return c0 + x * c1; }
+template <class V, class T, class... Ts>
+ORK_INLINE V horner(V x, T c0, T c1, Ts... rest) {
+  return c0 + x * horner(x, c1, rest...);
+}
+
 ORK_INLINE f64x2 sqrt(f64x2 x) { return _mm_sqrt_pd(x); }
 ORK_INLINE f32x4 sqrt(f32x4 x) { return _mm_sqrt_ps(x); }
 ORK_INLINE f32x4 rcp_est(f32x4 x) { return _mm_rcp_ps(x); }      // relative error below 1.5 * 2^-12

@@ -9,7 +9,8 @@
 
 namespace ork {
 
-template <class Base> struct LogEpD : Core<double> {
+template <class Base>
+struct LogEpD : Core<double> {
   static constexpr const char* name = Base::name;
 
   static f64x2 eval(f64x2 x, u32x4& rare) {
@@ -37,7 +38,8 @@ template <class Base> struct LogEpD : Core<double> {
   static int special(const double* a, double* out) {
     double result;
     const X87Guard<x87_extended> nearest;  // the store rounds as the control word says
-    asm volatile("fldt %2\n\tfldl %1\n\tfyl2x\n\tfstpl %0" : "=m"(result)
+    asm volatile("fldt %2\n\tfldl %1\n\tfyl2x\n\tfstpl %0"
+                 : "=m"(result)
                  : "m"(*a), "m"(Base::x87_log_2)
                  : "st", "st(1)", "memory");
     __builtin_memcpy(out, &result, sizeof result);

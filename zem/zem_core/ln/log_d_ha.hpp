@@ -9,7 +9,8 @@
 
 namespace ork {
 
-template <class Base> struct LogHaD : Core<double> {
+template <class Base>
+struct LogHaD : Core<double> {
   static constexpr const char* name = Base::name;
 
   // The sum (returned + low) + s; returned is small, s exact.

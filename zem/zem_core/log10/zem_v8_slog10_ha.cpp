@@ -30,7 +30,7 @@ struct Log10HaS : Core<float> {
 
     const f32x4 a = k * 0.30103302f + l_hi, b = k * -3.02435365e-06f + l_lo;
     const f32x4 s = a + r, e = r - (s - a);  // |a| > |r|, or a = 0
-    const f32x4 q = r * (0.00161610241f + r * (-1.15502596f + r * 1.77590978f));
+    const f32x4 q = r * horner(r, 0.00161610241f, -1.15502596f, 1.77590978f);
     return s + (e + (b + q));
   }
   static int special(const float* a, float* out) { return vslog10_cout_rare(a, out); }

@@ -15,7 +15,7 @@ struct Log1pHa {
     const f64x2 k = exponent_less(s, 0.0);
     const f64x2 a = l_hi + k * 0.69314718055829871, b = l_lo + k * 1.6465949582866463e-12;
     const f64x2 v = r + e2, v_error = e2 - (v - r);  // r = 0 or e2 below it where it counts
-    const f64x2 y = a + v, y_error = v - (y - a);        // a = 0 or above v
+    const f64x2 y = a + v, y_error = v - (y - a);    // a = 0 or above v
     return y + (y_error + ((b + v_error) + log1p_degree5(v)));
   }
 };
