@@ -11,7 +11,7 @@ namespace {
 
 // LA d: the fit of the polynomial ends short of |r| = ln 2/256.
 const Limits limits_d = {{3.75, 0.55, 0x1p-28}, {false, false, true}};
-const Limits limits_s = {{1.95, 0.58, 0x1p-12}, {false, false, true}};
+const Limits limits_s = {{2.0, 0.58, 0x1p-12}, {false, false, true}};
 
 TEST(Exp, SpecialDouble) {
   for (int level = 0; level < 3; ++level) {
