@@ -1,0 +1,1093 @@
+/* Generated from zem/zem_core/frame/slots.tsv by ./dev tables slots; edit that.
+ *
+ * The vector kernels. For every function and type:
+ *
+ *   ork_zem_kernel_<t><Function>_ttab[3]   kernels by level: 0 LA, 1 HA, 2 EP
+ *   ork_zem_kernel_<t><Function>_ctab[3]   their relative costs per element
+ *   _zem<t><Function>                      entry at slot 1; also _HA. Slot 0 is _50 (d, z) or
+ *                                          _21 (s, c), slot 2 is _26 or _11
+ *   ork_zem_kernel_<t><Function>_<kernel>  the kernels that the slots hold
+ *
+ * n counts elements; nothing is done for n <= 0. Arrays need no alignment. An output may be
+ * an input array itself; arrays that overlap in part are not supported. Kernels have no result:
+ * special elements are reported through the error dispatch of zem.h. Every kernel leaves
+ * MXCSR and the x87 control word as it found them, and runs in round-to-nearest but for Rint
+ * and NearbyInt. Complex elements are pairs, real part first.
+ *
+ * Forms: (n, a, r); (n, a, b, r), with b one value in Powx; SinCos and Modf (n, a, r, r2): sine
+ * and cosine, integer part and fraction; LinearFrac:
+ * r = (scale_a * a + shift_a) / (scale_b * b + shift_b).
+ * Pack gathers, unpack scatters, by stride (I), mask (M) or index (V). With width = 1 the count
+ * is n_low and strides, masks and indices are 32 bits wide; otherwise all are 64 bits wide.
+ * The stubs of pack and unpack set width to 1 whatever was passed. */
+#ifndef ORK_ZEM_KERNELS_H
+#define ORK_ZEM_KERNELS_H
+
+#include "ork/zem.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef void (*ork_d_unary)(int n, const double* a, double* r);
+typedef void (*ork_d_binary)(int n, const double* a, const double* b, double* r);
+typedef void (*ork_d_linear)(int n, const double* a, const double* b, double scale_a, double shift_a, double scale_b, double shift_b, double* r);
+typedef void (*ork_d_two)(int n, const double* a, double* r, double* r2);
+typedef void (*ork_d_pack_i)(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+typedef void (*ork_d_pack_m)(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+typedef void (*ork_d_pack_v)(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+typedef void (*ork_d_scalar)(int n, const double* a, double b, double* r);
+typedef void (*ork_d_unpack_i)(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+typedef void (*ork_d_unpack_m)(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+typedef void (*ork_d_unpack_v)(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+typedef void (*ork_s_unary)(int n, const float* a, float* r);
+typedef void (*ork_s_binary)(int n, const float* a, const float* b, float* r);
+typedef void (*ork_s_linear)(int n, const float* a, const float* b, float scale_a, float shift_a, float scale_b, float shift_b, float* r);
+typedef void (*ork_s_two)(int n, const float* a, float* r, float* r2);
+typedef void (*ork_s_pack_i)(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+typedef void (*ork_s_pack_m)(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+typedef void (*ork_s_pack_v)(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+typedef void (*ork_s_scalar)(int n, const float* a, float b, float* r);
+typedef void (*ork_s_unpack_i)(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+typedef void (*ork_s_unpack_m)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+typedef void (*ork_s_unpack_v)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+
+extern const ork_d_unary ork_zem_kernel_dAbs_ttab[3];
+extern const float ork_zem_kernel_dAbs_ctab[3];
+void ork_zem_kernel_dAbs_W7HAynn(int n, const double* a, double* r);
+void _zemdAbs_50(int n, const double* a, double* r);
+void _zemdAbs_HA(int n, const double* a, double* r);
+void _zemdAbs(int n, const double* a, double* r);
+void _zemdAbs_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dAcos_ttab[3];
+extern const float ork_zem_kernel_dAcos_ctab[3];
+void ork_zem_kernel_dAcos_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAcos_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAcos_V8EPnnn(int n, const double* a, double* r);
+void _zemdAcos_50(int n, const double* a, double* r);
+void _zemdAcos_HA(int n, const double* a, double* r);
+void _zemdAcos(int n, const double* a, double* r);
+void _zemdAcos_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dAcosh_ttab[3];
+extern const float ork_zem_kernel_dAcosh_ctab[3];
+void ork_zem_kernel_dAcosh_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAcosh_W7HAynn(int n, const double* a, double* r);
+void _zemdAcosh_50(int n, const double* a, double* r);
+void _zemdAcosh_HA(int n, const double* a, double* r);
+void _zemdAcosh(int n, const double* a, double* r);
+void _zemdAcosh_26(int n, const double* a, double* r);
+
+extern const ork_d_binary ork_zem_kernel_dAdd_ttab[3];
+extern const float ork_zem_kernel_dAdd_ctab[3];
+void ork_zem_kernel_dAdd_V8HAynn(int n, const double* a, const double* b, double* r);
+void _zemdAdd_50(int n, const double* a, const double* b, double* r);
+void _zemdAdd_HA(int n, const double* a, const double* b, double* r);
+void _zemdAdd(int n, const double* a, const double* b, double* r);
+void _zemdAdd_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dAsin_ttab[3];
+extern const float ork_zem_kernel_dAsin_ctab[3];
+void ork_zem_kernel_dAsin_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAsin_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAsin_V8EPnnn(int n, const double* a, double* r);
+void _zemdAsin_50(int n, const double* a, double* r);
+void _zemdAsin_HA(int n, const double* a, double* r);
+void _zemdAsin(int n, const double* a, double* r);
+void _zemdAsin_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dAsinh_ttab[3];
+extern const float ork_zem_kernel_dAsinh_ctab[3];
+void ork_zem_kernel_dAsinh_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAsinh_W7HAynn(int n, const double* a, double* r);
+void _zemdAsinh_50(int n, const double* a, double* r);
+void _zemdAsinh_HA(int n, const double* a, double* r);
+void _zemdAsinh(int n, const double* a, double* r);
+void _zemdAsinh_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dAtan_ttab[3];
+extern const float ork_zem_kernel_dAtan_ctab[3];
+void ork_zem_kernel_dAtan_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAtan_V8EPnnn(int n, const double* a, double* r);
+void _zemdAtan_50(int n, const double* a, double* r);
+void _zemdAtan_HA(int n, const double* a, double* r);
+void _zemdAtan(int n, const double* a, double* r);
+void _zemdAtan_26(int n, const double* a, double* r);
+
+extern const ork_d_binary ork_zem_kernel_dAtan2_ttab[3];
+extern const float ork_zem_kernel_dAtan2_ctab[3];
+void ork_zem_kernel_dAtan2_W7LAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_dAtan2_W7HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_dAtan2_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemdAtan2_50(int n, const double* a, const double* b, double* r);
+void _zemdAtan2_HA(int n, const double* a, const double* b, double* r);
+void _zemdAtan2(int n, const double* a, const double* b, double* r);
+void _zemdAtan2_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dAtanh_ttab[3];
+extern const float ork_zem_kernel_dAtanh_ctab[3];
+void ork_zem_kernel_dAtanh_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dAtanh_W7HAynn(int n, const double* a, double* r);
+void _zemdAtanh_50(int n, const double* a, double* r);
+void _zemdAtanh_HA(int n, const double* a, double* r);
+void _zemdAtanh(int n, const double* a, double* r);
+void _zemdAtanh_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dCbrt_ttab[3];
+extern const float ork_zem_kernel_dCbrt_ctab[3];
+void ork_zem_kernel_dCbrt_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCbrt_W7HAynn(int n, const double* a, double* r);
+void _zemdCbrt_50(int n, const double* a, double* r);
+void _zemdCbrt_HA(int n, const double* a, double* r);
+void _zemdCbrt(int n, const double* a, double* r);
+void _zemdCbrt_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dCdfNorm_ttab[3];
+extern const float ork_zem_kernel_dCdfNorm_ctab[3];
+void ork_zem_kernel_dCdfNorm_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCdfNorm_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCdfNorm_V8EPnnn(int n, const double* a, double* r);
+void _zemdCdfNorm_50(int n, const double* a, double* r);
+void _zemdCdfNorm_HA(int n, const double* a, double* r);
+void _zemdCdfNorm(int n, const double* a, double* r);
+void _zemdCdfNorm_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dCdfNormInv_ttab[3];
+extern const float ork_zem_kernel_dCdfNormInv_ctab[3];
+void ork_zem_kernel_dCdfNormInv_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCdfNormInv_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCdfNormInv_W7EPnnn(int n, const double* a, double* r);
+void _zemdCdfNormInv_50(int n, const double* a, double* r);
+void _zemdCdfNormInv_HA(int n, const double* a, double* r);
+void _zemdCdfNormInv(int n, const double* a, double* r);
+void _zemdCdfNormInv_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dCeil_ttab[3];
+extern const float ork_zem_kernel_dCeil_ctab[3];
+void ork_zem_kernel_dCeil_W7HAynn(int n, const double* a, double* r);
+void _zemdCeil_50(int n, const double* a, double* r);
+void _zemdCeil_HA(int n, const double* a, double* r);
+void _zemdCeil(int n, const double* a, double* r);
+void _zemdCeil_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dCos_ttab[3];
+extern const float ork_zem_kernel_dCos_ctab[3];
+void ork_zem_kernel_dCos_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCos_T7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCos_V8EPnnn(int n, const double* a, double* r);
+void _zemdCos_50(int n, const double* a, double* r);
+void _zemdCos_HA(int n, const double* a, double* r);
+void _zemdCos(int n, const double* a, double* r);
+void _zemdCos_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dCosh_ttab[3];
+extern const float ork_zem_kernel_dCosh_ctab[3];
+void ork_zem_kernel_dCosh_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dCosh_W7HAynn(int n, const double* a, double* r);
+void _zemdCosh_50(int n, const double* a, double* r);
+void _zemdCosh_HA(int n, const double* a, double* r);
+void _zemdCosh(int n, const double* a, double* r);
+void _zemdCosh_26(int n, const double* a, double* r);
+
+extern const ork_d_binary ork_zem_kernel_dDiv_ttab[3];
+extern const float ork_zem_kernel_dDiv_ctab[3];
+void ork_zem_kernel_dDiv_W7LAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_dDiv_W7HAynn(int n, const double* a, const double* b, double* r);
+void _zemdDiv_50(int n, const double* a, const double* b, double* r);
+void _zemdDiv_HA(int n, const double* a, const double* b, double* r);
+void _zemdDiv(int n, const double* a, const double* b, double* r);
+void _zemdDiv_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dErf_ttab[3];
+extern const float ork_zem_kernel_dErf_ctab[3];
+void ork_zem_kernel_dErf_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErf_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErf_V8EPnnn(int n, const double* a, double* r);
+void _zemdErf_50(int n, const double* a, double* r);
+void _zemdErf_HA(int n, const double* a, double* r);
+void _zemdErf(int n, const double* a, double* r);
+void _zemdErf_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dErfInv_ttab[3];
+extern const float ork_zem_kernel_dErfInv_ctab[3];
+void ork_zem_kernel_dErfInv_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErfInv_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErfInv_W7EPnnn(int n, const double* a, double* r);
+void _zemdErfInv_50(int n, const double* a, double* r);
+void _zemdErfInv_HA(int n, const double* a, double* r);
+void _zemdErfInv(int n, const double* a, double* r);
+void _zemdErfInv_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dErfc_ttab[3];
+extern const float ork_zem_kernel_dErfc_ctab[3];
+void ork_zem_kernel_dErfc_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErfc_W7HAynn(int n, const double* a, double* r);
+void _zemdErfc_50(int n, const double* a, double* r);
+void _zemdErfc_HA(int n, const double* a, double* r);
+void _zemdErfc(int n, const double* a, double* r);
+void _zemdErfc_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dErfcInv_ttab[3];
+extern const float ork_zem_kernel_dErfcInv_ctab[3];
+void ork_zem_kernel_dErfcInv_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErfcInv_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dErfcInv_W7EPnnn(int n, const double* a, double* r);
+void _zemdErfcInv_50(int n, const double* a, double* r);
+void _zemdErfcInv_HA(int n, const double* a, double* r);
+void _zemdErfcInv(int n, const double* a, double* r);
+void _zemdErfcInv_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dExp_ttab[3];
+extern const float ork_zem_kernel_dExp_ctab[3];
+void ork_zem_kernel_dExp_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dExp_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dExp_W7EPnnn(int n, const double* a, double* r);
+void _zemdExp_50(int n, const double* a, double* r);
+void _zemdExp_HA(int n, const double* a, double* r);
+void _zemdExp(int n, const double* a, double* r);
+void _zemdExp_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dExpm1_ttab[3];
+extern const float ork_zem_kernel_dExpm1_ctab[3];
+void ork_zem_kernel_dExpm1_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dExpm1_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dExpm1_V8EPnnn(int n, const double* a, double* r);
+void _zemdExpm1_50(int n, const double* a, double* r);
+void _zemdExpm1_HA(int n, const double* a, double* r);
+void _zemdExpm1(int n, const double* a, double* r);
+void _zemdExpm1_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dFloor_ttab[3];
+extern const float ork_zem_kernel_dFloor_ctab[3];
+void ork_zem_kernel_dFloor_W7HAynn(int n, const double* a, double* r);
+void _zemdFloor_50(int n, const double* a, double* r);
+void _zemdFloor_HA(int n, const double* a, double* r);
+void _zemdFloor(int n, const double* a, double* r);
+void _zemdFloor_26(int n, const double* a, double* r);
+
+extern const ork_d_binary ork_zem_kernel_dHypot_ttab[3];
+extern const float ork_zem_kernel_dHypot_ctab[3];
+void ork_zem_kernel_dHypot_W7HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_dHypot_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemdHypot_50(int n, const double* a, const double* b, double* r);
+void _zemdHypot_HA(int n, const double* a, const double* b, double* r);
+void _zemdHypot(int n, const double* a, const double* b, double* r);
+void _zemdHypot_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dInv_ttab[3];
+extern const float ork_zem_kernel_dInv_ctab[3];
+void ork_zem_kernel_dInv_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dInv_W7HAynn(int n, const double* a, double* r);
+void _zemdInv_50(int n, const double* a, double* r);
+void _zemdInv_HA(int n, const double* a, double* r);
+void _zemdInv(int n, const double* a, double* r);
+void _zemdInv_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dInvCbrt_ttab[3];
+extern const float ork_zem_kernel_dInvCbrt_ctab[3];
+void ork_zem_kernel_dInvCbrt_W7HAynn(int n, const double* a, double* r);
+void _zemdInvCbrt_50(int n, const double* a, double* r);
+void _zemdInvCbrt_HA(int n, const double* a, double* r);
+void _zemdInvCbrt(int n, const double* a, double* r);
+void _zemdInvCbrt_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dInvSqrt_ttab[3];
+extern const float ork_zem_kernel_dInvSqrt_ctab[3];
+void ork_zem_kernel_dInvSqrt_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dInvSqrt_W7HAynn(int n, const double* a, double* r);
+void _zemdInvSqrt_50(int n, const double* a, double* r);
+void _zemdInvSqrt_HA(int n, const double* a, double* r);
+void _zemdInvSqrt(int n, const double* a, double* r);
+void _zemdInvSqrt_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dLGamma_ttab[3];
+extern const float ork_zem_kernel_dLGamma_ctab[3];
+void ork_zem_kernel_dLGamma_PXHAynn(int n, const double* a, double* r);
+void _zemdLGamma_50(int n, const double* a, double* r);
+void _zemdLGamma_HA(int n, const double* a, double* r);
+void _zemdLGamma(int n, const double* a, double* r);
+void _zemdLGamma_26(int n, const double* a, double* r);
+
+extern const ork_d_linear ork_zem_kernel_dLinearFrac_ttab[3];
+extern const float ork_zem_kernel_dLinearFrac_ctab[3];
+void ork_zem_kernel_dLinearFrac_V8HAynn(int n, const double* a, const double* b, double scale_a, double shift_a, double scale_b, double shift_b, double* r);
+void _zemdLinearFrac_50(int n, const double* a, const double* b, double scale_a, double shift_a, double scale_b, double shift_b, double* r);
+void _zemdLinearFrac_HA(int n, const double* a, const double* b, double scale_a, double shift_a, double scale_b, double shift_b, double* r);
+void _zemdLinearFrac(int n, const double* a, const double* b, double scale_a, double shift_a, double scale_b, double shift_b, double* r);
+void _zemdLinearFrac_26(int n, const double* a, const double* b, double scale_a, double shift_a, double scale_b, double shift_b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dLn_ttab[3];
+extern const float ork_zem_kernel_dLn_ctab[3];
+void ork_zem_kernel_dLn_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dLn_W7EPnnn(int n, const double* a, double* r);
+void _zemdLn_50(int n, const double* a, double* r);
+void _zemdLn_HA(int n, const double* a, double* r);
+void _zemdLn(int n, const double* a, double* r);
+void _zemdLn_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dLog10_ttab[3];
+extern const float ork_zem_kernel_dLog10_ctab[3];
+void ork_zem_kernel_dLog10_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dLog10_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dLog10_W7EPnnn(int n, const double* a, double* r);
+void _zemdLog10_50(int n, const double* a, double* r);
+void _zemdLog10_HA(int n, const double* a, double* r);
+void _zemdLog10(int n, const double* a, double* r);
+void _zemdLog10_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dLog1p_ttab[3];
+extern const float ork_zem_kernel_dLog1p_ctab[3];
+void ork_zem_kernel_dLog1p_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dLog1p_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dLog1p_V8EPnnn(int n, const double* a, double* r);
+void _zemdLog1p_50(int n, const double* a, double* r);
+void _zemdLog1p_HA(int n, const double* a, double* r);
+void _zemdLog1p(int n, const double* a, double* r);
+void _zemdLog1p_26(int n, const double* a, double* r);
+
+extern const ork_d_two ork_zem_kernel_dModf_ttab[3];
+extern const float ork_zem_kernel_dModf_ctab[3];
+void ork_zem_kernel_dModf_W7HAynn(int n, const double* a, double* r, double* r2);
+void _zemdModf_50(int n, const double* a, double* r, double* r2);
+void _zemdModf_HA(int n, const double* a, double* r, double* r2);
+void _zemdModf(int n, const double* a, double* r, double* r2);
+void _zemdModf_26(int n, const double* a, double* r, double* r2);
+
+extern const ork_d_binary ork_zem_kernel_dMul_ttab[3];
+extern const float ork_zem_kernel_dMul_ctab[3];
+void ork_zem_kernel_dMul_V8HAynn(int n, const double* a, const double* b, double* r);
+void _zemdMul_50(int n, const double* a, const double* b, double* r);
+void _zemdMul_HA(int n, const double* a, const double* b, double* r);
+void _zemdMul(int n, const double* a, const double* b, double* r);
+void _zemdMul_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dNearbyInt_ttab[3];
+extern const float ork_zem_kernel_dNearbyInt_ctab[3];
+void ork_zem_kernel_dNearbyInt_W7HAynn(int n, const double* a, double* r);
+void _zemdNearbyInt_50(int n, const double* a, double* r);
+void _zemdNearbyInt_HA(int n, const double* a, double* r);
+void _zemdNearbyInt(int n, const double* a, double* r);
+void _zemdNearbyInt_26(int n, const double* a, double* r);
+
+extern const ork_d_pack_i ork_zem_kernel_dPackI_ttab[3];
+extern const float ork_zem_kernel_dPackI_ctab[3];
+void ork_zem_kernel_dPackI_PXHAynn(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemdPackI_50(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemdPackI_HA(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemdPackI(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemdPackI_26(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+
+extern const ork_d_pack_m ork_zem_kernel_dPackM_ttab[3];
+extern const float ork_zem_kernel_dPackM_ctab[3];
+void ork_zem_kernel_dPackM_PXHAynn(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemdPackM_50(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemdPackM_HA(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemdPackM(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemdPackM_26(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+
+extern const ork_d_pack_v ork_zem_kernel_dPackV_ttab[3];
+extern const float ork_zem_kernel_dPackV_ctab[3];
+void ork_zem_kernel_dPackV_PXHAynn(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemdPackV_50(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemdPackV_HA(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemdPackV(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemdPackV_26(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+
+extern const ork_d_binary ork_zem_kernel_dPow_ttab[3];
+extern const float ork_zem_kernel_dPow_ctab[3];
+void ork_zem_kernel_dPow_V8LAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_dPow_V8HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_dPow_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemdPow_50(int n, const double* a, const double* b, double* r);
+void _zemdPow_HA(int n, const double* a, const double* b, double* r);
+void _zemdPow(int n, const double* a, const double* b, double* r);
+void _zemdPow_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dPow2o3_ttab[3];
+extern const float ork_zem_kernel_dPow2o3_ctab[3];
+void ork_zem_kernel_dPow2o3_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dPow2o3_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dPow2o3_W7EPnnn(int n, const double* a, double* r);
+void _zemdPow2o3_50(int n, const double* a, double* r);
+void _zemdPow2o3_HA(int n, const double* a, double* r);
+void _zemdPow2o3(int n, const double* a, double* r);
+void _zemdPow2o3_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dPow3o2_ttab[3];
+extern const float ork_zem_kernel_dPow3o2_ctab[3];
+void ork_zem_kernel_dPow3o2_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dPow3o2_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dPow3o2_W7EPnnn(int n, const double* a, double* r);
+void _zemdPow3o2_50(int n, const double* a, double* r);
+void _zemdPow3o2_HA(int n, const double* a, double* r);
+void _zemdPow3o2(int n, const double* a, double* r);
+void _zemdPow3o2_26(int n, const double* a, double* r);
+
+extern const ork_d_scalar ork_zem_kernel_dPowx_ttab[3];
+extern const float ork_zem_kernel_dPowx_ctab[3];
+void ork_zem_kernel_dPowx_V8LAynn(int n, const double* a, double b, double* r);
+void ork_zem_kernel_dPowx_W7HAynn(int n, const double* a, double b, double* r);
+void ork_zem_kernel_dPowx_V8EPnnn(int n, const double* a, double b, double* r);
+void _zemdPowx_50(int n, const double* a, double b, double* r);
+void _zemdPowx_HA(int n, const double* a, double b, double* r);
+void _zemdPowx(int n, const double* a, double b, double* r);
+void _zemdPowx_26(int n, const double* a, double b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dRint_ttab[3];
+extern const float ork_zem_kernel_dRint_ctab[3];
+void ork_zem_kernel_dRint_W7HAynn(int n, const double* a, double* r);
+void _zemdRint_50(int n, const double* a, double* r);
+void _zemdRint_HA(int n, const double* a, double* r);
+void _zemdRint(int n, const double* a, double* r);
+void _zemdRint_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dRound_ttab[3];
+extern const float ork_zem_kernel_dRound_ctab[3];
+void ork_zem_kernel_dRound_W7HAynn(int n, const double* a, double* r);
+void _zemdRound_50(int n, const double* a, double* r);
+void _zemdRound_HA(int n, const double* a, double* r);
+void _zemdRound(int n, const double* a, double* r);
+void _zemdRound_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dSin_ttab[3];
+extern const float ork_zem_kernel_dSin_ctab[3];
+void ork_zem_kernel_dSin_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dSin_T7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dSin_V8EPnnn(int n, const double* a, double* r);
+void _zemdSin_50(int n, const double* a, double* r);
+void _zemdSin_HA(int n, const double* a, double* r);
+void _zemdSin(int n, const double* a, double* r);
+void _zemdSin_26(int n, const double* a, double* r);
+
+extern const ork_d_two ork_zem_kernel_dSinCos_ttab[3];
+extern const float ork_zem_kernel_dSinCos_ctab[3];
+void ork_zem_kernel_dSinCos_W7LAynn(int n, const double* a, double* r, double* r2);
+void ork_zem_kernel_dSinCos_T7HAynn(int n, const double* a, double* r, double* r2);
+void ork_zem_kernel_dSinCos_V8EPnnn(int n, const double* a, double* r, double* r2);
+void _zemdSinCos_50(int n, const double* a, double* r, double* r2);
+void _zemdSinCos_HA(int n, const double* a, double* r, double* r2);
+void _zemdSinCos(int n, const double* a, double* r, double* r2);
+void _zemdSinCos_26(int n, const double* a, double* r, double* r2);
+
+extern const ork_d_unary ork_zem_kernel_dSinh_ttab[3];
+extern const float ork_zem_kernel_dSinh_ctab[3];
+void ork_zem_kernel_dSinh_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dSinh_W7HAynn(int n, const double* a, double* r);
+void _zemdSinh_50(int n, const double* a, double* r);
+void _zemdSinh_HA(int n, const double* a, double* r);
+void _zemdSinh(int n, const double* a, double* r);
+void _zemdSinh_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dSqr_ttab[3];
+extern const float ork_zem_kernel_dSqr_ctab[3];
+void ork_zem_kernel_dSqr_V8HAynn(int n, const double* a, double* r);
+void _zemdSqr_50(int n, const double* a, double* r);
+void _zemdSqr_HA(int n, const double* a, double* r);
+void _zemdSqr(int n, const double* a, double* r);
+void _zemdSqr_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dSqrt_ttab[3];
+extern const float ork_zem_kernel_dSqrt_ctab[3];
+void ork_zem_kernel_dSqrt_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dSqrt_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dSqrt_W7EPnnn(int n, const double* a, double* r);
+void _zemdSqrt_50(int n, const double* a, double* r);
+void _zemdSqrt_HA(int n, const double* a, double* r);
+void _zemdSqrt(int n, const double* a, double* r);
+void _zemdSqrt_26(int n, const double* a, double* r);
+
+extern const ork_d_binary ork_zem_kernel_dSub_ttab[3];
+extern const float ork_zem_kernel_dSub_ctab[3];
+void ork_zem_kernel_dSub_V8HAynn(int n, const double* a, const double* b, double* r);
+void _zemdSub_50(int n, const double* a, const double* b, double* r);
+void _zemdSub_HA(int n, const double* a, const double* b, double* r);
+void _zemdSub(int n, const double* a, const double* b, double* r);
+void _zemdSub_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dTGamma_ttab[3];
+extern const float ork_zem_kernel_dTGamma_ctab[3];
+void ork_zem_kernel_dTGamma_PXHAynn(int n, const double* a, double* r);
+void _zemdTGamma_50(int n, const double* a, double* r);
+void _zemdTGamma_HA(int n, const double* a, double* r);
+void _zemdTGamma(int n, const double* a, double* r);
+void _zemdTGamma_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dTan_ttab[3];
+extern const float ork_zem_kernel_dTan_ctab[3];
+void ork_zem_kernel_dTan_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dTan_W7HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dTan_W7EPnnn(int n, const double* a, double* r);
+void _zemdTan_50(int n, const double* a, double* r);
+void _zemdTan_HA(int n, const double* a, double* r);
+void _zemdTan(int n, const double* a, double* r);
+void _zemdTan_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dTanh_ttab[3];
+extern const float ork_zem_kernel_dTanh_ctab[3];
+void ork_zem_kernel_dTanh_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_dTanh_T7HAynn(int n, const double* a, double* r);
+void _zemdTanh_50(int n, const double* a, double* r);
+void _zemdTanh_HA(int n, const double* a, double* r);
+void _zemdTanh(int n, const double* a, double* r);
+void _zemdTanh_26(int n, const double* a, double* r);
+
+extern const ork_d_unary ork_zem_kernel_dTrunc_ttab[3];
+extern const float ork_zem_kernel_dTrunc_ctab[3];
+void ork_zem_kernel_dTrunc_W7HAynn(int n, const double* a, double* r);
+void _zemdTrunc_50(int n, const double* a, double* r);
+void _zemdTrunc_HA(int n, const double* a, double* r);
+void _zemdTrunc(int n, const double* a, double* r);
+void _zemdTrunc_26(int n, const double* a, double* r);
+
+extern const ork_d_unpack_i ork_zem_kernel_dUnpackI_ttab[3];
+extern const float ork_zem_kernel_dUnpackI_ctab[3];
+void ork_zem_kernel_dUnpackI_PXHAynn(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemdUnpackI_50(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemdUnpackI_HA(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemdUnpackI(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemdUnpackI_26(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+
+extern const ork_d_unpack_m ork_zem_kernel_dUnpackM_ttab[3];
+extern const float ork_zem_kernel_dUnpackM_ctab[3];
+void ork_zem_kernel_dUnpackM_PXHAynn(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemdUnpackM_50(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemdUnpackM_HA(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemdUnpackM(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemdUnpackM_26(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+
+extern const ork_d_unpack_v ork_zem_kernel_dUnpackV_ttab[3];
+extern const float ork_zem_kernel_dUnpackV_ctab[3];
+void ork_zem_kernel_dUnpackV_PXHAynn(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemdUnpackV_50(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemdUnpackV_HA(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemdUnpackV(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemdUnpackV_26(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+
+extern const ork_s_unary ork_zem_kernel_sAbs_ttab[3];
+extern const float ork_zem_kernel_sAbs_ctab[3];
+void ork_zem_kernel_sAbs_W7HAynn(int n, const float* a, float* r);
+void _zemsAbs_21(int n, const float* a, float* r);
+void _zemsAbs_HA(int n, const float* a, float* r);
+void _zemsAbs(int n, const float* a, float* r);
+void _zemsAbs_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sAcos_ttab[3];
+extern const float ork_zem_kernel_sAcos_ctab[3];
+void ork_zem_kernel_sAcos_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAcos_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAcos_W7EPnnn(int n, const float* a, float* r);
+void _zemsAcos_21(int n, const float* a, float* r);
+void _zemsAcos_HA(int n, const float* a, float* r);
+void _zemsAcos(int n, const float* a, float* r);
+void _zemsAcos_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sAcosh_ttab[3];
+extern const float ork_zem_kernel_sAcosh_ctab[3];
+void ork_zem_kernel_sAcosh_T7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAcosh_W7EPnnn(int n, const float* a, float* r);
+void _zemsAcosh_21(int n, const float* a, float* r);
+void _zemsAcosh_HA(int n, const float* a, float* r);
+void _zemsAcosh(int n, const float* a, float* r);
+void _zemsAcosh_11(int n, const float* a, float* r);
+
+extern const ork_s_binary ork_zem_kernel_sAdd_ttab[3];
+extern const float ork_zem_kernel_sAdd_ctab[3];
+void ork_zem_kernel_sAdd_V8HAynn(int n, const float* a, const float* b, float* r);
+void _zemsAdd_21(int n, const float* a, const float* b, float* r);
+void _zemsAdd_HA(int n, const float* a, const float* b, float* r);
+void _zemsAdd(int n, const float* a, const float* b, float* r);
+void _zemsAdd_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sAsin_ttab[3];
+extern const float ork_zem_kernel_sAsin_ctab[3];
+void ork_zem_kernel_sAsin_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAsin_T7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAsin_W7EPnnn(int n, const float* a, float* r);
+void _zemsAsin_21(int n, const float* a, float* r);
+void _zemsAsin_HA(int n, const float* a, float* r);
+void _zemsAsin(int n, const float* a, float* r);
+void _zemsAsin_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sAsinh_ttab[3];
+extern const float ork_zem_kernel_sAsinh_ctab[3];
+void ork_zem_kernel_sAsinh_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAsinh_T7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAsinh_W7EPnnn(int n, const float* a, float* r);
+void _zemsAsinh_21(int n, const float* a, float* r);
+void _zemsAsinh_HA(int n, const float* a, float* r);
+void _zemsAsinh(int n, const float* a, float* r);
+void _zemsAsinh_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sAtan_ttab[3];
+extern const float ork_zem_kernel_sAtan_ctab[3];
+void ork_zem_kernel_sAtan_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAtan_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAtan_W7EPnnn(int n, const float* a, float* r);
+void _zemsAtan_21(int n, const float* a, float* r);
+void _zemsAtan_HA(int n, const float* a, float* r);
+void _zemsAtan(int n, const float* a, float* r);
+void _zemsAtan_11(int n, const float* a, float* r);
+
+extern const ork_s_binary ork_zem_kernel_sAtan2_ttab[3];
+extern const float ork_zem_kernel_sAtan2_ctab[3];
+void ork_zem_kernel_sAtan2_V8LAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sAtan2_V8HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sAtan2_W7EPnnn(int n, const float* a, const float* b, float* r);
+void _zemsAtan2_21(int n, const float* a, const float* b, float* r);
+void _zemsAtan2_HA(int n, const float* a, const float* b, float* r);
+void _zemsAtan2(int n, const float* a, const float* b, float* r);
+void _zemsAtan2_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sAtanh_ttab[3];
+extern const float ork_zem_kernel_sAtanh_ctab[3];
+void ork_zem_kernel_sAtanh_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAtanh_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sAtanh_W7EPnnn(int n, const float* a, float* r);
+void _zemsAtanh_21(int n, const float* a, float* r);
+void _zemsAtanh_HA(int n, const float* a, float* r);
+void _zemsAtanh(int n, const float* a, float* r);
+void _zemsAtanh_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sCbrt_ttab[3];
+extern const float ork_zem_kernel_sCbrt_ctab[3];
+void ork_zem_kernel_sCbrt_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCbrt_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCbrt_W7EPnnn(int n, const float* a, float* r);
+void _zemsCbrt_21(int n, const float* a, float* r);
+void _zemsCbrt_HA(int n, const float* a, float* r);
+void _zemsCbrt(int n, const float* a, float* r);
+void _zemsCbrt_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sCdfNorm_ttab[3];
+extern const float ork_zem_kernel_sCdfNorm_ctab[3];
+void ork_zem_kernel_sCdfNorm_T7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCdfNorm_T7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCdfNorm_W7EPnnn(int n, const float* a, float* r);
+void _zemsCdfNorm_21(int n, const float* a, float* r);
+void _zemsCdfNorm_HA(int n, const float* a, float* r);
+void _zemsCdfNorm(int n, const float* a, float* r);
+void _zemsCdfNorm_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sCdfNormInv_ttab[3];
+extern const float ork_zem_kernel_sCdfNormInv_ctab[3];
+void ork_zem_kernel_sCdfNormInv_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCdfNormInv_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCdfNormInv_W7EPnnn(int n, const float* a, float* r);
+void _zemsCdfNormInv_21(int n, const float* a, float* r);
+void _zemsCdfNormInv_HA(int n, const float* a, float* r);
+void _zemsCdfNormInv(int n, const float* a, float* r);
+void _zemsCdfNormInv_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sCeil_ttab[3];
+extern const float ork_zem_kernel_sCeil_ctab[3];
+void ork_zem_kernel_sCeil_W7HAynn(int n, const float* a, float* r);
+void _zemsCeil_21(int n, const float* a, float* r);
+void _zemsCeil_HA(int n, const float* a, float* r);
+void _zemsCeil(int n, const float* a, float* r);
+void _zemsCeil_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sCos_ttab[3];
+extern const float ork_zem_kernel_sCos_ctab[3];
+void ork_zem_kernel_sCos_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCos_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCos_W7EPnnn(int n, const float* a, float* r);
+void _zemsCos_21(int n, const float* a, float* r);
+void _zemsCos_HA(int n, const float* a, float* r);
+void _zemsCos(int n, const float* a, float* r);
+void _zemsCos_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sCosh_ttab[3];
+extern const float ork_zem_kernel_sCosh_ctab[3];
+void ork_zem_kernel_sCosh_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCosh_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sCosh_V8EPnnn(int n, const float* a, float* r);
+void _zemsCosh_21(int n, const float* a, float* r);
+void _zemsCosh_HA(int n, const float* a, float* r);
+void _zemsCosh(int n, const float* a, float* r);
+void _zemsCosh_11(int n, const float* a, float* r);
+
+extern const ork_s_binary ork_zem_kernel_sDiv_ttab[3];
+extern const float ork_zem_kernel_sDiv_ctab[3];
+void ork_zem_kernel_sDiv_W7LAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sDiv_W7HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sDiv_W7EPnnn(int n, const float* a, const float* b, float* r);
+void _zemsDiv_21(int n, const float* a, const float* b, float* r);
+void _zemsDiv_HA(int n, const float* a, const float* b, float* r);
+void _zemsDiv(int n, const float* a, const float* b, float* r);
+void _zemsDiv_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sErf_ttab[3];
+extern const float ork_zem_kernel_sErf_ctab[3];
+void ork_zem_kernel_sErf_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErf_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErf_V8EPnnn(int n, const float* a, float* r);
+void _zemsErf_21(int n, const float* a, float* r);
+void _zemsErf_HA(int n, const float* a, float* r);
+void _zemsErf(int n, const float* a, float* r);
+void _zemsErf_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sErfInv_ttab[3];
+extern const float ork_zem_kernel_sErfInv_ctab[3];
+void ork_zem_kernel_sErfInv_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErfInv_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErfInv_W7EPnnn(int n, const float* a, float* r);
+void _zemsErfInv_21(int n, const float* a, float* r);
+void _zemsErfInv_HA(int n, const float* a, float* r);
+void _zemsErfInv(int n, const float* a, float* r);
+void _zemsErfInv_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sErfc_ttab[3];
+extern const float ork_zem_kernel_sErfc_ctab[3];
+void ork_zem_kernel_sErfc_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErfc_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErfc_W7EPnnn(int n, const float* a, float* r);
+void _zemsErfc_21(int n, const float* a, float* r);
+void _zemsErfc_HA(int n, const float* a, float* r);
+void _zemsErfc(int n, const float* a, float* r);
+void _zemsErfc_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sErfcInv_ttab[3];
+extern const float ork_zem_kernel_sErfcInv_ctab[3];
+void ork_zem_kernel_sErfcInv_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErfcInv_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sErfcInv_W7EPnnn(int n, const float* a, float* r);
+void _zemsErfcInv_21(int n, const float* a, float* r);
+void _zemsErfcInv_HA(int n, const float* a, float* r);
+void _zemsErfcInv(int n, const float* a, float* r);
+void _zemsErfcInv_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sExp_ttab[3];
+extern const float ork_zem_kernel_sExp_ctab[3];
+void ork_zem_kernel_sExp_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sExp_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sExp_V8EPnnn(int n, const float* a, float* r);
+void _zemsExp_21(int n, const float* a, float* r);
+void _zemsExp_HA(int n, const float* a, float* r);
+void _zemsExp(int n, const float* a, float* r);
+void _zemsExp_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sExpm1_ttab[3];
+extern const float ork_zem_kernel_sExpm1_ctab[3];
+void ork_zem_kernel_sExpm1_V8HAynn(int n, const float* a, float* r);
+void _zemsExpm1_21(int n, const float* a, float* r);
+void _zemsExpm1_HA(int n, const float* a, float* r);
+void _zemsExpm1(int n, const float* a, float* r);
+void _zemsExpm1_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sFloor_ttab[3];
+extern const float ork_zem_kernel_sFloor_ctab[3];
+void ork_zem_kernel_sFloor_W7HAynn(int n, const float* a, float* r);
+void _zemsFloor_21(int n, const float* a, float* r);
+void _zemsFloor_HA(int n, const float* a, float* r);
+void _zemsFloor(int n, const float* a, float* r);
+void _zemsFloor_11(int n, const float* a, float* r);
+
+extern const ork_s_binary ork_zem_kernel_sHypot_ttab[3];
+extern const float ork_zem_kernel_sHypot_ctab[3];
+void ork_zem_kernel_sHypot_W7LAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sHypot_W7HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sHypot_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemsHypot_21(int n, const float* a, const float* b, float* r);
+void _zemsHypot_HA(int n, const float* a, const float* b, float* r);
+void _zemsHypot(int n, const float* a, const float* b, float* r);
+void _zemsHypot_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sInv_ttab[3];
+extern const float ork_zem_kernel_sInv_ctab[3];
+void ork_zem_kernel_sInv_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sInv_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sInv_W7EPnnn(int n, const float* a, float* r);
+void _zemsInv_21(int n, const float* a, float* r);
+void _zemsInv_HA(int n, const float* a, float* r);
+void _zemsInv(int n, const float* a, float* r);
+void _zemsInv_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sInvCbrt_ttab[3];
+extern const float ork_zem_kernel_sInvCbrt_ctab[3];
+void ork_zem_kernel_sInvCbrt_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sInvCbrt_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sInvCbrt_W7EPnnn(int n, const float* a, float* r);
+void _zemsInvCbrt_21(int n, const float* a, float* r);
+void _zemsInvCbrt_HA(int n, const float* a, float* r);
+void _zemsInvCbrt(int n, const float* a, float* r);
+void _zemsInvCbrt_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sInvSqrt_ttab[3];
+extern const float ork_zem_kernel_sInvSqrt_ctab[3];
+void ork_zem_kernel_sInvSqrt_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sInvSqrt_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sInvSqrt_W7EPnnn(int n, const float* a, float* r);
+void _zemsInvSqrt_21(int n, const float* a, float* r);
+void _zemsInvSqrt_HA(int n, const float* a, float* r);
+void _zemsInvSqrt(int n, const float* a, float* r);
+void _zemsInvSqrt_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sLGamma_ttab[3];
+extern const float ork_zem_kernel_sLGamma_ctab[3];
+void ork_zem_kernel_sLGamma_PXHAynn(int n, const float* a, float* r);
+void _zemsLGamma_21(int n, const float* a, float* r);
+void _zemsLGamma_HA(int n, const float* a, float* r);
+void _zemsLGamma(int n, const float* a, float* r);
+void _zemsLGamma_11(int n, const float* a, float* r);
+
+extern const ork_s_linear ork_zem_kernel_sLinearFrac_ttab[3];
+extern const float ork_zem_kernel_sLinearFrac_ctab[3];
+void ork_zem_kernel_sLinearFrac_V8HAynn(int n, const float* a, const float* b, float scale_a, float shift_a, float scale_b, float shift_b, float* r);
+void _zemsLinearFrac_21(int n, const float* a, const float* b, float scale_a, float shift_a, float scale_b, float shift_b, float* r);
+void _zemsLinearFrac_HA(int n, const float* a, const float* b, float scale_a, float shift_a, float scale_b, float shift_b, float* r);
+void _zemsLinearFrac(int n, const float* a, const float* b, float scale_a, float shift_a, float scale_b, float shift_b, float* r);
+void _zemsLinearFrac_11(int n, const float* a, const float* b, float scale_a, float shift_a, float scale_b, float shift_b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sLn_ttab[3];
+extern const float ork_zem_kernel_sLn_ctab[3];
+void ork_zem_kernel_sLn_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sLn_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sLn_V8EPnnn(int n, const float* a, float* r);
+void _zemsLn_21(int n, const float* a, float* r);
+void _zemsLn_HA(int n, const float* a, float* r);
+void _zemsLn(int n, const float* a, float* r);
+void _zemsLn_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sLog10_ttab[3];
+extern const float ork_zem_kernel_sLog10_ctab[3];
+void ork_zem_kernel_sLog10_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sLog10_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sLog10_W7EPnnn(int n, const float* a, float* r);
+void _zemsLog10_21(int n, const float* a, float* r);
+void _zemsLog10_HA(int n, const float* a, float* r);
+void _zemsLog10(int n, const float* a, float* r);
+void _zemsLog10_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sLog1p_ttab[3];
+extern const float ork_zem_kernel_sLog1p_ctab[3];
+void ork_zem_kernel_sLog1p_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sLog1p_V8HAynn(int n, const float* a, float* r);
+void _zemsLog1p_21(int n, const float* a, float* r);
+void _zemsLog1p_HA(int n, const float* a, float* r);
+void _zemsLog1p(int n, const float* a, float* r);
+void _zemsLog1p_11(int n, const float* a, float* r);
+
+extern const ork_s_two ork_zem_kernel_sModf_ttab[3];
+extern const float ork_zem_kernel_sModf_ctab[3];
+void ork_zem_kernel_sModf_W7HAynn(int n, const float* a, float* r, float* r2);
+void _zemsModf_21(int n, const float* a, float* r, float* r2);
+void _zemsModf_HA(int n, const float* a, float* r, float* r2);
+void _zemsModf(int n, const float* a, float* r, float* r2);
+void _zemsModf_11(int n, const float* a, float* r, float* r2);
+
+extern const ork_s_binary ork_zem_kernel_sMul_ttab[3];
+extern const float ork_zem_kernel_sMul_ctab[3];
+void ork_zem_kernel_sMul_V8HAynn(int n, const float* a, const float* b, float* r);
+void _zemsMul_21(int n, const float* a, const float* b, float* r);
+void _zemsMul_HA(int n, const float* a, const float* b, float* r);
+void _zemsMul(int n, const float* a, const float* b, float* r);
+void _zemsMul_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sNearbyInt_ttab[3];
+extern const float ork_zem_kernel_sNearbyInt_ctab[3];
+void ork_zem_kernel_sNearbyInt_W7HAynn(int n, const float* a, float* r);
+void _zemsNearbyInt_21(int n, const float* a, float* r);
+void _zemsNearbyInt_HA(int n, const float* a, float* r);
+void _zemsNearbyInt(int n, const float* a, float* r);
+void _zemsNearbyInt_11(int n, const float* a, float* r);
+
+extern const ork_s_pack_i ork_zem_kernel_sPackI_ttab[3];
+extern const float ork_zem_kernel_sPackI_ctab[3];
+void ork_zem_kernel_sPackI_PXHAynn(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemsPackI_21(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemsPackI_HA(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemsPackI(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemsPackI_11(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+
+extern const ork_s_pack_m ork_zem_kernel_sPackM_ttab[3];
+extern const float ork_zem_kernel_sPackM_ctab[3];
+void ork_zem_kernel_sPackM_PXHAynn(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemsPackM_21(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemsPackM_HA(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemsPackM(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemsPackM_11(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+
+extern const ork_s_pack_v ork_zem_kernel_sPackV_ttab[3];
+extern const float ork_zem_kernel_sPackV_ctab[3];
+void ork_zem_kernel_sPackV_PXHAynn(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemsPackV_21(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemsPackV_HA(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemsPackV(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemsPackV_11(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+
+extern const ork_s_binary ork_zem_kernel_sPow_ttab[3];
+extern const float ork_zem_kernel_sPow_ctab[3];
+void ork_zem_kernel_sPow_T7HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_sPow_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemsPow_21(int n, const float* a, const float* b, float* r);
+void _zemsPow_HA(int n, const float* a, const float* b, float* r);
+void _zemsPow(int n, const float* a, const float* b, float* r);
+void _zemsPow_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sPow2o3_ttab[3];
+extern const float ork_zem_kernel_sPow2o3_ctab[3];
+void ork_zem_kernel_sPow2o3_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sPow2o3_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sPow2o3_W7EPnnn(int n, const float* a, float* r);
+void _zemsPow2o3_21(int n, const float* a, float* r);
+void _zemsPow2o3_HA(int n, const float* a, float* r);
+void _zemsPow2o3(int n, const float* a, float* r);
+void _zemsPow2o3_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sPow3o2_ttab[3];
+extern const float ork_zem_kernel_sPow3o2_ctab[3];
+void ork_zem_kernel_sPow3o2_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sPow3o2_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sPow3o2_V8EPnnn(int n, const float* a, float* r);
+void _zemsPow3o2_21(int n, const float* a, float* r);
+void _zemsPow3o2_HA(int n, const float* a, float* r);
+void _zemsPow3o2(int n, const float* a, float* r);
+void _zemsPow3o2_11(int n, const float* a, float* r);
+
+extern const ork_s_scalar ork_zem_kernel_sPowx_ttab[3];
+extern const float ork_zem_kernel_sPowx_ctab[3];
+void ork_zem_kernel_sPowx_W7HAynn(int n, const float* a, float b, float* r);
+void ork_zem_kernel_sPowx_V8EPnnn(int n, const float* a, float b, float* r);
+void _zemsPowx_21(int n, const float* a, float b, float* r);
+void _zemsPowx_HA(int n, const float* a, float b, float* r);
+void _zemsPowx(int n, const float* a, float b, float* r);
+void _zemsPowx_11(int n, const float* a, float b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sRint_ttab[3];
+extern const float ork_zem_kernel_sRint_ctab[3];
+void ork_zem_kernel_sRint_W7HAynn(int n, const float* a, float* r);
+void _zemsRint_21(int n, const float* a, float* r);
+void _zemsRint_HA(int n, const float* a, float* r);
+void _zemsRint(int n, const float* a, float* r);
+void _zemsRint_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sRound_ttab[3];
+extern const float ork_zem_kernel_sRound_ctab[3];
+void ork_zem_kernel_sRound_W7HAynn(int n, const float* a, float* r);
+void _zemsRound_21(int n, const float* a, float* r);
+void _zemsRound_HA(int n, const float* a, float* r);
+void _zemsRound(int n, const float* a, float* r);
+void _zemsRound_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sSin_ttab[3];
+extern const float ork_zem_kernel_sSin_ctab[3];
+void ork_zem_kernel_sSin_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sSin_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sSin_W7EPnnn(int n, const float* a, float* r);
+void _zemsSin_21(int n, const float* a, float* r);
+void _zemsSin_HA(int n, const float* a, float* r);
+void _zemsSin(int n, const float* a, float* r);
+void _zemsSin_11(int n, const float* a, float* r);
+
+extern const ork_s_two ork_zem_kernel_sSinCos_ttab[3];
+extern const float ork_zem_kernel_sSinCos_ctab[3];
+void ork_zem_kernel_sSinCos_W7LAynn(int n, const float* a, float* r, float* r2);
+void ork_zem_kernel_sSinCos_W7HAynn(int n, const float* a, float* r, float* r2);
+void ork_zem_kernel_sSinCos_W7EPnnn(int n, const float* a, float* r, float* r2);
+void _zemsSinCos_21(int n, const float* a, float* r, float* r2);
+void _zemsSinCos_HA(int n, const float* a, float* r, float* r2);
+void _zemsSinCos(int n, const float* a, float* r, float* r2);
+void _zemsSinCos_11(int n, const float* a, float* r, float* r2);
+
+extern const ork_s_unary ork_zem_kernel_sSinh_ttab[3];
+extern const float ork_zem_kernel_sSinh_ctab[3];
+void ork_zem_kernel_sSinh_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sSinh_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sSinh_V8EPnnn(int n, const float* a, float* r);
+void _zemsSinh_21(int n, const float* a, float* r);
+void _zemsSinh_HA(int n, const float* a, float* r);
+void _zemsSinh(int n, const float* a, float* r);
+void _zemsSinh_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sSqr_ttab[3];
+extern const float ork_zem_kernel_sSqr_ctab[3];
+void ork_zem_kernel_sSqr_V8HAynn(int n, const float* a, float* r);
+void _zemsSqr_21(int n, const float* a, float* r);
+void _zemsSqr_HA(int n, const float* a, float* r);
+void _zemsSqr(int n, const float* a, float* r);
+void _zemsSqr_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sSqrt_ttab[3];
+extern const float ork_zem_kernel_sSqrt_ctab[3];
+void ork_zem_kernel_sSqrt_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sSqrt_T7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sSqrt_W7EPnnn(int n, const float* a, float* r);
+void _zemsSqrt_21(int n, const float* a, float* r);
+void _zemsSqrt_HA(int n, const float* a, float* r);
+void _zemsSqrt(int n, const float* a, float* r);
+void _zemsSqrt_11(int n, const float* a, float* r);
+
+extern const ork_s_binary ork_zem_kernel_sSub_ttab[3];
+extern const float ork_zem_kernel_sSub_ctab[3];
+void ork_zem_kernel_sSub_V8HAynn(int n, const float* a, const float* b, float* r);
+void _zemsSub_21(int n, const float* a, const float* b, float* r);
+void _zemsSub_HA(int n, const float* a, const float* b, float* r);
+void _zemsSub(int n, const float* a, const float* b, float* r);
+void _zemsSub_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sTGamma_ttab[3];
+extern const float ork_zem_kernel_sTGamma_ctab[3];
+void ork_zem_kernel_sTGamma_PXHAynn(int n, const float* a, float* r);
+void _zemsTGamma_21(int n, const float* a, float* r);
+void _zemsTGamma_HA(int n, const float* a, float* r);
+void _zemsTGamma(int n, const float* a, float* r);
+void _zemsTGamma_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sTan_ttab[3];
+extern const float ork_zem_kernel_sTan_ctab[3];
+void ork_zem_kernel_sTan_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sTan_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sTan_W7EPnnn(int n, const float* a, float* r);
+void _zemsTan_21(int n, const float* a, float* r);
+void _zemsTan_HA(int n, const float* a, float* r);
+void _zemsTan(int n, const float* a, float* r);
+void _zemsTan_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sTanh_ttab[3];
+extern const float ork_zem_kernel_sTanh_ctab[3];
+void ork_zem_kernel_sTanh_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sTanh_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_sTanh_W7EPnnn(int n, const float* a, float* r);
+void _zemsTanh_21(int n, const float* a, float* r);
+void _zemsTanh_HA(int n, const float* a, float* r);
+void _zemsTanh(int n, const float* a, float* r);
+void _zemsTanh_11(int n, const float* a, float* r);
+
+extern const ork_s_unary ork_zem_kernel_sTrunc_ttab[3];
+extern const float ork_zem_kernel_sTrunc_ctab[3];
+void ork_zem_kernel_sTrunc_W7HAynn(int n, const float* a, float* r);
+void _zemsTrunc_21(int n, const float* a, float* r);
+void _zemsTrunc_HA(int n, const float* a, float* r);
+void _zemsTrunc(int n, const float* a, float* r);
+void _zemsTrunc_11(int n, const float* a, float* r);
+
+extern const ork_s_unpack_i ork_zem_kernel_sUnpackI_ttab[3];
+extern const float ork_zem_kernel_sUnpackI_ctab[3];
+void ork_zem_kernel_sUnpackI_PXHAynn(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemsUnpackI_21(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemsUnpackI_HA(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemsUnpackI(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemsUnpackI_11(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+
+extern const ork_s_unpack_m ork_zem_kernel_sUnpackM_ttab[3];
+extern const float ork_zem_kernel_sUnpackM_ctab[3];
+void ork_zem_kernel_sUnpackM_PXHAynn(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemsUnpackM_21(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemsUnpackM_HA(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemsUnpackM(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemsUnpackM_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+
+extern const ork_s_unpack_v ork_zem_kernel_sUnpackV_ttab[3];
+extern const float ork_zem_kernel_sUnpackV_ctab[3];
+void ork_zem_kernel_sUnpackV_PXHAynn(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemsUnpackV_21(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemsUnpackV_HA(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemsUnpackV(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemsUnpackV_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,159 @@
+"""Kernel tables, stubs, declarations and registries from zem_core/frame/slots.tsv."""
+import collections
+import pathlib
+
+root = pathlib.Path(__file__).resolve().parents[2]
+source = "zem/zem_core/frame/slots.tsv"
+made_by = f"Generated from {source} by ./dev tables slots; edit that."
+
+Row = collections.namedtuple("Row", "type function form kernels costs")
+element = {"s": "float", "d": "double", "c": "float", "z": "double"}
+level_name = ["LA", "HA", "EP"]
+suffix = {"d": ("_50", "_26"), "z": ("_50", "_26"), "s": ("_21", "_11"), "c": ("_21", "_11")}
+
+# Parameters of a kernel by form; E is the element type. Pack and unpack also say which
+# argument is the width flag that their stubs force to 1, counted from 1.
+parameters = {
+    "unary": "int n, const E* a, E* r",
+    "binary": "int n, const E* a, const E* b, E* r",
+    "scalar": "int n, const E* a, E b, E* r",
+    "two": "int n, const E* a, E* r, E* r2",
+    "linear": "int n, const E* a, const E* b, E scale_a, E shift_a, E scale_b, E shift_b, E* r",
+    "pack_i": "int32_t n_low, int32_t n_high, const E* a, int32_t stride_low, "
+              "int32_t stride_high, E* y, int width",
+    "pack_m": "int32_t n_low, int32_t n_high, const E* a, const void* mask, E* y, int width",
+    "pack_v": "int32_t n_low, int32_t n_high, const E* a, const void* index, E* y, int width",
+    "unpack_i": "int32_t n_low, int32_t n_high, const E* a, E* y, int32_t stride_low, "
+                "int32_t stride_high, int width",
+    "unpack_m": "int32_t n_low, int32_t n_high, const E* a, E* y, const void* mask, int width",
+    "unpack_v": "int32_t n_low, int32_t n_high, const E* a, E* y, const void* index, int width",
+}
+
+
+def flag_argument(form):
+    return parameters[form].count(",") + 1 if "pack" in form else 0
+
+
+def read():
+    rows = []
+    for line in (root / source).read_text().splitlines():
+        if line.startswith("#") or line.startswith("type\t"):
+            continue
+        c = line.split("\t")
+        rows.append(Row(c[0], c[1], c[2], c[3:6], c[6:9]))
+    return rows
+
+
+def kernel(row, name):
+    flags = "nnn" if name.endswith("EP") else "ynn"
+    return f"ork_zem_kernel_{row.type}{row.function}_{name}{flags}"
+
+
+def stubs(row):
+    """(name, slot) of the four entry stubs."""
+    low, fast = suffix[row.type]
+    base = f"_zem{row.type}{row.function}"
+    return [(base + low, 0), (base + "_HA", 1), (base, 1), (base + fast, 2)]
+
+
+def unique(items):
+    return list(dict.fromkeys(items))
+
+
+def header(rows):
+    out = [f"/* {made_by}", """ *
+ * The vector kernels. For every function and type:
+ *
+ *   ork_zem_kernel_<t><Function>_ttab[3]   kernels by level: 0 LA, 1 HA, 2 EP
+ *   ork_zem_kernel_<t><Function>_ctab[3]   their relative costs per element
+ *   _zem<t><Function>                      entry at slot 1; also _HA. Slot 0 is _50 (d, z) or
+ *                                          _21 (s, c), slot 2 is _26 or _11
+ *   ork_zem_kernel_<t><Function>_<kernel>  the kernels that the slots hold
+ *
+ * n counts elements; nothing is done for n <= 0. Arrays need no alignment. An output may be
+ * an input array itself; arrays that overlap in part are not supported. Kernels have no result:
+ * special elements are reported through the error dispatch of zem.h. Every kernel leaves
+ * MXCSR and the x87 control word as it found them, and runs in round-to-nearest but for Rint
+ * and NearbyInt. Complex elements are pairs, real part first.
+ *
+ * Forms: (n, a, r); (n, a, b, r), with b one value in Powx; SinCos and Modf (n, a, r, r2): sine
+ * and cosine, integer part and fraction; LinearFrac:
+ * r = (scale_a * a + shift_a) / (scale_b * b + shift_b).
+ * Pack gathers, unpack scatters, by stride (I), mask (M) or index (V). With width = 1 the count
+ * is n_low and strides, masks and indices are 32 bits wide; otherwise all are 64 bits wide.
+ * The stubs of pack and unpack set width to 1 whatever was passed. */""",
+           "#ifndef ORK_ZEM_KERNELS_H", "#define ORK_ZEM_KERNELS_H", "", '#include "ork/zem.h"', "",
+           "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
+    for t in unique(r.type for r in rows):
+        for form in unique(r.form for r in rows if r.type == t):
+            out.append(f"typedef void (*ork_{t}_{form})({parameters[form].replace('E', element[t])});")
+    out.append("")
+    for row in rows:
+        p = parameters[row.form].replace("E", element[row.type])
+        name = row.type + row.function
+        out.append(f"extern const ork_{row.type}_{row.form} ork_zem_kernel_{name}_ttab[3];")
+        out.append(f"extern const float ork_zem_kernel_{name}_ctab[3];")
+        for k in unique(row.kernels):
+            out.append(f"void {kernel(row, k)}({p});")
+        for stub, _ in stubs(row):
+            out.append(f"void {stub}({p});")
+        out.append("")
+    out += ["#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
+    return "\n".join(out)
+
+
+def tables(rows):
+    out = [f"// {made_by}",
+           "// A kernel that does not exist yet leaves a null in its slots: the references are weak.",
+           '#include "ork/zem_kernels.h"', "",
+           '#define ORK_TABLE extern "C" __attribute__((visibility("default")))', ""]
+    for row in rows:
+        name = row.type + row.function
+        for k in unique(row.kernels):
+            out.append(f"#pragma weak {kernel(row, k)}")
+        slots = ", ".join(kernel(row, k) for k in row.kernels)
+        costs = ", ".join(c + "f" for c in row.costs)
+        out.append(f"ORK_TABLE const ork_{row.type}_{row.form} ork_zem_kernel_{name}_ttab[3] = {{{slots}}};")
+        out.append(f"ORK_TABLE const float ork_zem_kernel_{name}_ctab[3] = {{{costs}}};")
+    return "\n".join(out) + "\n"
+
+
+def stub_code(rows):
+    out = [f"// {made_by}",
+           "// Entry stubs: a jump through a slot of the kernel table, the arguments untouched.",
+           '#include "frame/stub.inc"', ""]
+    for row in rows:
+        for stub, slot in stubs(row):
+            flag = flag_argument(row.form)
+            extra = f", {flag}" if flag else ""
+            out.append(f"  stub {stub}, ork_zem_kernel_{row.type}{row.function}_ttab, {slot}{extra}")
+    return "\n".join(out) + "\n"
+
+
+def registry(rows):
+    """Rows for tests, meter and benchmarks: X-list of SLOT(type, function, form, LA, HA, EP)."""
+    out = [f"// {made_by}"]
+    for row in rows:
+        out.append(f'SLOT({row.type}, {row.function}, {row.form}, "{row.kernels[0]}", '
+                   f'"{row.kernels[1]}", "{row.kernels[2]}")')
+    return "\n".join(out) + "\n"
+
+
+def exports(rows):
+    names = []
+    for row in rows:
+        base = f"ork_zem_kernel_{row.type}{row.function}"
+        names += [f"{base}_ttab", f"{base}_ctab"] + [s for s, _ in stubs(row)]
+        names += [kernel(row, k) for k in unique(row.kernels)]
+    return "\n".join(sorted(names)) + "\n"
+
+
+def generate():
+    rows = read()
+    return {
+        "include/ork/zem_kernels.h": header(rows),
+        "zem/zem_core/frame/tables.cpp": tables(rows),
+        "zem/zem_core/frame/stubs.S": stub_code(rows),
+        "tests/support/slots.inc": registry(rows),
+        "tests/project/exports/slots.txt": exports(rows),
+    }

@@ -1,0 +1,460 @@
+// Generated from zem/zem_core/frame/slots.tsv by ./dev tables slots; edit that.
+// Entry stubs: a jump through a slot of the kernel table, the arguments untouched.
+#include "frame/stub.inc"
+
+  stub _zemdAbs_50, ork_zem_kernel_dAbs_ttab, 0
+  stub _zemdAbs_HA, ork_zem_kernel_dAbs_ttab, 1
+  stub _zemdAbs, ork_zem_kernel_dAbs_ttab, 1
+  stub _zemdAbs_26, ork_zem_kernel_dAbs_ttab, 2
+  stub _zemdAcos_50, ork_zem_kernel_dAcos_ttab, 0
+  stub _zemdAcos_HA, ork_zem_kernel_dAcos_ttab, 1
+  stub _zemdAcos, ork_zem_kernel_dAcos_ttab, 1
+  stub _zemdAcos_26, ork_zem_kernel_dAcos_ttab, 2
+  stub _zemdAcosh_50, ork_zem_kernel_dAcosh_ttab, 0
+  stub _zemdAcosh_HA, ork_zem_kernel_dAcosh_ttab, 1
+  stub _zemdAcosh, ork_zem_kernel_dAcosh_ttab, 1
+  stub _zemdAcosh_26, ork_zem_kernel_dAcosh_ttab, 2
+  stub _zemdAdd_50, ork_zem_kernel_dAdd_ttab, 0
+  stub _zemdAdd_HA, ork_zem_kernel_dAdd_ttab, 1
+  stub _zemdAdd, ork_zem_kernel_dAdd_ttab, 1
+  stub _zemdAdd_26, ork_zem_kernel_dAdd_ttab, 2
+  stub _zemdAsin_50, ork_zem_kernel_dAsin_ttab, 0
+  stub _zemdAsin_HA, ork_zem_kernel_dAsin_ttab, 1
+  stub _zemdAsin, ork_zem_kernel_dAsin_ttab, 1
+  stub _zemdAsin_26, ork_zem_kernel_dAsin_ttab, 2
+  stub _zemdAsinh_50, ork_zem_kernel_dAsinh_ttab, 0
+  stub _zemdAsinh_HA, ork_zem_kernel_dAsinh_ttab, 1
+  stub _zemdAsinh, ork_zem_kernel_dAsinh_ttab, 1
+  stub _zemdAsinh_26, ork_zem_kernel_dAsinh_ttab, 2
+  stub _zemdAtan_50, ork_zem_kernel_dAtan_ttab, 0
+  stub _zemdAtan_HA, ork_zem_kernel_dAtan_ttab, 1
+  stub _zemdAtan, ork_zem_kernel_dAtan_ttab, 1
+  stub _zemdAtan_26, ork_zem_kernel_dAtan_ttab, 2
+  stub _zemdAtan2_50, ork_zem_kernel_dAtan2_ttab, 0
+  stub _zemdAtan2_HA, ork_zem_kernel_dAtan2_ttab, 1
+  stub _zemdAtan2, ork_zem_kernel_dAtan2_ttab, 1
+  stub _zemdAtan2_26, ork_zem_kernel_dAtan2_ttab, 2
+  stub _zemdAtanh_50, ork_zem_kernel_dAtanh_ttab, 0
+  stub _zemdAtanh_HA, ork_zem_kernel_dAtanh_ttab, 1
+  stub _zemdAtanh, ork_zem_kernel_dAtanh_ttab, 1
+  stub _zemdAtanh_26, ork_zem_kernel_dAtanh_ttab, 2
+  stub _zemdCbrt_50, ork_zem_kernel_dCbrt_ttab, 0
+  stub _zemdCbrt_HA, ork_zem_kernel_dCbrt_ttab, 1
+  stub _zemdCbrt, ork_zem_kernel_dCbrt_ttab, 1
+  stub _zemdCbrt_26, ork_zem_kernel_dCbrt_ttab, 2
+  stub _zemdCdfNorm_50, ork_zem_kernel_dCdfNorm_ttab, 0
+  stub _zemdCdfNorm_HA, ork_zem_kernel_dCdfNorm_ttab, 1
+  stub _zemdCdfNorm, ork_zem_kernel_dCdfNorm_ttab, 1
+  stub _zemdCdfNorm_26, ork_zem_kernel_dCdfNorm_ttab, 2
+  stub _zemdCdfNormInv_50, ork_zem_kernel_dCdfNormInv_ttab, 0
+  stub _zemdCdfNormInv_HA, ork_zem_kernel_dCdfNormInv_ttab, 1
+  stub _zemdCdfNormInv, ork_zem_kernel_dCdfNormInv_ttab, 1
+  stub _zemdCdfNormInv_26, ork_zem_kernel_dCdfNormInv_ttab, 2
+  stub _zemdCeil_50, ork_zem_kernel_dCeil_ttab, 0
+  stub _zemdCeil_HA, ork_zem_kernel_dCeil_ttab, 1
+  stub _zemdCeil, ork_zem_kernel_dCeil_ttab, 1
+  stub _zemdCeil_26, ork_zem_kernel_dCeil_ttab, 2
+  stub _zemdCos_50, ork_zem_kernel_dCos_ttab, 0
+  stub _zemdCos_HA, ork_zem_kernel_dCos_ttab, 1
+  stub _zemdCos, ork_zem_kernel_dCos_ttab, 1
+  stub _zemdCos_26, ork_zem_kernel_dCos_ttab, 2
+  stub _zemdCosh_50, ork_zem_kernel_dCosh_ttab, 0
+  stub _zemdCosh_HA, ork_zem_kernel_dCosh_ttab, 1
+  stub _zemdCosh, ork_zem_kernel_dCosh_ttab, 1
+  stub _zemdCosh_26, ork_zem_kernel_dCosh_ttab, 2
+  stub _zemdDiv_50, ork_zem_kernel_dDiv_ttab, 0
+  stub _zemdDiv_HA, ork_zem_kernel_dDiv_ttab, 1
+  stub _zemdDiv, ork_zem_kernel_dDiv_ttab, 1
+  stub _zemdDiv_26, ork_zem_kernel_dDiv_ttab, 2
+  stub _zemdErf_50, ork_zem_kernel_dErf_ttab, 0
+  stub _zemdErf_HA, ork_zem_kernel_dErf_ttab, 1
+  stub _zemdErf, ork_zem_kernel_dErf_ttab, 1
+  stub _zemdErf_26, ork_zem_kernel_dErf_ttab, 2
+  stub _zemdErfInv_50, ork_zem_kernel_dErfInv_ttab, 0
+  stub _zemdErfInv_HA, ork_zem_kernel_dErfInv_ttab, 1
+  stub _zemdErfInv, ork_zem_kernel_dErfInv_ttab, 1
+  stub _zemdErfInv_26, ork_zem_kernel_dErfInv_ttab, 2
+  stub _zemdErfc_50, ork_zem_kernel_dErfc_ttab, 0
+  stub _zemdErfc_HA, ork_zem_kernel_dErfc_ttab, 1
+  stub _zemdErfc, ork_zem_kernel_dErfc_ttab, 1
+  stub _zemdErfc_26, ork_zem_kernel_dErfc_ttab, 2
+  stub _zemdErfcInv_50, ork_zem_kernel_dErfcInv_ttab, 0
+  stub _zemdErfcInv_HA, ork_zem_kernel_dErfcInv_ttab, 1
+  stub _zemdErfcInv, ork_zem_kernel_dErfcInv_ttab, 1
+  stub _zemdErfcInv_26, ork_zem_kernel_dErfcInv_ttab, 2
+  stub _zemdExp_50, ork_zem_kernel_dExp_ttab, 0
+  stub _zemdExp_HA, ork_zem_kernel_dExp_ttab, 1
+  stub _zemdExp, ork_zem_kernel_dExp_ttab, 1
+  stub _zemdExp_26, ork_zem_kernel_dExp_ttab, 2
+  stub _zemdExpm1_50, ork_zem_kernel_dExpm1_ttab, 0
+  stub _zemdExpm1_HA, ork_zem_kernel_dExpm1_ttab, 1
+  stub _zemdExpm1, ork_zem_kernel_dExpm1_ttab, 1
+  stub _zemdExpm1_26, ork_zem_kernel_dExpm1_ttab, 2
+  stub _zemdFloor_50, ork_zem_kernel_dFloor_ttab, 0
+  stub _zemdFloor_HA, ork_zem_kernel_dFloor_ttab, 1
+  stub _zemdFloor, ork_zem_kernel_dFloor_ttab, 1
+  stub _zemdFloor_26, ork_zem_kernel_dFloor_ttab, 2
+  stub _zemdHypot_50, ork_zem_kernel_dHypot_ttab, 0
+  stub _zemdHypot_HA, ork_zem_kernel_dHypot_ttab, 1
+  stub _zemdHypot, ork_zem_kernel_dHypot_ttab, 1
+  stub _zemdHypot_26, ork_zem_kernel_dHypot_ttab, 2
+  stub _zemdInv_50, ork_zem_kernel_dInv_ttab, 0
+  stub _zemdInv_HA, ork_zem_kernel_dInv_ttab, 1
+  stub _zemdInv, ork_zem_kernel_dInv_ttab, 1
+  stub _zemdInv_26, ork_zem_kernel_dInv_ttab, 2
+  stub _zemdInvCbrt_50, ork_zem_kernel_dInvCbrt_ttab, 0
+  stub _zemdInvCbrt_HA, ork_zem_kernel_dInvCbrt_ttab, 1
+  stub _zemdInvCbrt, ork_zem_kernel_dInvCbrt_ttab, 1
+  stub _zemdInvCbrt_26, ork_zem_kernel_dInvCbrt_ttab, 2
+  stub _zemdInvSqrt_50, ork_zem_kernel_dInvSqrt_ttab, 0
+  stub _zemdInvSqrt_HA, ork_zem_kernel_dInvSqrt_ttab, 1
+  stub _zemdInvSqrt, ork_zem_kernel_dInvSqrt_ttab, 1
+  stub _zemdInvSqrt_26, ork_zem_kernel_dInvSqrt_ttab, 2
+  stub _zemdLGamma_50, ork_zem_kernel_dLGamma_ttab, 0
+  stub _zemdLGamma_HA, ork_zem_kernel_dLGamma_ttab, 1
+  stub _zemdLGamma, ork_zem_kernel_dLGamma_ttab, 1
+  stub _zemdLGamma_26, ork_zem_kernel_dLGamma_ttab, 2
+  stub _zemdLinearFrac_50, ork_zem_kernel_dLinearFrac_ttab, 0
+  stub _zemdLinearFrac_HA, ork_zem_kernel_dLinearFrac_ttab, 1
+  stub _zemdLinearFrac, ork_zem_kernel_dLinearFrac_ttab, 1
+  stub _zemdLinearFrac_26, ork_zem_kernel_dLinearFrac_ttab, 2
+  stub _zemdLn_50, ork_zem_kernel_dLn_ttab, 0
+  stub _zemdLn_HA, ork_zem_kernel_dLn_ttab, 1
+  stub _zemdLn, ork_zem_kernel_dLn_ttab, 1
+  stub _zemdLn_26, ork_zem_kernel_dLn_ttab, 2
+  stub _zemdLog10_50, ork_zem_kernel_dLog10_ttab, 0
+  stub _zemdLog10_HA, ork_zem_kernel_dLog10_ttab, 1
+  stub _zemdLog10, ork_zem_kernel_dLog10_ttab, 1
+  stub _zemdLog10_26, ork_zem_kernel_dLog10_ttab, 2
+  stub _zemdLog1p_50, ork_zem_kernel_dLog1p_ttab, 0
+  stub _zemdLog1p_HA, ork_zem_kernel_dLog1p_ttab, 1
+  stub _zemdLog1p, ork_zem_kernel_dLog1p_ttab, 1
+  stub _zemdLog1p_26, ork_zem_kernel_dLog1p_ttab, 2
+  stub _zemdModf_50, ork_zem_kernel_dModf_ttab, 0
+  stub _zemdModf_HA, ork_zem_kernel_dModf_ttab, 1
+  stub _zemdModf, ork_zem_kernel_dModf_ttab, 1
+  stub _zemdModf_26, ork_zem_kernel_dModf_ttab, 2
+  stub _zemdMul_50, ork_zem_kernel_dMul_ttab, 0
+  stub _zemdMul_HA, ork_zem_kernel_dMul_ttab, 1
+  stub _zemdMul, ork_zem_kernel_dMul_ttab, 1
+  stub _zemdMul_26, ork_zem_kernel_dMul_ttab, 2
+  stub _zemdNearbyInt_50, ork_zem_kernel_dNearbyInt_ttab, 0
+  stub _zemdNearbyInt_HA, ork_zem_kernel_dNearbyInt_ttab, 1
+  stub _zemdNearbyInt, ork_zem_kernel_dNearbyInt_ttab, 1
+  stub _zemdNearbyInt_26, ork_zem_kernel_dNearbyInt_ttab, 2
+  stub _zemdPackI_50, ork_zem_kernel_dPackI_ttab, 0, 7
+  stub _zemdPackI_HA, ork_zem_kernel_dPackI_ttab, 1, 7
+  stub _zemdPackI, ork_zem_kernel_dPackI_ttab, 1, 7
+  stub _zemdPackI_26, ork_zem_kernel_dPackI_ttab, 2, 7
+  stub _zemdPackM_50, ork_zem_kernel_dPackM_ttab, 0, 6
+  stub _zemdPackM_HA, ork_zem_kernel_dPackM_ttab, 1, 6
+  stub _zemdPackM, ork_zem_kernel_dPackM_ttab, 1, 6
+  stub _zemdPackM_26, ork_zem_kernel_dPackM_ttab, 2, 6
+  stub _zemdPackV_50, ork_zem_kernel_dPackV_ttab, 0, 6
+  stub _zemdPackV_HA, ork_zem_kernel_dPackV_ttab, 1, 6
+  stub _zemdPackV, ork_zem_kernel_dPackV_ttab, 1, 6
+  stub _zemdPackV_26, ork_zem_kernel_dPackV_ttab, 2, 6
+  stub _zemdPow_50, ork_zem_kernel_dPow_ttab, 0
+  stub _zemdPow_HA, ork_zem_kernel_dPow_ttab, 1
+  stub _zemdPow, ork_zem_kernel_dPow_ttab, 1
+  stub _zemdPow_26, ork_zem_kernel_dPow_ttab, 2
+  stub _zemdPow2o3_50, ork_zem_kernel_dPow2o3_ttab, 0
+  stub _zemdPow2o3_HA, ork_zem_kernel_dPow2o3_ttab, 1
+  stub _zemdPow2o3, ork_zem_kernel_dPow2o3_ttab, 1
+  stub _zemdPow2o3_26, ork_zem_kernel_dPow2o3_ttab, 2
+  stub _zemdPow3o2_50, ork_zem_kernel_dPow3o2_ttab, 0
+  stub _zemdPow3o2_HA, ork_zem_kernel_dPow3o2_ttab, 1
+  stub _zemdPow3o2, ork_zem_kernel_dPow3o2_ttab, 1
+  stub _zemdPow3o2_26, ork_zem_kernel_dPow3o2_ttab, 2
+  stub _zemdPowx_50, ork_zem_kernel_dPowx_ttab, 0
+  stub _zemdPowx_HA, ork_zem_kernel_dPowx_ttab, 1
+  stub _zemdPowx, ork_zem_kernel_dPowx_ttab, 1
+  stub _zemdPowx_26, ork_zem_kernel_dPowx_ttab, 2
+  stub _zemdRint_50, ork_zem_kernel_dRint_ttab, 0
+  stub _zemdRint_HA, ork_zem_kernel_dRint_ttab, 1
+  stub _zemdRint, ork_zem_kernel_dRint_ttab, 1
+  stub _zemdRint_26, ork_zem_kernel_dRint_ttab, 2
+  stub _zemdRound_50, ork_zem_kernel_dRound_ttab, 0
+  stub _zemdRound_HA, ork_zem_kernel_dRound_ttab, 1
+  stub _zemdRound, ork_zem_kernel_dRound_ttab, 1
+  stub _zemdRound_26, ork_zem_kernel_dRound_ttab, 2
+  stub _zemdSin_50, ork_zem_kernel_dSin_ttab, 0
+  stub _zemdSin_HA, ork_zem_kernel_dSin_ttab, 1
+  stub _zemdSin, ork_zem_kernel_dSin_ttab, 1
+  stub _zemdSin_26, ork_zem_kernel_dSin_ttab, 2
+  stub _zemdSinCos_50, ork_zem_kernel_dSinCos_ttab, 0
+  stub _zemdSinCos_HA, ork_zem_kernel_dSinCos_ttab, 1
+  stub _zemdSinCos, ork_zem_kernel_dSinCos_ttab, 1
+  stub _zemdSinCos_26, ork_zem_kernel_dSinCos_ttab, 2
+  stub _zemdSinh_50, ork_zem_kernel_dSinh_ttab, 0
+  stub _zemdSinh_HA, ork_zem_kernel_dSinh_ttab, 1
+  stub _zemdSinh, ork_zem_kernel_dSinh_ttab, 1
+  stub _zemdSinh_26, ork_zem_kernel_dSinh_ttab, 2
+  stub _zemdSqr_50, ork_zem_kernel_dSqr_ttab, 0
+  stub _zemdSqr_HA, ork_zem_kernel_dSqr_ttab, 1
+  stub _zemdSqr, ork_zem_kernel_dSqr_ttab, 1
+  stub _zemdSqr_26, ork_zem_kernel_dSqr_ttab, 2
+  stub _zemdSqrt_50, ork_zem_kernel_dSqrt_ttab, 0
+  stub _zemdSqrt_HA, ork_zem_kernel_dSqrt_ttab, 1
+  stub _zemdSqrt, ork_zem_kernel_dSqrt_ttab, 1
+  stub _zemdSqrt_26, ork_zem_kernel_dSqrt_ttab, 2
+  stub _zemdSub_50, ork_zem_kernel_dSub_ttab, 0
+  stub _zemdSub_HA, ork_zem_kernel_dSub_ttab, 1
+  stub _zemdSub, ork_zem_kernel_dSub_ttab, 1
+  stub _zemdSub_26, ork_zem_kernel_dSub_ttab, 2
+  stub _zemdTGamma_50, ork_zem_kernel_dTGamma_ttab, 0
+  stub _zemdTGamma_HA, ork_zem_kernel_dTGamma_ttab, 1
+  stub _zemdTGamma, ork_zem_kernel_dTGamma_ttab, 1
+  stub _zemdTGamma_26, ork_zem_kernel_dTGamma_ttab, 2
+  stub _zemdTan_50, ork_zem_kernel_dTan_ttab, 0
+  stub _zemdTan_HA, ork_zem_kernel_dTan_ttab, 1
+  stub _zemdTan, ork_zem_kernel_dTan_ttab, 1
+  stub _zemdTan_26, ork_zem_kernel_dTan_ttab, 2
+  stub _zemdTanh_50, ork_zem_kernel_dTanh_ttab, 0
+  stub _zemdTanh_HA, ork_zem_kernel_dTanh_ttab, 1
+  stub _zemdTanh, ork_zem_kernel_dTanh_ttab, 1
+  stub _zemdTanh_26, ork_zem_kernel_dTanh_ttab, 2
+  stub _zemdTrunc_50, ork_zem_kernel_dTrunc_ttab, 0
+  stub _zemdTrunc_HA, ork_zem_kernel_dTrunc_ttab, 1
+  stub _zemdTrunc, ork_zem_kernel_dTrunc_ttab, 1
+  stub _zemdTrunc_26, ork_zem_kernel_dTrunc_ttab, 2
+  stub _zemdUnpackI_50, ork_zem_kernel_dUnpackI_ttab, 0, 7
+  stub _zemdUnpackI_HA, ork_zem_kernel_dUnpackI_ttab, 1, 7
+  stub _zemdUnpackI, ork_zem_kernel_dUnpackI_ttab, 1, 7
+  stub _zemdUnpackI_26, ork_zem_kernel_dUnpackI_ttab, 2, 7
+  stub _zemdUnpackM_50, ork_zem_kernel_dUnpackM_ttab, 0, 6
+  stub _zemdUnpackM_HA, ork_zem_kernel_dUnpackM_ttab, 1, 6
+  stub _zemdUnpackM, ork_zem_kernel_dUnpackM_ttab, 1, 6
+  stub _zemdUnpackM_26, ork_zem_kernel_dUnpackM_ttab, 2, 6
+  stub _zemdUnpackV_50, ork_zem_kernel_dUnpackV_ttab, 0, 6
+  stub _zemdUnpackV_HA, ork_zem_kernel_dUnpackV_ttab, 1, 6
+  stub _zemdUnpackV, ork_zem_kernel_dUnpackV_ttab, 1, 6
+  stub _zemdUnpackV_26, ork_zem_kernel_dUnpackV_ttab, 2, 6
+  stub _zemsAbs_21, ork_zem_kernel_sAbs_ttab, 0
+  stub _zemsAbs_HA, ork_zem_kernel_sAbs_ttab, 1
+  stub _zemsAbs, ork_zem_kernel_sAbs_ttab, 1
+  stub _zemsAbs_11, ork_zem_kernel_sAbs_ttab, 2
+  stub _zemsAcos_21, ork_zem_kernel_sAcos_ttab, 0
+  stub _zemsAcos_HA, ork_zem_kernel_sAcos_ttab, 1
+  stub _zemsAcos, ork_zem_kernel_sAcos_ttab, 1
+  stub _zemsAcos_11, ork_zem_kernel_sAcos_ttab, 2
+  stub _zemsAcosh_21, ork_zem_kernel_sAcosh_ttab, 0
+  stub _zemsAcosh_HA, ork_zem_kernel_sAcosh_ttab, 1
+  stub _zemsAcosh, ork_zem_kernel_sAcosh_ttab, 1
+  stub _zemsAcosh_11, ork_zem_kernel_sAcosh_ttab, 2
+  stub _zemsAdd_21, ork_zem_kernel_sAdd_ttab, 0
+  stub _zemsAdd_HA, ork_zem_kernel_sAdd_ttab, 1
+  stub _zemsAdd, ork_zem_kernel_sAdd_ttab, 1
+  stub _zemsAdd_11, ork_zem_kernel_sAdd_ttab, 2
+  stub _zemsAsin_21, ork_zem_kernel_sAsin_ttab, 0
+  stub _zemsAsin_HA, ork_zem_kernel_sAsin_ttab, 1
+  stub _zemsAsin, ork_zem_kernel_sAsin_ttab, 1
+  stub _zemsAsin_11, ork_zem_kernel_sAsin_ttab, 2
+  stub _zemsAsinh_21, ork_zem_kernel_sAsinh_ttab, 0
+  stub _zemsAsinh_HA, ork_zem_kernel_sAsinh_ttab, 1
+  stub _zemsAsinh, ork_zem_kernel_sAsinh_ttab, 1
+  stub _zemsAsinh_11, ork_zem_kernel_sAsinh_ttab, 2
+  stub _zemsAtan_21, ork_zem_kernel_sAtan_ttab, 0
+  stub _zemsAtan_HA, ork_zem_kernel_sAtan_ttab, 1
+  stub _zemsAtan, ork_zem_kernel_sAtan_ttab, 1
+  stub _zemsAtan_11, ork_zem_kernel_sAtan_ttab, 2
+  stub _zemsAtan2_21, ork_zem_kernel_sAtan2_ttab, 0
+  stub _zemsAtan2_HA, ork_zem_kernel_sAtan2_ttab, 1
+  stub _zemsAtan2, ork_zem_kernel_sAtan2_ttab, 1
+  stub _zemsAtan2_11, ork_zem_kernel_sAtan2_ttab, 2
+  stub _zemsAtanh_21, ork_zem_kernel_sAtanh_ttab, 0
+  stub _zemsAtanh_HA, ork_zem_kernel_sAtanh_ttab, 1
+  stub _zemsAtanh, ork_zem_kernel_sAtanh_ttab, 1
+  stub _zemsAtanh_11, ork_zem_kernel_sAtanh_ttab, 2
+  stub _zemsCbrt_21, ork_zem_kernel_sCbrt_ttab, 0
+  stub _zemsCbrt_HA, ork_zem_kernel_sCbrt_ttab, 1
+  stub _zemsCbrt, ork_zem_kernel_sCbrt_ttab, 1
+  stub _zemsCbrt_11, ork_zem_kernel_sCbrt_ttab, 2
+  stub _zemsCdfNorm_21, ork_zem_kernel_sCdfNorm_ttab, 0
+  stub _zemsCdfNorm_HA, ork_zem_kernel_sCdfNorm_ttab, 1
+  stub _zemsCdfNorm, ork_zem_kernel_sCdfNorm_ttab, 1
+  stub _zemsCdfNorm_11, ork_zem_kernel_sCdfNorm_ttab, 2
+  stub _zemsCdfNormInv_21, ork_zem_kernel_sCdfNormInv_ttab, 0
+  stub _zemsCdfNormInv_HA, ork_zem_kernel_sCdfNormInv_ttab, 1
+  stub _zemsCdfNormInv, ork_zem_kernel_sCdfNormInv_ttab, 1
+  stub _zemsCdfNormInv_11, ork_zem_kernel_sCdfNormInv_ttab, 2
+  stub _zemsCeil_21, ork_zem_kernel_sCeil_ttab, 0
+  stub _zemsCeil_HA, ork_zem_kernel_sCeil_ttab, 1
+  stub _zemsCeil, ork_zem_kernel_sCeil_ttab, 1
+  stub _zemsCeil_11, ork_zem_kernel_sCeil_ttab, 2
+  stub _zemsCos_21, ork_zem_kernel_sCos_ttab, 0
+  stub _zemsCos_HA, ork_zem_kernel_sCos_ttab, 1
+  stub _zemsCos, ork_zem_kernel_sCos_ttab, 1
+  stub _zemsCos_11, ork_zem_kernel_sCos_ttab, 2
+  stub _zemsCosh_21, ork_zem_kernel_sCosh_ttab, 0
+  stub _zemsCosh_HA, ork_zem_kernel_sCosh_ttab, 1
+  stub _zemsCosh, ork_zem_kernel_sCosh_ttab, 1
+  stub _zemsCosh_11, ork_zem_kernel_sCosh_ttab, 2
+  stub _zemsDiv_21, ork_zem_kernel_sDiv_ttab, 0
+  stub _zemsDiv_HA, ork_zem_kernel_sDiv_ttab, 1
+  stub _zemsDiv, ork_zem_kernel_sDiv_ttab, 1
+  stub _zemsDiv_11, ork_zem_kernel_sDiv_ttab, 2
+  stub _zemsErf_21, ork_zem_kernel_sErf_ttab, 0
+  stub _zemsErf_HA, ork_zem_kernel_sErf_ttab, 1
+  stub _zemsErf, ork_zem_kernel_sErf_ttab, 1
+  stub _zemsErf_11, ork_zem_kernel_sErf_ttab, 2
+  stub _zemsErfInv_21, ork_zem_kernel_sErfInv_ttab, 0
+  stub _zemsErfInv_HA, ork_zem_kernel_sErfInv_ttab, 1
+  stub _zemsErfInv, ork_zem_kernel_sErfInv_ttab, 1
+  stub _zemsErfInv_11, ork_zem_kernel_sErfInv_ttab, 2
+  stub _zemsErfc_21, ork_zem_kernel_sErfc_ttab, 0
+  stub _zemsErfc_HA, ork_zem_kernel_sErfc_ttab, 1
+  stub _zemsErfc, ork_zem_kernel_sErfc_ttab, 1
+  stub _zemsErfc_11, ork_zem_kernel_sErfc_ttab, 2
+  stub _zemsErfcInv_21, ork_zem_kernel_sErfcInv_ttab, 0
+  stub _zemsErfcInv_HA, ork_zem_kernel_sErfcInv_ttab, 1
+  stub _zemsErfcInv, ork_zem_kernel_sErfcInv_ttab, 1
+  stub _zemsErfcInv_11, ork_zem_kernel_sErfcInv_ttab, 2
+  stub _zemsExp_21, ork_zem_kernel_sExp_ttab, 0
+  stub _zemsExp_HA, ork_zem_kernel_sExp_ttab, 1
+  stub _zemsExp, ork_zem_kernel_sExp_ttab, 1
+  stub _zemsExp_11, ork_zem_kernel_sExp_ttab, 2
+  stub _zemsExpm1_21, ork_zem_kernel_sExpm1_ttab, 0
+  stub _zemsExpm1_HA, ork_zem_kernel_sExpm1_ttab, 1
+  stub _zemsExpm1, ork_zem_kernel_sExpm1_ttab, 1
+  stub _zemsExpm1_11, ork_zem_kernel_sExpm1_ttab, 2
+  stub _zemsFloor_21, ork_zem_kernel_sFloor_ttab, 0
+  stub _zemsFloor_HA, ork_zem_kernel_sFloor_ttab, 1
+  stub _zemsFloor, ork_zem_kernel_sFloor_ttab, 1
+  stub _zemsFloor_11, ork_zem_kernel_sFloor_ttab, 2
+  stub _zemsHypot_21, ork_zem_kernel_sHypot_ttab, 0
+  stub _zemsHypot_HA, ork_zem_kernel_sHypot_ttab, 1
+  stub _zemsHypot, ork_zem_kernel_sHypot_ttab, 1
+  stub _zemsHypot_11, ork_zem_kernel_sHypot_ttab, 2
+  stub _zemsInv_21, ork_zem_kernel_sInv_ttab, 0
+  stub _zemsInv_HA, ork_zem_kernel_sInv_ttab, 1
+  stub _zemsInv, ork_zem_kernel_sInv_ttab, 1
+  stub _zemsInv_11, ork_zem_kernel_sInv_ttab, 2
+  stub _zemsInvCbrt_21, ork_zem_kernel_sInvCbrt_ttab, 0
+  stub _zemsInvCbrt_HA, ork_zem_kernel_sInvCbrt_ttab, 1
+  stub _zemsInvCbrt, ork_zem_kernel_sInvCbrt_ttab, 1
+  stub _zemsInvCbrt_11, ork_zem_kernel_sInvCbrt_ttab, 2
+  stub _zemsInvSqrt_21, ork_zem_kernel_sInvSqrt_ttab, 0
+  stub _zemsInvSqrt_HA, ork_zem_kernel_sInvSqrt_ttab, 1
+  stub _zemsInvSqrt, ork_zem_kernel_sInvSqrt_ttab, 1
+  stub _zemsInvSqrt_11, ork_zem_kernel_sInvSqrt_ttab, 2
+  stub _zemsLGamma_21, ork_zem_kernel_sLGamma_ttab, 0
+  stub _zemsLGamma_HA, ork_zem_kernel_sLGamma_ttab, 1
+  stub _zemsLGamma, ork_zem_kernel_sLGamma_ttab, 1
+  stub _zemsLGamma_11, ork_zem_kernel_sLGamma_ttab, 2
+  stub _zemsLinearFrac_21, ork_zem_kernel_sLinearFrac_ttab, 0
+  stub _zemsLinearFrac_HA, ork_zem_kernel_sLinearFrac_ttab, 1
+  stub _zemsLinearFrac, ork_zem_kernel_sLinearFrac_ttab, 1
+  stub _zemsLinearFrac_11, ork_zem_kernel_sLinearFrac_ttab, 2
+  stub _zemsLn_21, ork_zem_kernel_sLn_ttab, 0
+  stub _zemsLn_HA, ork_zem_kernel_sLn_ttab, 1
+  stub _zemsLn, ork_zem_kernel_sLn_ttab, 1
+  stub _zemsLn_11, ork_zem_kernel_sLn_ttab, 2
+  stub _zemsLog10_21, ork_zem_kernel_sLog10_ttab, 0
+  stub _zemsLog10_HA, ork_zem_kernel_sLog10_ttab, 1
+  stub _zemsLog10, ork_zem_kernel_sLog10_ttab, 1
+  stub _zemsLog10_11, ork_zem_kernel_sLog10_ttab, 2
+  stub _zemsLog1p_21, ork_zem_kernel_sLog1p_ttab, 0
+  stub _zemsLog1p_HA, ork_zem_kernel_sLog1p_ttab, 1
+  stub _zemsLog1p, ork_zem_kernel_sLog1p_ttab, 1
+  stub _zemsLog1p_11, ork_zem_kernel_sLog1p_ttab, 2
+  stub _zemsModf_21, ork_zem_kernel_sModf_ttab, 0
+  stub _zemsModf_HA, ork_zem_kernel_sModf_ttab, 1
+  stub _zemsModf, ork_zem_kernel_sModf_ttab, 1
+  stub _zemsModf_11, ork_zem_kernel_sModf_ttab, 2
+  stub _zemsMul_21, ork_zem_kernel_sMul_ttab, 0
+  stub _zemsMul_HA, ork_zem_kernel_sMul_ttab, 1
+  stub _zemsMul, ork_zem_kernel_sMul_ttab, 1
+  stub _zemsMul_11, ork_zem_kernel_sMul_ttab, 2
+  stub _zemsNearbyInt_21, ork_zem_kernel_sNearbyInt_ttab, 0
+  stub _zemsNearbyInt_HA, ork_zem_kernel_sNearbyInt_ttab, 1
+  stub _zemsNearbyInt, ork_zem_kernel_sNearbyInt_ttab, 1
+  stub _zemsNearbyInt_11, ork_zem_kernel_sNearbyInt_ttab, 2
+  stub _zemsPackI_21, ork_zem_kernel_sPackI_ttab, 0, 7
+  stub _zemsPackI_HA, ork_zem_kernel_sPackI_ttab, 1, 7
+  stub _zemsPackI, ork_zem_kernel_sPackI_ttab, 1, 7
+  stub _zemsPackI_11, ork_zem_kernel_sPackI_ttab, 2, 7
+  stub _zemsPackM_21, ork_zem_kernel_sPackM_ttab, 0, 6
+  stub _zemsPackM_HA, ork_zem_kernel_sPackM_ttab, 1, 6
+  stub _zemsPackM, ork_zem_kernel_sPackM_ttab, 1, 6
+  stub _zemsPackM_11, ork_zem_kernel_sPackM_ttab, 2, 6
+  stub _zemsPackV_21, ork_zem_kernel_sPackV_ttab, 0, 6
+  stub _zemsPackV_HA, ork_zem_kernel_sPackV_ttab, 1, 6
+  stub _zemsPackV, ork_zem_kernel_sPackV_ttab, 1, 6
+  stub _zemsPackV_11, ork_zem_kernel_sPackV_ttab, 2, 6
+  stub _zemsPow_21, ork_zem_kernel_sPow_ttab, 0
+  stub _zemsPow_HA, ork_zem_kernel_sPow_ttab, 1
+  stub _zemsPow, ork_zem_kernel_sPow_ttab, 1
+  stub _zemsPow_11, ork_zem_kernel_sPow_ttab, 2
+  stub _zemsPow2o3_21, ork_zem_kernel_sPow2o3_ttab, 0
+  stub _zemsPow2o3_HA, ork_zem_kernel_sPow2o3_ttab, 1
+  stub _zemsPow2o3, ork_zem_kernel_sPow2o3_ttab, 1
+  stub _zemsPow2o3_11, ork_zem_kernel_sPow2o3_ttab, 2
+  stub _zemsPow3o2_21, ork_zem_kernel_sPow3o2_ttab, 0
+  stub _zemsPow3o2_HA, ork_zem_kernel_sPow3o2_ttab, 1
+  stub _zemsPow3o2, ork_zem_kernel_sPow3o2_ttab, 1
+  stub _zemsPow3o2_11, ork_zem_kernel_sPow3o2_ttab, 2
+  stub _zemsPowx_21, ork_zem_kernel_sPowx_ttab, 0
+  stub _zemsPowx_HA, ork_zem_kernel_sPowx_ttab, 1
+  stub _zemsPowx, ork_zem_kernel_sPowx_ttab, 1
+  stub _zemsPowx_11, ork_zem_kernel_sPowx_ttab, 2
+  stub _zemsRint_21, ork_zem_kernel_sRint_ttab, 0
+  stub _zemsRint_HA, ork_zem_kernel_sRint_ttab, 1
+  stub _zemsRint, ork_zem_kernel_sRint_ttab, 1
+  stub _zemsRint_11, ork_zem_kernel_sRint_ttab, 2
+  stub _zemsRound_21, ork_zem_kernel_sRound_ttab, 0
+  stub _zemsRound_HA, ork_zem_kernel_sRound_ttab, 1
+  stub _zemsRound, ork_zem_kernel_sRound_ttab, 1
+  stub _zemsRound_11, ork_zem_kernel_sRound_ttab, 2
+  stub _zemsSin_21, ork_zem_kernel_sSin_ttab, 0
+  stub _zemsSin_HA, ork_zem_kernel_sSin_ttab, 1
+  stub _zemsSin, ork_zem_kernel_sSin_ttab, 1
+  stub _zemsSin_11, ork_zem_kernel_sSin_ttab, 2
+  stub _zemsSinCos_21, ork_zem_kernel_sSinCos_ttab, 0
+  stub _zemsSinCos_HA, ork_zem_kernel_sSinCos_ttab, 1
+  stub _zemsSinCos, ork_zem_kernel_sSinCos_ttab, 1
+  stub _zemsSinCos_11, ork_zem_kernel_sSinCos_ttab, 2
+  stub _zemsSinh_21, ork_zem_kernel_sSinh_ttab, 0
+  stub _zemsSinh_HA, ork_zem_kernel_sSinh_ttab, 1
+  stub _zemsSinh, ork_zem_kernel_sSinh_ttab, 1
+  stub _zemsSinh_11, ork_zem_kernel_sSinh_ttab, 2
+  stub _zemsSqr_21, ork_zem_kernel_sSqr_ttab, 0
+  stub _zemsSqr_HA, ork_zem_kernel_sSqr_ttab, 1
+  stub _zemsSqr, ork_zem_kernel_sSqr_ttab, 1
+  stub _zemsSqr_11, ork_zem_kernel_sSqr_ttab, 2
+  stub _zemsSqrt_21, ork_zem_kernel_sSqrt_ttab, 0
+  stub _zemsSqrt_HA, ork_zem_kernel_sSqrt_ttab, 1
+  stub _zemsSqrt, ork_zem_kernel_sSqrt_ttab, 1
+  stub _zemsSqrt_11, ork_zem_kernel_sSqrt_ttab, 2
+  stub _zemsSub_21, ork_zem_kernel_sSub_ttab, 0
+  stub _zemsSub_HA, ork_zem_kernel_sSub_ttab, 1
+  stub _zemsSub, ork_zem_kernel_sSub_ttab, 1
+  stub _zemsSub_11, ork_zem_kernel_sSub_ttab, 2
+  stub _zemsTGamma_21, ork_zem_kernel_sTGamma_ttab, 0
+  stub _zemsTGamma_HA, ork_zem_kernel_sTGamma_ttab, 1
+  stub _zemsTGamma, ork_zem_kernel_sTGamma_ttab, 1
+  stub _zemsTGamma_11, ork_zem_kernel_sTGamma_ttab, 2
+  stub _zemsTan_21, ork_zem_kernel_sTan_ttab, 0
+  stub _zemsTan_HA, ork_zem_kernel_sTan_ttab, 1
+  stub _zemsTan, ork_zem_kernel_sTan_ttab, 1
+  stub _zemsTan_11, ork_zem_kernel_sTan_ttab, 2
+  stub _zemsTanh_21, ork_zem_kernel_sTanh_ttab, 0
+  stub _zemsTanh_HA, ork_zem_kernel_sTanh_ttab, 1
+  stub _zemsTanh, ork_zem_kernel_sTanh_ttab, 1
+  stub _zemsTanh_11, ork_zem_kernel_sTanh_ttab, 2
+  stub _zemsTrunc_21, ork_zem_kernel_sTrunc_ttab, 0
+  stub _zemsTrunc_HA, ork_zem_kernel_sTrunc_ttab, 1
+  stub _zemsTrunc, ork_zem_kernel_sTrunc_ttab, 1
+  stub _zemsTrunc_11, ork_zem_kernel_sTrunc_ttab, 2
+  stub _zemsUnpackI_21, ork_zem_kernel_sUnpackI_ttab, 0, 7
+  stub _zemsUnpackI_HA, ork_zem_kernel_sUnpackI_ttab, 1, 7
+  stub _zemsUnpackI, ork_zem_kernel_sUnpackI_ttab, 1, 7
+  stub _zemsUnpackI_11, ork_zem_kernel_sUnpackI_ttab, 2, 7
+  stub _zemsUnpackM_21, ork_zem_kernel_sUnpackM_ttab, 0, 6
+  stub _zemsUnpackM_HA, ork_zem_kernel_sUnpackM_ttab, 1, 6
+  stub _zemsUnpackM, ork_zem_kernel_sUnpackM_ttab, 1, 6
+  stub _zemsUnpackM_11, ork_zem_kernel_sUnpackM_ttab, 2, 6
+  stub _zemsUnpackV_21, ork_zem_kernel_sUnpackV_ttab, 0, 6
+  stub _zemsUnpackV_HA, ork_zem_kernel_sUnpackV_ttab, 1, 6
+  stub _zemsUnpackV, ork_zem_kernel_sUnpackV_ttab, 1, 6
+  stub _zemsUnpackV_11, ork_zem_kernel_sUnpackV_ttab, 2, 6
