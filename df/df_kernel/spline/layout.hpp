@@ -8,6 +8,7 @@ namespace df {
 
 // Function f is a row of its own.
 struct YRows {
+  static constexpr bool columns = false;
   template <class T>
   struct View {
     const T* y;
@@ -23,6 +24,7 @@ struct YRows {
 
 // The functions' values at one breakpoint lie side by side.
 struct YCols {
+  static constexpr bool columns = true;
   template <class T>
   struct View {
     const T* y;
