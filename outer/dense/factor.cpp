@@ -1,0 +1,138 @@
+// Cholesky factor, inverse from it, inverse of a triangle: each splits its matrix in four,
+// recurses on the diagonal blocks and leaves the rest to the products. The lower triangle
+// is the upper one of the transposed matrix, so the small cases take strides.
+#include <cmath>
+
+#include "outer/dense/dense.hpp"
+
+namespace ork::dense {
+namespace {
+
+constexpr int small = 16;  // order from which on a matrix is split
+
+template <class R>
+struct Upper {  // element (i, j), i <= j, of an upper triangle or of a lower one transposed
+  R* a;
+  int row, col;
+  Upper(bool upper, R* a, int lda) : a(a), row(upper ? 1 : lda), col(upper ? lda : 1) {}
+  R& operator()(int i, int j) const { return a[i * row + j * col]; }
+};
+
+// U'U = A. The result is the order of the first minor that is not positive, or 0.
+template <class R>
+int cholesky(bool upper, int n, R* a, int lda) {
+  if (n <= small) {
+    const Upper<R> u(upper, a, lda);
+    for (int j = 0; j < n; ++j)
+      for (int i = 0; i <= j; ++i) {
+        R sum = u(i, j);
+        for (int k = 0; k < i; ++k) sum -= u(k, i) * u(k, j);
+        if (i < j) sum /= u(i, i);
+        else if (!(sum > R(0))) return j + 1;
+        else sum = std::sqrt(sum);
+        u(i, j) = sum;
+      }
+    return 0;
+  }
+  const int n1 = n / 2, n2 = n - n1;
+  R* const off = off_diagonal(a, lda, n1, upper);
+  R* const a22 = a + n1 * (lda + 1);
+  if (const int minor = cholesky(upper, n1, a, lda)) return minor;
+  const auto A11 = matrix<R>(a, n1, n1, lda);
+  if (upper) {
+    auto A12 = matrix(off, n1, n2, lda);
+    A11.template triangularView<Eigen::Upper>().transpose().solveInPlace(A12);
+  } else {
+    auto A21 = matrix(off, n2, n1, lda);
+    A11.template triangularView<Eigen::Lower>()
+        .transpose()
+        .template solveInPlace<Eigen::OnTheRight>(A21);
+  }
+  syrk(upper, upper, n2, n1, R(-1), off, lda, R(1), a22, lda);
+  const int minor = cholesky(upper, n2, a22, lda);
+  return minor != 0 ? n1 + minor : 0;
+}
+
+template <class R>
+void invert(bool upper, bool unit, int n, R* a, int lda) {
+  if (n <= small) {
+    const Upper<R> u(upper, a, lda);
+    for (int j = 0; j < n; ++j) {
+      const R inverse = unit ? R(1) : R(1) / u(j, j);
+      for (int i = 0; i < j; ++i) {
+        R sum = unit ? u(i, j) : u(i, i) * u(i, j);
+        for (int k = i + 1; k < j; ++k) sum += u(i, k) * u(k, j);
+        u(i, j) = -sum * inverse;
+      }
+      if (!unit) u(j, j) = inverse;
+    }
+    return;
+  }
+  const int n1 = n / 2, n2 = n - n1;
+  R* const off = off_diagonal(a, lda, n1, upper);
+  R* const a22 = a + n1 * (lda + 1);
+  invert(upper, unit, n1, a, lda);
+  invert(upper, unit, n2, a22, lda);
+  const int rows = upper ? n1 : n2, cols = n - rows;
+  trmm(true, upper, false, unit, rows, cols, R(-1), upper ? a : a22, lda, off, lda);
+  trmm(false, upper, false, unit, rows, cols, R(1), upper ? a22 : a, lda, off, lda);
+}
+
+// The triangle of U U' replaces U.
+template <class R>
+void square(bool upper, int n, R* a, int lda) {
+  if (n <= small) {
+    const Upper<R> u(upper, a, lda);
+    for (int j = 0; j < n; ++j)
+      for (int i = 0; i <= j; ++i) {
+        R sum = 0;
+        for (int k = j; k < n; ++k) sum += u(i, k) * u(j, k);
+        u(i, j) = sum;
+      }
+    return;
+  }
+  const int n1 = n / 2, n2 = n - n1;
+  R* const off = off_diagonal(a, lda, n1, upper);
+  R* const a22 = a + n1 * (lda + 1);
+  square(upper, n1, a, lda);
+  syrk(upper, !upper, n1, n2, R(1), off, lda, R(1), a, lda);
+  trmm(!upper, upper, true, false, upper ? n1 : n2, upper ? n2 : n1, R(1), a22, lda, off, lda);
+  square(upper, n2, a22, lda);
+}
+
+template <class R>
+int first_zero(int n, const R* a, int lda) {
+  for (int i = 0; i < n; ++i)
+    if (a[i * (lda + 1)] == R(0)) return i + 1;
+  return 0;
+}
+
+}  // namespace
+}  // namespace ork::dense
+
+using namespace ork::dense;
+
+#define ORK_TWIN(t, R)                                                                           \
+  ORK_OUTER void ork_lapack_##t##potrf(const char* uplo, const int* n, R* a, const int* lda,     \
+                                       int* info) {                                              \
+    const Option upper = is_upper(uplo);                                                         \
+    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : 0;                         \
+    if (*info == 0) *info = cholesky(upper, *n, a, *lda);                                        \
+  }                                                                                              \
+  ORK_OUTER void ork_lapack_##t##potri(const char* uplo, const int* n, R* a, const int* lda,     \
+                                       int* info) {                                              \
+    const Option upper = is_upper(uplo);                                                         \
+    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : first_zero(*n, a, *lda);   \
+    if (*info != 0) return;                                                                      \
+    invert(upper, false, *n, a, *lda);                                                           \
+    square(upper, *n, a, *lda);                                                                  \
+  }                                                                                              \
+  ORK_OUTER void ork_lapack_##t##trtri(const char* uplo, const char* diag, const int* n, R* a,   \
+                                       const int* lda, int* info) {                              \
+    const Option upper = is_upper(uplo), unit = is_unit(diag);                                   \
+    *info = !upper.valid ? -1 : !unit.valid ? -2 : *n < 0 ? -3 : !ld_ok(*lda, *n) ? -5 : 0;      \
+    if (*info == 0 && !unit) *info = first_zero(*n, a, *lda);                                    \
+    if (*info == 0) invert(upper, unit, *n, a, *lda);                                            \
+  }
+ORK_TWIN(d, double)
+ORK_TWIN(s, float)

@@ -1,0 +1,47 @@
+#include "support/kernels.hpp"
+
+#include <set>
+
+const std::vector<Slot> slots = {
+#define SLOT(type, function, form, la, ha, ep)      \
+  {#type[0], #function, Form::form, {la, ha, ep},    \
+   reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab)},
+#include "support/slots.inc"
+#undef SLOT
+};
+
+template <class T> void Call<T>::operator()(int n, const T* a, const T* b, T* r, T* r2) const {
+  void* kernel = const_cast<void*>(slot->table[level]);
+  switch (slot->form) {
+    case Form::unary:
+      return reinterpret_cast<void (*)(int, const T*, T*)>(kernel)(n, a, r);
+    case Form::binary:
+      return reinterpret_cast<void (*)(int, const T*, const T*, T*)>(kernel)(n, a, b, r);
+    case Form::scalar:
+      return reinterpret_cast<void (*)(int, const T*, T, T*)>(kernel)(n, a, *b, r);
+    case Form::two:
+      return reinterpret_cast<void (*)(int, const T*, T*, T*)>(kernel)(n, a, r, r2);
+    case Form::linear:
+      return reinterpret_cast<void (*)(int, const T*, const T*, T, T, T, T, T*)>(kernel)(
+          n, a, b, T(1.5), T(0.25), T(0.75), T(3), r);
+    default:
+      __builtin_trap();
+  }
+}
+
+template <class T> std::vector<Call<T>> elementwise_kernels() {
+  std::vector<Call<T>> calls;
+  for (const Slot& slot : slots) {
+    if ((slot.type == 'd') != (sizeof(T) == 8) || (slot.type != 'd' && slot.type != 's')) continue;
+    if (slot.form >= Form::pack_i) continue;
+    std::set<const void*> seen = {nullptr};
+    for (int level = 0; level < 3; ++level)
+      if (seen.insert(slot.table[level]).second) calls.push_back({&slot, level});
+  }
+  return calls;
+}
+
+template struct Call<double>;
+template struct Call<float>;
+template std::vector<Call<double>> elementwise_kernels<double>();
+template std::vector<Call<float>> elementwise_kernels<float>();

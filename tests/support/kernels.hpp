@@ -1,0 +1,39 @@
+#pragma once
+// The registry of vector kernels as the tests see it: one row for each function and type,
+// called through its exported table.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ork/zem_kernels.h"
+
+enum class Form { unary, binary, scalar, two, linear, pack_i, pack_m, pack_v, unpack_i, unpack_m, unpack_v };
+
+struct Slot {
+  char type;
+  const char* function;
+  Form form;
+  const char* kernels[3];  // "W7LA", ... by level
+  const void* const* table;
+
+  bool exists(int level) const { return table[level] != nullptr; }
+  std::string name(int level) const {
+    return std::string(1, type) + function + "_" + kernels[level];
+  }
+};
+extern const std::vector<Slot> slots;
+
+// A kernel with the arguments that its form takes out of these. Powx takes b[0]; LinearFrac
+// scales and shifts that keep its denominator away from 0.
+template <class T> struct Call {
+  const Slot* slot;
+  int level;
+
+  int inputs() const { return slot->form == Form::binary || slot->form == Form::linear ? 2 : 1; }
+  int outputs() const { return slot->form == Form::two ? 2 : 1; }
+  void operator()(int n, const T* a, const T* b, T* r, T* r2) const;
+};
+
+// Every existing kernel of an element type with an elementwise form (pack and unpack apart),
+// each once.
+template <class T> std::vector<Call<T>> elementwise_kernels();
