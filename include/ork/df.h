@@ -193,6 +193,292 @@ ork_df_construct ork_df_kernel_dDFHermiteCubicSpline1D, ork_df_kernel_sDFHermite
 ork_df_construct ork_df_kernel_dDFBesselCubicSpline1D, ork_df_kernel_sDFBesselCubicSpline1D;
 ork_df_construct ork_df_kernel_dDFAkimaCubicSpline1D, ork_df_kernel_sDFAkimaCubicSpline1D;
 
+/* ---- Cell search --------------------------------------------------------------------- */
+
+/* The cell of a site is the number of breakpoints at or below it: 0 left of x[0], nx at or
+ * right of x[nx - 1], 0 for NaN. On a quasi-uniform partition a site on the very breakpoint
+ * that the equal-spacing guess names may get the cell left of it.
+ *
+ * The caller's own search: receives *n sites and fills n cells and n flags, both preset to 0.
+ * A negative status ends the call with that status; 1000 says that all cells are final; with
+ * any other status a cell whose flag is 0 is a guess, which the library corrects. */
+typedef int32_t ork_df_search_d(const int64_t* n, const double* sites, int64_t* cells,
+                                int32_t* flags, void* params);
+typedef int32_t ork_df_search_s(const int64_t* n, const float* sites, int64_t* cells,
+                                int32_t* flags, void* params);
+
+/* Finds the cells of nsite sites. dataHint is null or an array: element 1 is 0 for no hint, 1
+ * for sites close to one breakpoint, whose index is element 4. With ORK_DF_SITES_SORTED the
+ * sites must ascend; otherwise cells depend on the number of threads.
+ *
+ * Cells are 32-bit integers. With a searchCallback they are 64-bit integers when the task's
+ * widthFlag is not 0. Returns 0, a negative code, or the last status of the callback. `code`
+ * is not read. Callbacks run on the calling thread. */
+int ork_df_kernel_dDFSearch1D(const ork_df_task* task, int64_t code, int64_t nsite,
+                              const double* site, int64_t siteHint, const double* dataHint,
+                              void* cell, ork_df_search_d* searchCallback, void* searchParams,
+                              const ork_threader* threader);
+int ork_df_kernel_sDFSearch1D(const ork_df_task* task, int64_t code, int64_t nsite,
+                              const float* site, int64_t siteHint, const float* dataHint,
+                              void* cell, ork_df_search_s* searchCallback, void* searchParams,
+                              const ork_threader* threader);
+
+/* One method on the calling thread. `state` is read and written by the sorted search only:
+ * the current cell, 0 at the start. `scale`: uniform and user-defined on a uniform partition
+ * 1 / step; quasi-uniform (nx - 1) / (x[nx - 1] - x[0]); peak the peak's position; hybrid the
+ * reciprocal of the bucket width, with `buckets` pairs (lo, hi) of breakpoint indices that
+ * bracket the sites of each bucket. Cells are 32-bit; 64-bit for the user-defined methods
+ * when widthFlag is not 0. `flags` is room for 128 flags of those methods, or null. The
+ * twins with suffix 32 are the same. */
+typedef int ork_df_simple_search_d(int64_t nx, const double* x, int64_t nsite, const double* site,
+                                   int64_t* state, double scale, const double* dataHint,
+                                   int64_t bucketCount, const int32_t* buckets, void* cell,
+                                   int32_t widthFlag, ork_df_search_d* searchCallback,
+                                   void* searchParams, int32_t* flags);
+typedef int ork_df_simple_search_s(int64_t nx, const float* x, int64_t nsite, const float* site,
+                                   int64_t* state, float scale, const float* dataHint,
+                                   int64_t bucketCount, const int32_t* buckets, void* cell,
+                                   int32_t widthFlag, ork_df_search_s* searchCallback,
+                                   void* searchParams, int32_t* flags);
+ork_df_simple_search_d ork_df_kernel_dDFUniformSearch1D, ork_df_kernel_dDFUniformSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFQuasiUniformSearch1D, ork_df_kernel_dDFQuasiUniformSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFSortedSearch1D, ork_df_kernel_dDFSortedSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFPeakSearch1D, ork_df_kernel_dDFPeakSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFHybridSearch1D, ork_df_kernel_dDFHybridSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFUserDefSearch1D, ork_df_kernel_dDFUserDefSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFUniUserDefSearch1D, ork_df_kernel_dDFUniUserDefSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFUniformSearch1D, ork_df_kernel_sDFUniformSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFQuasiUniformSearch1D, ork_df_kernel_sDFQuasiUniformSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFSortedSearch1D, ork_df_kernel_sDFSortedSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFPeakSearch1D, ork_df_kernel_sDFPeakSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFHybridSearch1D, ork_df_kernel_sDFHybridSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFUserDefSearch1D, ork_df_kernel_sDFUserDefSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFUniUserDefSearch1D, ork_df_kernel_sDFUniUserDefSearch1D32;
+
+/* ---- Interpolation ------------------------------------------------------------------- */
+
+/* Evaluates in the caller's place: n pieces (counted from 0) and n sites in, results out as
+ * [function][site][requested order], preset to 0. A negative status ends the work. */
+typedef int32_t ork_df_interp_d(const int64_t* n, const int64_t* pieces, const double* sites,
+                                double* results, void* params);
+typedef int32_t ork_df_interp_s(const int64_t* n, const int64_t* pieces, const float* sites,
+                                float* results, void* params);
+
+/* Values and derivatives of all functions at nsite sites.
+ *
+ * type: bit 2 stores the cells of the sites in `cell`; the value 4 takes them from there and
+ * searches nothing. Cells are 32 bits wide, 64 with a widthFlag other than 0, and so are the
+ * nDerivFlags entries of derivFlags: entry k is 1 to ask for the derivative of order k. Count
+ * is their sum; with none set the value is asked for. Orders that a spline does not have are
+ * 0. `method` is not read.
+ *
+ * resultHint 0, 32: function f, site j, k-th requested order at (f * count + k) * nsite + j;
+ *            16, 128: at (f * nsite + j) * count + k.
+ *
+ * Sites beyond the ends belong to the callback of their side, or else to the end piece,
+ * extended; sites inside to the interior callback, or else to the spline. A site on the right
+ * end counts as inside, but as right when it comes alone on the short road of one site and
+ * one function, or under ORK_DF_SITES_SORTED. With more than 512 sites callbacks, searches
+ * among them, may run on several threads at once. Step and look-up splines (order 0) give
+ * values only; other outputs are not written. Returns 0 or a negative code, and for a single
+ * site the status of its callback. */
+int ork_df_kernel_dDFInterpolate1D(
+    const ork_df_task* task, int64_t type, int64_t method, int64_t nsite, const double* site,
+    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const double* dataHint,
+    double* result, int64_t resultHint, void* cell, ork_df_interp_d* leftCallback, void* leftParams,
+    ork_df_interp_d* rightCallback, void* rightParams, ork_df_interp_d* interiorCallback,
+    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
+    const ork_threader* threader);
+int ork_df_kernel_sDFInterpolate1D(
+    const ork_df_task* task, int64_t type, int64_t method, int64_t nsite, const float* site,
+    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const float* dataHint,
+    float* result, int64_t resultHint, void* cell, ork_df_interp_s* leftCallback, void* leftParams,
+    ork_df_interp_s* rightCallback, void* rightParams, ork_df_interp_s* interiorCallback,
+    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
+    const ork_threader* threader);
+
+/* The road of one site and one function of a double task. splineIndex: 0 linear, 1 quadratic,
+ * 2 cubic. searchKind: 0 uniform, 1 quasi-uniform, else the bucket table. Flags, at most the
+ * first 4 read, are 64 bits wide when bit 0 of the task's widthFlag is set. */
+int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, int searchKind, double site,
+                           int64_t nDerivFlags, const void* derivFlags, double* result,
+                           ork_df_interp_d* leftCallback, void* leftParams,
+                           ork_df_interp_d* rightCallback, void* rightParams,
+                           ork_df_interp_d* interiorCallback, void* interiorParams);
+
+/* Evaluators of one function at n sites with known 32-bit cells. step is that of a uniform
+ * partition. results: [site][requested order]; with a position array, site j goes to place
+ * positions[j]. flags4 holds the flags of orders 0 to 3; derivFlags all of them, of the width
+ * that widthFlag says. The forms with suffix CB serve all functions: function f starts
+ * reserved * count values after function f - 1 (64 * count when reserved is 0), and a
+ * callback, if not null, evaluates in their place. */
+typedef int ork_df_eval_d(int64_t nx, const double* x, int64_t xhint, double step,
+                          const double* icValues, int64_t icType, int64_t n, const double* sites,
+                          double* const* y, int64_t ny, int64_t function, int64_t yhint,
+                          int64_t splineOrder, double* const* coeffs, const int32_t* cells,
+                          int32_t widthFlag, const int32_t* positions, double* results,
+                          int64_t reserved, int64_t nDerivFlags, const void* derivFlags,
+                          int64_t count, const int32_t* flags4);
+typedef int ork_df_eval_cb_d(int64_t nx, const double* x, int64_t xhint, double step,
+                             const double* icValues, int64_t icType, int64_t n, const double* sites,
+                             double* const* y, int64_t ny, int64_t function, int64_t yhint,
+                             int64_t splineOrder, double* const* coeffs, const int32_t* cells,
+                             int32_t widthFlag, const int32_t* positions, double* results,
+                             int64_t reserved, int64_t nDerivFlags, const void* derivFlags,
+                             int64_t count, const int32_t* flags4, ork_df_interp_d* callback,
+                             void* params);
+typedef int ork_df_eval_s(int64_t nx, const float* x, int64_t xhint, float step,
+                          const float* icValues, int64_t icType, int64_t n, const float* sites,
+                          float* const* y, int64_t ny, int64_t function, int64_t yhint,
+                          int64_t splineOrder, float* const* coeffs, const int32_t* cells,
+                          int32_t widthFlag, const int32_t* positions, float* results,
+                          int64_t reserved, int64_t nDerivFlags, const void* derivFlags,
+                          int64_t count, const int32_t* flags4);
+typedef int ork_df_eval_cb_s(int64_t nx, const float* x, int64_t xhint, float step,
+                             const float* icValues, int64_t icType, int64_t n, const float* sites,
+                             float* const* y, int64_t ny, int64_t function, int64_t yhint,
+                             int64_t splineOrder, float* const* coeffs, const int32_t* cells,
+                             int32_t widthFlag, const int32_t* positions, float* results,
+                             int64_t reserved, int64_t nDerivFlags, const void* derivFlags,
+                             int64_t count, const int32_t* flags4, ork_df_interp_s* callback,
+                             void* params);
+ork_df_eval_d ork_df_kernel_d_LinearSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_LinearSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_QuadraticSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_QuadraticSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_CubicSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_CubicSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_QuadSubbSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_QuadSubbSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_ArbitrSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_ArbitrSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_StepLeftSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_StepLeftSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_StepRightSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_StepRightSplineEval32CB;
+ork_df_eval_d ork_df_kernel_d_LookUpSplineEval32;
+ork_df_eval_cb_d ork_df_kernel_d_LookUpSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_LinearSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_LinearSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_QuadraticSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_QuadraticSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_CubicSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_CubicSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_QuadSubbSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_QuadSubbSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_ArbitrSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_ArbitrSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_StepLeftSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_StepLeftSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_StepRightSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_StepRightSplineEval32CB;
+ork_df_eval_s ork_df_kernel_s_LookUpSplineEval32;
+ork_df_eval_cb_s ork_df_kernel_s_LookUpSplineEval32CB;
+
+/* ---- Integration --------------------------------------------------------------------- */
+
+/* Integrates in the caller's place between two limits, *n = 1 pair a call: the pieces
+ * (counted from 0) and values of the lower and the upper limit in, one integral a function
+ * out, preset to 0. A negative status ends the work. */
+typedef int32_t ork_df_integr_d(const int64_t* n, const int64_t* lowerPiece, const double* lower,
+                                const int64_t* upperPiece, const double* upper, double* results,
+                                void* params);
+typedef int32_t ork_df_integr_s(const int64_t* n, const int64_t* lowerPiece, const float* lower,
+                                const int64_t* upperPiece, const float* upper, float* results,
+                                void* params);
+
+/* Integrals of all functions between nlim pairs of limits. A right limit below the left one
+ * gives the negated integral. Hints and data hints of the limits are those of sites in the
+ * search. resultHint 0, 32: pair j of function f at j * ny + f; 16, 128: at f * nlim + j.
+ *
+ * Parts of an interval left of x[0] and right of the right end belong to the callback of
+ * their side, or else to the end piece, extended; the part between to the interior callback,
+ * or else to the spline. Callbacks always get lower <= upper. With more than 128 pairs they
+ * may run on several threads at once. `method` is not read. Returns 0 or a negative code. */
+int ork_df_kernel_dDFIntegrate1D(
+    const ork_df_task* task, int64_t method, int64_t nlim, const double* left, int64_t leftHint,
+    const double* right, int64_t rightHint, const double* leftDataHint, const double* rightDataHint,
+    double* result, int64_t resultHint, ork_df_integr_d* leftCallback, void* leftParams,
+    ork_df_integr_d* rightCallback, void* rightParams, ork_df_integr_d* interiorCallback,
+    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
+    const ork_threader* threader);
+int ork_df_kernel_sDFIntegrate1D(
+    const ork_df_task* task, int64_t method, int64_t nlim, const float* left, int64_t leftHint,
+    const float* right, int64_t rightHint, const float* leftDataHint, const float* rightDataHint,
+    float* result, int64_t resultHint, ork_df_integr_s* leftCallback, void* leftParams,
+    ork_df_integr_s* rightCallback, void* rightParams, ork_df_integr_s* interiorCallback,
+    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
+    const ork_threader* threader);
+
+/* Integrators of one function between `count` pairs of limits with known 32-bit cells; the
+ * forms with suffix CB serve all functions, pair j of function f at results[j * ny + f].
+ * `middles`, if not null, holds three integrals a function (in order of functions), between
+ * the breakpoints cut[0], cut[1], cut[2], cut[3]; the hints of the limits are not read. */
+typedef int ork_df_integrate_d(int64_t nx, const double* x, int64_t xhint, double step,
+                               double* const* coeffs, int64_t count, const double* left,
+                               const int32_t* leftCells, const double* right,
+                               const int32_t* rightCells, const double* icValues, int64_t icType,
+                               double* const* y, int64_t ny, int64_t function, int64_t yhint,
+                               int64_t splineOrder, int64_t leftHint, int64_t rightHint,
+                               const double* leftDataHint, const double* rightDataHint,
+                               double* results, const double* middles, int32_t cut0, int32_t cut1,
+                               int32_t cut2, int32_t cut3);
+typedef int ork_df_integrate_cb_d(
+    int64_t nx, const double* x, int64_t xhint, double step, double* const* coeffs, int64_t count,
+    const double* left, const int32_t* leftCells, const double* right, const int32_t* rightCells,
+    const double* icValues, int64_t icType, double* const* y, int64_t ny, int64_t function,
+    int64_t yhint, int64_t splineOrder, int64_t leftHint, int64_t rightHint,
+    const double* leftDataHint, const double* rightDataHint, double* results,
+    ork_df_integr_d* leftCallback, void* leftParams, ork_df_integr_d* rightCallback,
+    void* rightParams, ork_df_integr_d* interiorCallback, void* interiorParams,
+    const double* middles, int32_t cut0, int32_t cut1, int32_t cut2, int32_t cut3);
+typedef int ork_df_integrate_s(int64_t nx, const float* x, int64_t xhint, float step,
+                               float* const* coeffs, int64_t count, const float* left,
+                               const int32_t* leftCells, const float* right,
+                               const int32_t* rightCells, const float* icValues, int64_t icType,
+                               float* const* y, int64_t ny, int64_t function, int64_t yhint,
+                               int64_t splineOrder, int64_t leftHint, int64_t rightHint,
+                               const float* leftDataHint, const float* rightDataHint,
+                               float* results, const float* middles, int32_t cut0, int32_t cut1,
+                               int32_t cut2, int32_t cut3);
+typedef int ork_df_integrate_cb_s(
+    int64_t nx, const float* x, int64_t xhint, float step, float* const* coeffs, int64_t count,
+    const float* left, const int32_t* leftCells, const float* right, const int32_t* rightCells,
+    const float* icValues, int64_t icType, float* const* y, int64_t ny, int64_t function,
+    int64_t yhint, int64_t splineOrder, int64_t leftHint, int64_t rightHint,
+    const float* leftDataHint, const float* rightDataHint, float* results,
+    ork_df_integr_s* leftCallback, void* leftParams, ork_df_integr_s* rightCallback,
+    void* rightParams, ork_df_integr_s* interiorCallback, void* interiorParams,
+    const float* middles, int32_t cut0, int32_t cut1, int32_t cut2, int32_t cut3);
+ork_df_integrate_d ork_df_kernel_d_IntegrateLinearSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegrateLinearSplineCB;
+ork_df_integrate_d ork_df_kernel_d_IntegrateQuadSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegrateQuadSplineCB;
+ork_df_integrate_d ork_df_kernel_d_IntegrateCubSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegrateCubSplineCB;
+ork_df_integrate_d ork_df_kernel_d_IntegrateSubbSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegrateSubbSplineCB;
+ork_df_integrate_d ork_df_kernel_d_IntegrateArbSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegrateArbSplineCB;
+ork_df_integrate_d ork_df_kernel_d_IntegratePwLSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegratePwLSplineCB;
+ork_df_integrate_d ork_df_kernel_d_IntegratePwRSpline;
+ork_df_integrate_cb_d ork_df_kernel_d_IntegratePwRSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegrateLinearSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegrateLinearSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegrateQuadSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegrateQuadSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegrateCubSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegrateCubSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegrateSubbSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegrateSubbSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegrateArbSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegrateArbSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegratePwLSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegratePwLSplineCB;
+ork_df_integrate_s ork_df_kernel_s_IntegratePwRSpline;
+ork_df_integrate_cb_s ork_df_kernel_s_IntegratePwRSplineCB;
+
 #ifdef __cplusplus
 }
 #endif
