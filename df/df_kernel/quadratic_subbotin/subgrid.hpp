@@ -16,8 +16,9 @@ struct Subgrid {
   T step;           // even
 
   explicit Subgrid(const Task* task)
-      : n(breakpoints(task)), points(internal_values<T>(task)), step(0) {
-    form = task->icType & ORK_DF_IC_UNIFORM ? even : points != nullptr ? listed : middles;
+      : Subgrid(breakpoints(task), task->icType, internal_values<T>(task)) {}
+  Subgrid(int nx, int64_t ic_type, const T* values) : n(nx), points(values), step(0) {
+    form = values == nullptr ? middles : ic_type & ORK_DF_IC_UNIFORM ? even : listed;
     if (form == even && n > 2) step = (points[1] - points[0]) / static_cast<T>(n - 2);
   }
 
