@@ -279,8 +279,8 @@ typedef int32_t ork_df_interp_s(const int64_t* n, const int64_t* pieces, const f
  * extended; sites inside to the interior callback, or else to the spline. A site on the right
  * end counts as inside, but as right when it comes alone on the short road of one site and
  * one function, or under ORK_DF_SITES_SORTED. With more than 512 sites callbacks, searches
- * among them, may run on several threads at once. Step and look-up splines (order 0) give
- * values only; other outputs are not written. Returns 0 or a negative code, and for a single
+ * among them, may run on several threads at once. Step splines (order 0) give values, other
+ * outputs of theirs are 0; a look-up spline takes no other request than the value. Returns 0 or a negative code, and for a single
  * site the status of its callback. */
 int ork_df_kernel_dDFInterpolate1D(
     const ork_df_task* task, int64_t type, int64_t method, int64_t nsite, const double* site,

@@ -118,4 +118,10 @@ inline int kind_of(int64_t order, int64_t type, bool all_callbacks) {
   return ORK_DF_BAD_TYPE;
 }
 
+// Whether the task lends what the kind reads: functions, or coefficients.
+inline bool has_data(const Task* task, int kind) {
+  if (kind >= step_left_kind) return task->y != nullptr && task->y[0] != nullptr;
+  return task->coeffs != nullptr && task->coeffs[0] != nullptr;
+}
+
 }  // namespace df

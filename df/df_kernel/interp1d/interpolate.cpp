@@ -215,6 +215,10 @@ int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, in
   job.callback[interior] = inner, job.params[interior] = inner_params;
   job.callback[right_side] = right, job.params[right_side] = right_params;
 
+  if (!has_data(task, job.kind)) {
+    if (job.kind >= step_left_kind) return ORK_DF_BAD_Y;
+    if (!all_callbacks) return ORK_DF_BAD_COEFFS;
+  }
   if (job.nsite == 0) return ORK_DF_OK;
   if (job.nsite == 1 && !job.store_cells && !job.take_cells && job.total_sites == 0 &&
       job.kind <= cubic_kind && flags <= 4 && job.fit.ny == 1 && search_callback == nullptr)
@@ -232,6 +236,7 @@ static int interpolate_scalar(const Task* task, int kind, int search_kind, doubl
                               void* right_params, ork_df_interp_d* inner, void* inner_params) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (kind < 0 || kind > cubic_kind) return ORK_DF_BAD_TYPE;
+  if (!has_data(task, kind)) return ORK_DF_BAD_COEFFS;
   Interpolation<double> job;
   job.fit = Fit<double>(task);
   job.kind = kind;
