@@ -154,6 +154,6 @@ def generate():
         "include/ork/zem_kernels.h": header(rows),
         "zem/zem_core/frame/tables.cpp": tables(rows),
         "zem/zem_core/frame/stubs.S": stub_code(rows),
-        "tests/support/slots.inc": registry(rows),
+        "tools/registry/slots.inc": registry(rows),
         "tests/project/exports/slots.txt": exports(rows),
     }

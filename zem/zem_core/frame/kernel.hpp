@@ -35,9 +35,14 @@ template <class T, int Inputs = 1, int Outputs = 1> struct Core {
   static constexpr Csr csr = Csr::from_mode;
   static constexpr unsigned rounding = 0;   // MXCSR rounding control
   static constexpr unsigned x87 = 0;        // x87 control, or 0: not used
-  // What the error report names as second input array, where the core holds it as a scalar.
+  // What the error report of an element takes as second input array.
   const T* second(const T* last_input, int) const { return last_input; }
 };
+
+// For Core::second: an array whose element `index`, the only one read, is *x.
+template <class T> ORK_INLINE const T* array_with(const T* x, int index) {
+  return reinterpret_cast<const T*>((uintptr_t)x - (uintptr_t)index * sizeof(T));
+}
 
 // The arrays of a call.
 template <class T, int Inputs, int Outputs> struct Operands {

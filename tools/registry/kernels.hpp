@@ -1,5 +1,5 @@
 #pragma once
-// The registry of vector kernels as the tests see it: one row for each function and type,
+// The registry of vector kernels as tests, meter and benchmarks see it: one row for each function and type,
 // called through its exported table.
 #include <cstdint>
 #include <string>
@@ -15,6 +15,7 @@ struct Slot {
   Form form;
   const char* kernels[3];  // "W7LA", ... by level
   const void* const* table;
+  const float* costs;
 
   bool exists(int level) const { return table[level] != nullptr; }
   std::string name(int level) const {

@@ -1,12 +1,13 @@
-#include "support/kernels.hpp"
+#include "registry/kernels.hpp"
 
 #include <set>
 
 const std::vector<Slot> slots = {
 #define SLOT(type, function, form, la, ha, ep)      \
   {#type[0], #function, Form::form, {la, ha, ep},    \
-   reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab)},
-#include "support/slots.inc"
+   reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab), \
+   ork_zem_kernel_##type##function##_ctab},
+#include "registry/slots.inc"
 #undef SLOT
 };
 

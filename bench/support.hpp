@@ -1,0 +1,80 @@
+#pragma once
+// Timing and tables shared by the benchmark programs.
+#include <x86intrin.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <fstream>
+#include <string>
+#include <vector>
+
+// Time-stamp cycles of one call of f, the least and the median of many short runs: other load
+// on the machine lengthens runs, it cannot shorten them.
+struct Cycles {
+  double least, median;
+};
+template <class F> Cycles time_calls(F f, int runs = 400) {
+  std::vector<double> times;
+  for (int i = 0; i < 3; ++i) f();
+  for (int i = 0; i < runs; ++i) {
+    _mm_lfence();
+    const uint64_t start = __rdtsc();
+    f();
+    _mm_lfence();
+    times.push_back(double(__rdtsc() - start));
+  }
+  std::sort(times.begin(), times.end());
+  return {times.front(), times[times.size() / 2]};
+}
+
+// Lines go to the terminal and, at the end of a --record run, to bench/results/NAME.txt.
+class Report {
+ public:
+  Report(const std::string& name, int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+      const std::string word = argv[i];
+      if (word == "--root" && i + 1 < argc) root_ = argv[++i];
+      else if (word == "--record") record_ = true;
+      else names_.push_back(word);
+    }
+    path_ = root_ + "/bench/results/" + name + ".txt";
+    line("# " + processor() + ", g++ " __VERSION__ "; time-stamp cycles");
+  }
+  ~Report() {
+    if (record_) std::ofstream(path_) << text_;
+  }
+  Report(const Report&) = delete;
+  void line(const std::string& text) {
+    std::puts(text.c_str());
+    std::fflush(stdout);
+    text_ += text + "\n";
+  }
+  const std::string& root() const { return root_; }
+  bool wants(const std::string& name) const {
+    return names_.empty() || std::find(names_.begin(), names_.end(), name) != names_.end();
+  }
+  bool wants_all() const { return names_.empty(); }
+
+ private:
+  static std::string processor() {
+    std::ifstream info("/proc/cpuinfo");
+    std::string model = "unknown processor", family, number;
+    for (std::string line; std::getline(info, line) && !line.empty();) {
+      const auto value = [&] { return line.substr(line.find(':') + 2); };
+      if (line.starts_with("model name")) model = value();
+      else if (line.starts_with("cpu family")) family = value();
+      else if (line.starts_with("model\t")) number = value();
+    }
+    return model + " (family " + family + ", model " + number + ")";
+  }
+  std::string root_ = ".", path_, text_;
+  std::vector<std::string> names_;
+  bool record_ = false;
+};
+
+template <class... A> std::string format(const char* pattern, A... arguments) {
+  char text[500];
+  std::snprintf(text, sizeof text, pattern, arguments...);
+  return text;
+}
