@@ -1,39 +1,13 @@
 // What a construction accepts and refuses, where it starts threads, and what it does without
 // memory.
-#include <atomic>
-#include <thread>
-
 #include "df/fit.hpp"
+#include "df/recorder.hpp"
 #include "support/blocks.hpp"
 
 namespace {
 
 constexpr Kind all_kinds[] = {Kind::linear,   Kind::quadratic, Kind::subbotin, Kind::natural,
                               Kind::standard, Kind::hermite,   Kind::bessel,   Kind::akima};
-
-// A threader table that really runs threads, and notes what it was asked for.
-struct Recorder {
-  static inline int limit = 1;
-  static inline std::vector<std::pair<int, int>> launches;  // count, threads
-
-  static void run(int count, int threads, void* context, ork_threader_body body) {
-    launches.emplace_back(count, threads);
-    std::atomic<int> next = count;  // the last item first
-    std::vector<std::thread> pool;
-    for (int t = 0; t < threads; ++t)
-      pool.emplace_back([&, t] {
-        for (int item; (item = --next) >= 0;) body(item, t, 0, context);
-      });
-    for (auto& t : pool) t.join();
-  }
-  static int threads() { return limit; }
-  static const ork_threader* table(int new_limit) {
-    static const ork_threader recorder = {run, nullptr, nullptr, nullptr, threads};
-    limit = new_limit;
-    launches.clear();
-    return &recorder;
-  }
-};
 
 template <class T>
 void same_bits(Fit<T> fit, int threads) {
