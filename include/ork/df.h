@@ -175,14 +175,35 @@ int ork_df_kernel_sQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t in
 
 /* ---- Construction -------------------------------------------------------------------- */
 
-/* Fill the task's coefficient rows: for each function, splineOrder values a cell, constant
- * term first, in powers of s - x[i]. `format` is not read; `method` must be 0 for the linear
- * and the natural spline and is not read by the others. Least nx: linear 2, natural,
- * default, Hermite 3, Bessel 4, Akima 5.
+/* Fill the task's coefficient rows. Function f gets a row of pieces, each of splineOrder
+ * values c0, c1 .. in powers of s - x[i] for a site s: piece i is the cell x[i] .. x[i + 1],
+ * for the Subbotin spline the surroundings of x[i] between two points of its sub-grid.
  *
- * bcValues: [left, right] for the one-sided conditions; one value for ORK_DF_BC_MIDDLE, and
- * for ORK_DF_BC_PERIODIC with splineType 0 and 3. icValues: second (default) or first
- * (Hermite) derivatives at x[1] .. x[nx - 2]; the sub-grid of the Subbotin spline. */
+ *   entry      least nx  spline
+ *   Linear     2         straight cells; with ORK_DF_BC_PERIODIC the ends must agree
+ *   Quadratic  2         splineType 0: continuous slope, bcType ORK_DF_BC_MIDDLE
+ *                        splineType 1, Subbotin: continuous slope, joined at a sub-grid;
+ *                        icType with ORK_DF_IC_SUBGRID, bcType one condition for each end
+ *   Natural    3         continuous second derivative
+ *   Default    3         second derivatives at x[1] .. x[nx - 2] from icValues
+ *   Hermite    3         slopes at x[1] .. x[nx - 2] from icValues
+ *   Bessel     4         slope of the parabola through three neighbouring points
+ *   Akima      5         mean of the slopes on both sides, weighted by the bends beyond them;
+ *                        also takes ORK_DF_BC_NOT_SET
+ *
+ * bcValues: [left, right] for one condition at each end; the value at the middle for
+ * ORK_DF_BC_MIDDLE; for ORK_DF_BC_PERIODIC, Default and Hermite only, the second or first
+ * derivative at both ends. All functions share icValues and bcValues. Periodic functions
+ * must have y[0] == y[nx - 1].
+ *
+ * `format` is not read; `method` must be 0 for Linear and Natural and is not read by the
+ * others. The threader table (null: one thread) serves Linear, Natural (from 300 breakpoints
+ * and two functions on), Hermite, Bessel and Akima; the coefficients have the same bits on
+ * any number of threads. Scratch is released before the return. After an error rows may be
+ * partly written.
+ *
+ * Errors of the coefficients, relative to the largest: a few units of the type's precision;
+ * those of the quadratic spline add up from cell to cell. */
 typedef int ork_df_construct(ork_df_task* task, int64_t format, int64_t method,
                              const ork_threader* threader);
 ork_df_construct ork_df_kernel_dDFLinearSpline1D, ork_df_kernel_sDFLinearSpline1D;
