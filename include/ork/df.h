@@ -202,7 +202,7 @@ int ork_df_kernel_sQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t in
  * any number of threads. Scratch is released before the return. After an error rows may be
  * partly written.
  *
- * Errors of the coefficients, relative to the largest: a few units of the type's precision;
+ * Errors of the coefficients, relative to the largest: below 20 units of the precision;
  * those of the quadratic spline add up from cell to cell. */
 typedef int ork_df_construct(ork_df_task* task, int64_t format, int64_t method,
                              const ork_threader* threader);
