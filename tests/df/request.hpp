@@ -148,10 +148,10 @@ struct Spline {
       sum = k == 0 ? value(f, type == ORK_DF_TYPE_STEP_LEFT && p > 0 && s == x[p] ? p - 1 : p) : 0;
       return sum;
     }
-    for (int j = k; j < order; ++j) {
-      long double term = coeffs[(size_t(f) * pieces() + p) * order + j];
+    long double power = 1;
+    for (int j = k; j < order; ++j, power *= d) {
+      long double term = coeffs[(size_t(f) * pieces() + p) * order + j] * power;
       for (int m = 0; m < k; ++m) term *= j - m;
-      term *= std::pow(d, j - k);
       sum += term, *size += std::abs(term);
     }
     return sum;
@@ -159,14 +159,14 @@ struct Spline {
   // Integral over piece p from d0 to d1, distances from x[p].
   long double over(int f, int p, long double d0, long double d1, long double* size) const {
     if (steps()) {
-      *size += std::abs(value(f, p) * (d1 - d0));
+      *size += std::abs(value(f, p)) * (std::abs(d0) + std::abs(d1));
       return value(f, p) * (d1 - d0);
     }
-    long double sum = 0;
+    long double sum = 0, upper = 1, lower = 1;
     for (int j = 0; j < order; ++j) {
       const long double c = coeffs[(size_t(f) * pieces() + p) * order + j] / (long double)(j + 1);
-      const long double upper = c * std::pow(d1, j + 1), lower = c * std::pow(d0, j + 1);
-      sum += upper - lower, *size += std::abs(upper) + std::abs(lower);
+      upper *= d1, lower *= d0;
+      sum += c * (upper - lower), *size += std::abs(c) * (std::abs(upper) + std::abs(lower));
     }
     return sum;
   }

@@ -102,7 +102,7 @@ int interpolate_blocks(const Interpolation<T>& job, const ork_threader* threader
   const auto run = [&](T* values) -> int {
     launch.values = values;
     for (int level = 0; level < 2; ++level) {
-      if (threads > 1 && count[level] > 0) {
+      if (limit > 1 && count[level] > 0) {
         const int used = threads < count[level] ? threads : count[level];
         threader->parallel_for(count[level], used, &launch, Launch<T>::body);
         if (launch.status < 0) return launch.status;
