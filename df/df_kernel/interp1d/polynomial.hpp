@@ -5,6 +5,7 @@
 #pragma once
 #include "frame/vec.hpp"
 #include "interp1d/evaluate.hpp"
+#include "spline/lanes.hpp"
 
 namespace df {
 
@@ -54,9 +55,13 @@ ORK_INLINE V derivative(const V (&k)[P], V d) {
   }
 }
 
+// How the outputs lie: those of an order side by side; those of a site side by side, and the
+// sites too; any other way.
+enum class Layout { rows, records, spread };
+
 // `all` names the orders asked for when that is known beforehand, one bit an order; 0 reads
-// the request. `rows`: the outputs of an order lie side by side.
-template <class T, int P, unsigned all, bool rows>
+// the request.
+template <class T, int P, unsigned all, Layout layout>
 int fill_orders(const Fit<T>& fit, const Request& request, int n, const Located<T>& located, int f,
                 const Output<T>& out) {
   using V = ork::vec_of<T>;
@@ -78,28 +83,28 @@ int fill_orders(const Fit<T>& fit, const Request& request, int n, const Located<
     if (wants(3)) put(all != 0 ? 3 : place[3], derivative<3>(k, d));
   };
   int j = 0;
-  for (; j + width <= n; j += width)
+  for (; j + width <= n; j += width) {
+    V value[3];
     emit(j, [&](int k, V v) __attribute__((always_inline)) {
-      if constexpr (rows) {
+      if constexpr (layout == Layout::rows) {
         ork::store(to.base + j + k * to.order, v);
+      } else if constexpr (layout == Layout::records) {
+        value[k] = v;
       } else {
 #pragma GCC unroll 4
         for (int i = 0; i < width; ++i) *to.at(j + i, k) = v[i];
       }
     });
+    if constexpr (layout == Layout::records && all == 3)
+      put_records(to.base + 2 * j, value[0], value[1]);
+    if constexpr (layout == Layout::records && all == 7)
+      put_records(to.base + 3 * j, value[0], value[1], value[2]);
+  }
   if (j < n)
     emit(j, [&](int k, V v) {
       for (int i = 0; j + i < n; ++i) *to.at(j + i, k) = v[i];
     });
   return ORK_DF_OK;
-}
-
-template <class T, int P, bool rows>
-auto* fill_of(unsigned orders) {
-  return orders == 1   ? fill_orders<T, P, 1, rows>
-         : orders == 3 ? fill_orders<T, P, 3, rows>
-         : orders == 7 ? fill_orders<T, P, 7, rows>
-                       : fill_orders<T, P, 0, rows>;
 }
 
 template <class T, int P>
@@ -114,8 +119,16 @@ int fill_polynomial(const Fit<T>& fit, const Request& request, int n, const Loca
     for (int j = 0; j < n; ++j) *out.at(j, k) = T(0);
     ++k;
   }
-  const bool rows = out.site == 1 && out.position == nullptr;
-  const auto fill = rows ? fill_of<T, P, true>(all) : fill_of<T, P, false>(all);
+  const bool in_order = out.position == nullptr;
+  const bool rows = in_order && out.site == 1;
+  const bool records = in_order && out.order == 1 && out.site == request.count;
+  const auto fill = rows && all == 1      ? fill_orders<T, P, 1, Layout::rows>
+                    : rows && all == 3    ? fill_orders<T, P, 3, Layout::rows>
+                    : rows && all == 7    ? fill_orders<T, P, 7, Layout::rows>
+                    : rows                ? fill_orders<T, P, 0, Layout::rows>
+                    : records && all == 3 ? fill_orders<T, P, 3, Layout::records>
+                    : records && all == 7 ? fill_orders<T, P, 7, Layout::records>
+                                          : fill_orders<T, P, 0, Layout::spread>;
   return fill(fit, request, n, located, f, out);
 }
 

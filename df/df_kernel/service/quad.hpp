@@ -29,6 +29,12 @@ struct Quad<double> {
     return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(_mm_cmpge_pd(a, y.a)),
                                            _mm_castpd_ps(_mm_cmpge_pd(b, y.b)), 0x88));
   }
+  // Whether all eight are below the limit; false with a NaN.
+  static bool all_below(Quad x, Quad y, double limit) {
+    const __m128d l = _mm_set1_pd(limit);
+    return _mm_movemask_pd(_mm_and_pd(_mm_and_pd(_mm_cmplt_pd(x.a, l), _mm_cmplt_pd(x.b, l)),
+                                      _mm_and_pd(_mm_cmplt_pd(y.a, l), _mm_cmplt_pd(y.b, l)))) == 3;
+  }
   // Towards zero; INT32_MIN for NaN and what does not fit.
   __m128i truncate() const { return _mm_unpacklo_epi64(_mm_cvttpd_epi32(a), _mm_cvttpd_epi32(b)); }
 };
@@ -49,6 +55,10 @@ struct Quad<float> {
   Quad at_least(Quad y) const { return {_mm_max_ps(v, y.v)}; }
   Quad at_most(Quad y) const { return {_mm_min_ps(v, y.v)}; }
   __m128i operator>=(Quad y) const { return _mm_castps_si128(_mm_cmpge_ps(v, y.v)); }
+  static bool all_below(Quad x, Quad y, float limit) {
+    const __m128 l = _mm_set1_ps(limit);
+    return _mm_movemask_ps(_mm_and_ps(_mm_cmplt_ps(x.v, l), _mm_cmplt_ps(y.v, l))) == 15;
+  }
   __m128i truncate() const { return _mm_cvttps_epi32(v); }
 };
 
