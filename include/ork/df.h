@@ -29,32 +29,32 @@ enum {
   ORK_DF_OK = 0,
   ORK_DF_NULL_TASK = -1000,
   ORK_DF_NO_MEMORY = -1001,
-  ORK_DF_BAD_METHOD = -1002,           /* method code, or quadratic type, not supported */
-  ORK_DF_BAD_NX = -1004,               /* too few breakpoints */
-  ORK_DF_BAD_X = -1005,                /* x is null */
+  ORK_DF_BAD_METHOD = -1002, /* method code, or quadratic type, not supported */
+  ORK_DF_BAD_NX = -1004,     /* too few breakpoints */
+  ORK_DF_BAD_X = -1005,      /* x is null */
   ORK_DF_BAD_XHINT = -1006,
-  ORK_DF_BAD_NY = -1007,               /* ny not valid, or 0 where functions are needed */
-  ORK_DF_BAD_Y = -1008,                /* y is null */
-  ORK_DF_BAD_YHINT = -1009,            /* not valid, or no separate functions to point at */
+  ORK_DF_BAD_NY = -1007,    /* ny not valid, or 0 where functions are needed */
+  ORK_DF_BAD_Y = -1008,     /* y is null */
+  ORK_DF_BAD_YHINT = -1009, /* not valid, or no separate functions to point at */
   ORK_DF_BAD_ORDER = -1010,
-  ORK_DF_BAD_TYPE = -1011,             /* type not valid, or nothing evaluates order and type */
-  ORK_DF_BAD_IC = -1012,               /* internal condition does not fit the spline */
+  ORK_DF_BAD_TYPE = -1011, /* type not valid, or nothing evaluates order and type */
+  ORK_DF_BAD_IC = -1012,   /* internal condition does not fit the spline */
   ORK_DF_BAD_IC_VALUES = -1013,
-  ORK_DF_BAD_BC = -1014,               /* boundary condition does not fit the spline */
+  ORK_DF_BAD_BC = -1014, /* boundary condition does not fit the spline */
   ORK_DF_BAD_BC_VALUES = -1015,
   ORK_DF_BAD_COEFFS = -1016,
   ORK_DF_BAD_COEFF_HINT = -1017,
-  ORK_DF_NOT_PERIODIC = -1018,         /* periodic, and y[0] != y[nx - 1] for some function */
-  ORK_DF_BAD_CODE = -1019,             /* an editor or a query does not know the code */
-  ORK_DF_BAD_INDEX = -1020,            /* function index out of range */
-  ORK_DF_NOT_A_BREAKPOINT = -1022,     /* look-up spline: a site is not a breakpoint */
-  ORK_DF_LOOKUP_ONE_FLAG = -1024,      /* look-up spline: not exactly one derivative flag */
-  ORK_DF_LOOKUP_VALUE = -1025,         /* look-up spline: the value is not asked for */
+  ORK_DF_NOT_PERIODIC = -1018,     /* periodic, and y[0] != y[nx - 1] for some function */
+  ORK_DF_BAD_CODE = -1019,         /* an editor or a query does not know the code */
+  ORK_DF_BAD_INDEX = -1020,        /* function index out of range */
+  ORK_DF_NOT_A_BREAKPOINT = -1022, /* look-up spline: a site is not a breakpoint */
+  ORK_DF_LOOKUP_ONE_FLAG = -1024,  /* look-up spline: not exactly one derivative flag */
+  ORK_DF_LOOKUP_VALUE = -1025,     /* look-up spline: the value is not asked for */
   ORK_DF_BAD_DATA_HINT = -1026,
-  ORK_DF_BAD_RESULT_HINT = -1028,      /* interpolation */
-  ORK_DF_BAD_INTEGRAL_LAYOUT = -1034,  /* integration */
+  ORK_DF_BAD_RESULT_HINT = -1028,     /* interpolation */
+  ORK_DF_BAD_INTEGRAL_LAYOUT = -1034, /* integration */
   ORK_DF_BAD_EXTENSION = -1036,
-  ORK_DF_NULL_RESULT = -1037,          /* out pointer of a query is null */
+  ORK_DF_NULL_RESULT = -1037, /* out pointer of a query is null */
   ORK_DF_SOLVER_FAILED = -1500
 };
 
@@ -118,20 +118,26 @@ enum {
 };
 
 /* Codes of pointer editors and queries. */
-enum { ORK_DF_PTR_X = 1, ORK_DF_PTR_Y = 2, ORK_DF_PTR_IC = 3, ORK_DF_PTR_BC = 4, ORK_DF_PTR_COEFFS = 5 };
+enum {
+  ORK_DF_PTR_X = 1,
+  ORK_DF_PTR_Y = 2,
+  ORK_DF_PTR_IC = 3,
+  ORK_DF_PTR_BC = 4,
+  ORK_DF_PTR_COEFFS = 5
+};
 
 /* Codes of value editors and queries, with the values that the editor accepts. */
 enum {
-  ORK_DF_VAL_NX = 14,           /* at least 2 */
-  ORK_DF_VAL_XHINT = 15,        /* 0, 1, 2, 4 */
-  ORK_DF_VAL_NY = 16,           /* at least 1 */
-  ORK_DF_VAL_YHINT = 17,        /* 0, 16, 32, 128 */
-  ORK_DF_VAL_ORDER = 18,        /* not negative */
-  ORK_DF_VAL_TYPE = 19,         /* 0 to 5 */
-  ORK_DF_VAL_IC = 20,           /* 0, 1, 2, or any value with bit 8 */
-  ORK_DF_VAL_BC = 21,           /* not negative */
-  ORK_DF_VAL_COEFF_HINT = 22,   /* 0, 16, 32, 128 */
-  ORK_DF_VAL_EXTENSION = 23     /* 0, 1; stored and returned only */
+  ORK_DF_VAL_NX = 14,         /* at least 2 */
+  ORK_DF_VAL_XHINT = 15,      /* 0, 1, 2, 4 */
+  ORK_DF_VAL_NY = 16,         /* at least 1 */
+  ORK_DF_VAL_YHINT = 17,      /* 0, 16, 32, 128 */
+  ORK_DF_VAL_ORDER = 18,      /* not negative */
+  ORK_DF_VAL_TYPE = 19,       /* 0 to 5 */
+  ORK_DF_VAL_IC = 20,         /* 0, 1, 2, or any value with bit 8 */
+  ORK_DF_VAL_BC = 21,         /* not negative */
+  ORK_DF_VAL_COEFF_HINT = 22, /* 0, 16, 32, 128 */
+  ORK_DF_VAL_EXTENSION = 23   /* 0, 1; stored and returned only */
 };
 
 /* ---- Task ---------------------------------------------------------------------------- */
@@ -158,20 +164,24 @@ int ork_df_kernel_sEditPPSpline1D(ork_df_task* task, int64_t splineOrder, int64_
                                   const float* icValues, float* coeffs, int64_t coeffHint);
 
 /* Set one pointer, one value, or the row of one function (codes 2 and 5). After a change of
- * x or nx, setting xhint to 1 rebuilds the table that cell search uses on non-uniform
- * partitions; no other edit does, but for a change from 4 to 0 or 2 when there is none. */
+ * ny, yhint or coeffHint set y and the coefficients again. After a change of x or nx, setting
+ * xhint to 1 rebuilds the table that cell search uses on non-uniform partitions; no other edit
+ * does, but for a change from 4 to 0 or 2 when there is none. */
 int ork_df_kernel_dEditPtr(ork_df_task* task, int64_t code, const double* pointer);
 int ork_df_kernel_sEditPtr(ork_df_task* task, int64_t code, const float* pointer);
 int ork_df_kernel_iEditVal(ork_df_task* task, int64_t code, int64_t value);
-int ork_df_kernel_dEditIdxPtr(ork_df_task* task, int64_t code, int64_t index, const double* pointer);
+int ork_df_kernel_dEditIdxPtr(ork_df_task* task, int64_t code, int64_t index,
+                              const double* pointer);
 int ork_df_kernel_sEditIdxPtr(ork_df_task* task, int64_t code, int64_t index, const float* pointer);
 
 /* Read the same. iQueryVal writes 32 bits, or 64 with a widthFlag other than 0. */
 int ork_df_kernel_dQueryPtr(const ork_df_task* task, int64_t code, double** pointer);
 int ork_df_kernel_sQueryPtr(const ork_df_task* task, int64_t code, float** pointer);
 int ork_df_kernel_iQueryVal(const ork_df_task* task, int64_t code, void* value);
-int ork_df_kernel_dQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t index, double** pointer);
-int ork_df_kernel_sQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t index, float** pointer);
+int ork_df_kernel_dQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t index,
+                               double** pointer);
+int ork_df_kernel_sQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t index,
+                               float** pointer);
 
 /* ---- Construction -------------------------------------------------------------------- */
 
@@ -262,14 +272,16 @@ typedef int ork_df_simple_search_s(int64_t nx, const float* x, int64_t nsite, co
                                    int32_t widthFlag, ork_df_search_s* searchCallback,
                                    void* searchParams, int32_t* flags);
 ork_df_simple_search_d ork_df_kernel_dDFUniformSearch1D, ork_df_kernel_dDFUniformSearch1D32;
-ork_df_simple_search_d ork_df_kernel_dDFQuasiUniformSearch1D, ork_df_kernel_dDFQuasiUniformSearch1D32;
+ork_df_simple_search_d ork_df_kernel_dDFQuasiUniformSearch1D,
+    ork_df_kernel_dDFQuasiUniformSearch1D32;
 ork_df_simple_search_d ork_df_kernel_dDFSortedSearch1D, ork_df_kernel_dDFSortedSearch1D32;
 ork_df_simple_search_d ork_df_kernel_dDFPeakSearch1D, ork_df_kernel_dDFPeakSearch1D32;
 ork_df_simple_search_d ork_df_kernel_dDFHybridSearch1D, ork_df_kernel_dDFHybridSearch1D32;
 ork_df_simple_search_d ork_df_kernel_dDFUserDefSearch1D, ork_df_kernel_dDFUserDefSearch1D32;
 ork_df_simple_search_d ork_df_kernel_dDFUniUserDefSearch1D, ork_df_kernel_dDFUniUserDefSearch1D32;
 ork_df_simple_search_s ork_df_kernel_sDFUniformSearch1D, ork_df_kernel_sDFUniformSearch1D32;
-ork_df_simple_search_s ork_df_kernel_sDFQuasiUniformSearch1D, ork_df_kernel_sDFQuasiUniformSearch1D32;
+ork_df_simple_search_s ork_df_kernel_sDFQuasiUniformSearch1D,
+    ork_df_kernel_sDFQuasiUniformSearch1D32;
 ork_df_simple_search_s ork_df_kernel_sDFSortedSearch1D, ork_df_kernel_sDFSortedSearch1D32;
 ork_df_simple_search_s ork_df_kernel_sDFPeakSearch1D, ork_df_kernel_sDFPeakSearch1D32;
 ork_df_simple_search_s ork_df_kernel_sDFHybridSearch1D, ork_df_kernel_sDFHybridSearch1D32;
@@ -301,22 +313,26 @@ typedef int32_t ork_df_interp_s(const int64_t* n, const int64_t* pieces, const f
  * end counts as inside, but as right when it comes alone on the short road of one site and
  * one function, or under ORK_DF_SITES_SORTED. With more than 512 sites callbacks, searches
  * among them, may run on several threads at once. Step splines (order 0) give values, other
- * outputs of theirs are 0; a look-up spline takes no other request than the value. Returns 0 or a negative code, and for a single
- * site the status of its callback. */
-int ork_df_kernel_dDFInterpolate1D(
-    const ork_df_task* task, int64_t type, int64_t method, int64_t nsite, const double* site,
-    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const double* dataHint,
-    double* result, int64_t resultHint, void* cell, ork_df_interp_d* leftCallback, void* leftParams,
-    ork_df_interp_d* rightCallback, void* rightParams, ork_df_interp_d* interiorCallback,
-    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
-    const ork_threader* threader);
-int ork_df_kernel_sDFInterpolate1D(
-    const ork_df_task* task, int64_t type, int64_t method, int64_t nsite, const float* site,
-    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const float* dataHint,
-    float* result, int64_t resultHint, void* cell, ork_df_interp_s* leftCallback, void* leftParams,
-    ork_df_interp_s* rightCallback, void* rightParams, ork_df_interp_s* interiorCallback,
-    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
-    const ork_threader* threader);
+ * outputs of theirs are 0; a look-up spline takes no other request than the value. Returns 0 or a
+ * negative code, and for a single site the status of its callback. */
+int ork_df_kernel_dDFInterpolate1D(const ork_df_task* task, int64_t type, int64_t method,
+                                   int64_t nsite, const double* site, int64_t siteHint,
+                                   int64_t nDerivFlags, const void* derivFlags,
+                                   const double* dataHint, double* result, int64_t resultHint,
+                                   void* cell, ork_df_interp_d* leftCallback, void* leftParams,
+                                   ork_df_interp_d* rightCallback, void* rightParams,
+                                   ork_df_interp_d* interiorCallback, void* interiorParams,
+                                   ork_df_search_d* searchCallback, void* searchParams,
+                                   const ork_threader* threader);
+int ork_df_kernel_sDFInterpolate1D(const ork_df_task* task, int64_t type, int64_t method,
+                                   int64_t nsite, const float* site, int64_t siteHint,
+                                   int64_t nDerivFlags, const void* derivFlags,
+                                   const float* dataHint, float* result, int64_t resultHint,
+                                   void* cell, ork_df_interp_s* leftCallback, void* leftParams,
+                                   ork_df_interp_s* rightCallback, void* rightParams,
+                                   ork_df_interp_s* interiorCallback, void* interiorParams,
+                                   ork_df_search_s* searchCallback, void* searchParams,
+                                   const ork_threader* threader);
 
 /* The road of one site and one function of a double task. splineIndex: 0 linear, 1 quadratic,
  * 2 cubic. searchKind: 0 uniform, 1 quasi-uniform, else the bucket table. Flags, at most the
@@ -416,20 +432,24 @@ typedef int32_t ork_df_integr_s(const int64_t* n, const int64_t* lowerPiece, con
  * their side, or else to the end piece, extended; the part between to the interior callback,
  * or else to the spline. Callbacks always get lower <= upper. With more than 128 pairs they
  * may run on several threads at once. `method` is not read. Returns 0 or a negative code. */
-int ork_df_kernel_dDFIntegrate1D(
-    const ork_df_task* task, int64_t method, int64_t nlim, const double* left, int64_t leftHint,
-    const double* right, int64_t rightHint, const double* leftDataHint, const double* rightDataHint,
-    double* result, int64_t resultHint, ork_df_integr_d* leftCallback, void* leftParams,
-    ork_df_integr_d* rightCallback, void* rightParams, ork_df_integr_d* interiorCallback,
-    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
-    const ork_threader* threader);
-int ork_df_kernel_sDFIntegrate1D(
-    const ork_df_task* task, int64_t method, int64_t nlim, const float* left, int64_t leftHint,
-    const float* right, int64_t rightHint, const float* leftDataHint, const float* rightDataHint,
-    float* result, int64_t resultHint, ork_df_integr_s* leftCallback, void* leftParams,
-    ork_df_integr_s* rightCallback, void* rightParams, ork_df_integr_s* interiorCallback,
-    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
-    const ork_threader* threader);
+int ork_df_kernel_dDFIntegrate1D(const ork_df_task* task, int64_t method, int64_t nlim,
+                                 const double* left, int64_t leftHint, const double* right,
+                                 int64_t rightHint, const double* leftDataHint,
+                                 const double* rightDataHint, double* result, int64_t resultHint,
+                                 ork_df_integr_d* leftCallback, void* leftParams,
+                                 ork_df_integr_d* rightCallback, void* rightParams,
+                                 ork_df_integr_d* interiorCallback, void* interiorParams,
+                                 ork_df_search_d* searchCallback, void* searchParams,
+                                 const ork_threader* threader);
+int ork_df_kernel_sDFIntegrate1D(const ork_df_task* task, int64_t method, int64_t nlim,
+                                 const float* left, int64_t leftHint, const float* right,
+                                 int64_t rightHint, const float* leftDataHint,
+                                 const float* rightDataHint, float* result, int64_t resultHint,
+                                 ork_df_integr_s* leftCallback, void* leftParams,
+                                 ork_df_integr_s* rightCallback, void* rightParams,
+                                 ork_df_integr_s* interiorCallback, void* interiorParams,
+                                 ork_df_search_s* searchCallback, void* searchParams,
+                                 const ork_threader* threader);
 
 /* Integrators of one function between `count` pairs of limits with known 32-bit cells; the
  * forms with suffix CB serve all functions, pair j of function f at results[j * ny + f].

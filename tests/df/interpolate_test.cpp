@@ -10,7 +10,7 @@ struct KindCase {
   int order, type;
   int64_t ic;
 };
-const KindCase kinds[] = {{2, 0, 0}, {3, 0, 0}, {4, 0, 0}, {4, 5, 0},  {3, 1, 0},  {3, 1, 8},
+const KindCase kinds[] = {{2, 0, 0},  {3, 0, 0}, {4, 0, 0},  {4, 5, 0}, {3, 1, 0}, {3, 1, 8},
                           {3, 1, 12}, {6, 0, 0}, {13, 2, 0}, {0, 7, 0}, {0, 8, 0}};
 
 template <class T>
@@ -48,9 +48,9 @@ struct Ask {
     const std::vector<int64_t> wide_flags(flags.begin(), flags.end());
     const void* lent = wide ? (const void*)lend(wide_flags) : lend(flags);
     const int code = Df<T>::interpolate(
-        s.task, type, 0, sites(), lend(site), site_hint, int64_t(flags.size()), flags.empty() ? nullptr : lent,
-        nullptr, out, result_hint, cell, callback[0], params, callback[2], params, callback[1], params, search,
-        search_params, threader);
+        s.task, type, 0, sites(), lend(site), site_hint, int64_t(flags.size()),
+        flags.empty() ? nullptr : lent, nullptr, out, result_hint, cell, callback[0], params,
+        callback[2], params, callback[1], params, search, search_params, threader);
     std::copy(out, out + result.size(), result.begin());
     return code;
   }
@@ -73,9 +73,11 @@ void check(const Ask<T>& ask, const Spline<T>& s, const std::vector<T>& site, co
       for (int k = 0; k < int(orders.size()); ++k) {
         long double size;
         const long double exact = s.at(f, p, site[j], orders[k], &size);
-        ASSERT_NEAR((double)ask.at(s, f, j, k), (double)exact, (double)(4 * (s.order + 1) * eps * size))
-            << what << " order " << s.order << " type " << s.type << " ic " << s.ic << " site " << j << " of "
-            << site.size() << " f " << f << " derivative " << orders[k] << " grid " << int(s.grid);
+        ASSERT_NEAR((double)ask.at(s, f, j, k), (double)exact,
+                    (double)(4 * (s.order + 1) * eps * size))
+            << what << " order " << s.order << " type " << s.type << " ic " << s.ic << " site " << j
+            << " of " << site.size() << " f " << f << " derivative " << orders[k] << " grid "
+            << int(s.grid);
       }
   }
 }
@@ -83,15 +85,26 @@ void check(const Ask<T>& ask, const Spline<T>& s, const std::vector<T>& site, co
 template <class T>
 void check_kinds() {
   std::mt19937 random(1);
-  const std::vector<int> flag_sets[] = {{}, {0, 0}, {1}, {0, 1}, {1, 1}, {1, 1, 1}, {0, 0, 1, 1}, {1, 0, 1, 1, 0, 1}, {0, 0, 0, 0, 1}};
+  const std::vector<int> flag_sets[] = {{},
+                                        {0, 0},
+                                        {1},
+                                        {0, 1},
+                                        {1, 1},
+                                        {1, 1, 1},
+                                        {0, 0, 1, 1},
+                                        {1, 0, 1, 1, 0, 1},
+                                        {0, 0, 0, 0, 1}};
   for (const KindCase& kind : kinds)
     for (Grid grid : {Grid::even, Grid::free})
       for (int nx : {2, 5, 60}) {
         if (kind.ic == 12 && nx == 2) continue;  // one point stands for two
-        Spline<T> s(grid, nx, nx == 5 ? 3 : 1, kind.order, kind.type, random, 0, nx == 5 ? 32 : 0, kind.ic);
+        Spline<T> s(grid, nx, nx == 5 ? 3 : 1, kind.order, kind.type, random, 0, nx == 5 ? 32 : 0,
+                    kind.ic);
         for (int n : {1, 2, 3, 31, 32, 64, 131, 1030})
           for (const auto& flags : flag_sets) {
             Ask<T> ask{make_sites(s.x, n, random), flags};
+            if (kind.type == 1 && kind.ic != 12)  // points where the parabolas meet
+              for (int j = 0; j < n; j += 3) ask.site[j] = s.inner(1 + int(random() % (nx - 1)));
             const int variant = int(random() % 12);
             ask.result_hint = (const int64_t[]){0, 16, 32, 128}[variant % 4];
             if (variant % 3 == 1) std::sort(ask.site.begin(), ask.site.end()), ask.site_hint = 64;
@@ -123,9 +136,12 @@ TEST(Interpolate, OneSiteAsAmongOthers) {
         ASSERT_EQ(two.run(s), 0);
         EXPECT_EQ(memcmp(one.result.data(), two.result.data(), 3 * sizeof(double)), 0) << site;
         double scalar[3];
-        const int flags[] = {1, 1, 1}, kind = grid == Grid::even ? 0 : grid == Grid::near_even ? 1 : 2;
-        ASSERT_EQ(_Interp1DKernel_scalar(s.task, order - 2, kind, site, 3, flags, scalar, nullptr, nullptr,
-                                         nullptr, nullptr, nullptr, nullptr), 0);
+        const int flags[] = {1, 1, 1}, kind = grid == Grid::even        ? 0
+                                              : grid == Grid::near_even ? 1
+                                                                        : 2;
+        ASSERT_EQ(_Interp1DKernel_scalar(s.task, order - 2, kind, site, 3, flags, scalar, nullptr,
+                                         nullptr, nullptr, nullptr, nullptr, nullptr),
+                  0);
         EXPECT_EQ(memcmp(one.result.data(), scalar, sizeof scalar), 0) << site;
       }
     }
@@ -134,8 +150,14 @@ TEST(Interpolate, OneSiteAsAmongOthers) {
 TEST(Interpolate, LaunchesTasksOfFiveBlocksThenOne) {
   std::mt19937 random(6);
   Spline<double> s(Grid::free, 30, 1, 4, 0, random);
-  const struct { int n; std::vector<std::pair<int, int>> launches; } rows[] = {
-      {512, {}}, {513, {{1, 1}, {3, 3}}}, {3 * 320 + 70, {{3, 3}, {1, 1}}}, {640, {{2, 2}}}, {6 * 320 + 5, {{6, 4}}}};
+  const struct {
+    int n;
+    std::vector<std::pair<int, int>> launches;
+  } rows[] = {{512, {}},
+              {513, {{1, 1}, {3, 3}}},
+              {3 * 320 + 70, {{3, 3}, {1, 1}}},
+              {640, {{2, 2}}},
+              {6 * 320 + 5, {{6, 4}}}};
   for (const auto& row : rows) {
     Ask<double> ask{make_sites(s.x, row.n, random), {1}};
     ask.threader = Recorder::table(4);
@@ -181,10 +203,12 @@ TEST(Interpolate, CellsGoOutAndComeBack) {
         ask.cell = width ? (void*)wide : narrow;
         ask.type = 3;
         ASSERT_EQ(ask.run(s), 0);
-        for (int j = 0; j < n; ++j) ASSERT_EQ(width ? wide[j] : narrow[j], plain_cell(s.x, ask.site[j]));
+        for (int j = 0; j < n; ++j)
+          ASSERT_EQ(width ? wide[j] : narrow[j], plain_cell(s.x, ask.site[j]));
         check(ask, s, ask.site, "cells out");
         // Taken as they are: shifted by one they name the neighbours' polynomials.
-        for (int j = 0; j < n; ++j) narrow[j] = std::min(narrow[j] + 1, 40), wide[j] = std::min<int64_t>(wide[j] + 1, 40);
+        for (int j = 0; j < n; ++j)
+          narrow[j] = std::min(narrow[j] + 1, 40), wide[j] = std::min<int64_t>(wide[j] + 1, 40);
         ask.type = 4;
         ASSERT_EQ(ask.run(s), 0);
         for (int j = 0; j < n; ++j) {
@@ -208,7 +232,8 @@ struct Answer {
   static double value(double site, int f, int k) { return 1000 * (f + 1) + 100 * k + site / 64; }
 
   template <int side>
-  static int32_t call(const int64_t* n, const int64_t* piece, const double* site, double* result, void* self) {
+  static int32_t call(const int64_t* n, const int64_t* piece, const double* site, double* result,
+                      void* self) {
     auto& a = *static_cast<Answer*>(self);
     const Spline<double>& s = *a.spline;
     ++a.calls[side];
@@ -217,8 +242,13 @@ struct Answer {
     EXPECT_LE(*n, 64);
     for (int j = 0; j < *n; ++j) {
       const int last = s.pieces() - 1;
-      EXPECT_EQ(piece[j], side == 0 ? 0 : side == 2 ? last : std::min(plain_cell(s.x, site[j]) - 1, last));
-      EXPECT_EQ(side, site[j] < s.x[0] ? 0 : site[j] > s.x.back() ? 2 : site[j] < s.x.back() ? 1 : side);
+      EXPECT_EQ(piece[j], side == 0   ? 0
+                          : side == 2 ? last
+                                      : std::min(plain_cell(s.x, site[j]) - 1, last));
+      EXPECT_EQ(side, site[j] < s.x[0]       ? 0
+                      : site[j] > s.x.back() ? 2
+                      : site[j] < s.x.back() ? 1
+                                             : side);
     }
     for (int f = 0; f < s.ny; ++f)
       for (int j = 0; j < *n; ++j)
@@ -233,7 +263,8 @@ struct Answer {
 TEST(Interpolate, CallbacksServeTheirSide) {
   std::mt19937 random(12);
   const std::vector<int> flags = {1, 0, 1};
-  for (const KindCase& kind : {KindCase{4, 2, 0}, KindCase{3, 1, 8}, KindCase{11, 0, 0}, KindCase{0, 7, 0}})
+  for (const KindCase& kind :
+       {KindCase{4, 2, 0}, KindCase{3, 1, 8}, KindCase{11, 0, 0}, KindCase{0, 7, 0}})
     for (int given = 1; given < 8; ++given)
       for (int n : {1, 30, 100, 900})
         for (int64_t hint : {0, 64})
@@ -246,9 +277,11 @@ TEST(Interpolate, CallbacksServeTheirSide) {
             ask.result_hint = n == 30 ? 16 : 0;
             Answer answer{&s, ask.count()};
             ork_df_interp_d* all[] = {Answer::call<0>, Answer::call<1>, Answer::call<2>};
-            for (int side = 0; side < 3; ++side) ask.callback[side] = given >> side & 1 ? all[side] : nullptr;
+            for (int side = 0; side < 3; ++side)
+              ask.callback[side] = given >> side & 1 ? all[side] : nullptr;
             ask.params = &answer;
-            const bool single = n == 1 && ny == 1 && kind.order >= 2 && kind.order <= 4 && kind.type != 1;
+            const bool single =
+                n == 1 && ny == 1 && kind.order >= 2 && kind.order <= 4 && kind.type != 1;
             std::vector<double> serial;
             for (auto* threader : {&ork_threader_serial, Recorder::table(3)}) {
               ask.threader = threader;
@@ -265,10 +298,14 @@ TEST(Interpolate, CallbacksServeTheirSide) {
               for (int f = 0; f < ny; f += 13)
                 for (int k = 0; k < 2; ++k) {
                   long double size;
-                  const double exact = given >> side & 1 ? Answer::value(site, f, k)
-                                                         : (double)s.at(f, s.piece(site, c), site, 2 * k, &size);
-                  ASSERT_NEAR(ask.at(s, f, j, k), exact, 1e-12 * (1 + std::abs(exact)) + (given >> side & 1 ? 0 : 1e-13 * (double)size))
-                      << "given " << given << " side " << side << " n " << n << " order " << kind.order;
+                  const double exact = given >> side & 1
+                                           ? Answer::value(site, f, k)
+                                           : (double)s.at(f, s.piece(site, c), site, 2 * k, &size);
+                  ASSERT_NEAR(ask.at(s, f, j, k), exact,
+                              1e-12 * (1 + std::abs(exact)) +
+                                  (given >> side & 1 ? 0 : 1e-13 * (double)size))
+                      << "given " << given << " side " << side << " n " << n << " order "
+                      << kind.order;
                 }
             }
           }
@@ -284,7 +321,8 @@ TEST(Interpolate, FailingCallbackStopsLaterGroups) {
       Ask<double> ask{{site.begin(), site.begin() + n}, {1}};
       Answer answer{&s, 1, side};
       ask.params = &answer;
-      ask.callback[0] = Answer::call<0>, ask.callback[1] = Answer::call<1>, ask.callback[2] = Answer::call<2>;
+      ask.callback[0] = Answer::call<0>, ask.callback[1] = Answer::call<1>,
+      ask.callback[2] = Answer::call<2>;
       EXPECT_EQ(ask.run(s), -70 - side);
       for (int k = 0; k < 3; ++k) EXPECT_EQ(answer.calls[k], k <= side) << side << " " << k;
     }
@@ -301,7 +339,8 @@ TEST(Interpolate, SearchCallbackNamesTheCells) {
   Spline<double> s(Grid::free, 20, 1, 4, 0, random);
   for (int n : {1, 40}) {
     Ask<double> ask{make_sites(s.x, n, random), {1}};
-    ask.search = [](const int64_t* count, const double*, int64_t* cell, int32_t*, void*) -> int32_t {
+    ask.search = [](const int64_t* count, const double*, int64_t* cell, int32_t*,
+                    void*) -> int32_t {
       for (int j = 0; j < *count; ++j) cell[j] = 7;
       return 1000;
     };
@@ -311,7 +350,9 @@ TEST(Interpolate, SearchCallbackNamesTheCells) {
       const long double exact = s.at(0, 6, ask.site[j], 0, &size);
       ASSERT_NEAR(ask.result[j], (double)exact, 1e-14 * (double)size);
     }
-    ask.search = [](const int64_t*, const double*, int64_t*, int32_t*, void*) -> int32_t { return -5; };
+    ask.search = [](const int64_t*, const double*, int64_t*, int32_t*, void*) -> int32_t {
+      return -5;
+    };
     EXPECT_EQ(ask.run(s), -5);
   }
 }
@@ -375,20 +416,27 @@ TEST(Interpolate, StepsDifferAtBreakpointsOnly) {
 
 TEST(Interpolate, RefusesInOrder) {
   std::mt19937 random(22);
-  const struct { int order, type, expected; } rows[] = {
-      {1, 0, -1011}, {2, 9, 0}, {3, 2, -1011}, {4, 1, -1011}, {4, 6, -1011}, {5, 1, 0}, {0, 0, -1011}, {0, 9, -1011}};
+  const struct {
+    int order, type, expected;
+  } rows[] = {{1, 0, -1011}, {2, 9, 0}, {3, 2, -1011}, {4, 1, -1011},
+              {4, 6, -1011}, {5, 1, 0}, {0, 0, -1011}, {0, 9, -1011}};
   for (const auto& row : rows) {
     Spline<double> s(Grid::free, 9, 1, row.order, row.type, random);
     const double bad[] = {0, 3, 0, 0, 0};
     double r = 0;
     const auto run = [&](const double* hint, int64_t layout, ork_df_interp_d* callback) {
-      return Df<double>::interpolate(s.task, 1, 0, 1, s.x.data(), 0, 0, nullptr, hint, &r, layout, nullptr, callback,
-                                     nullptr, callback, nullptr, callback, nullptr, nullptr, nullptr, &ork_threader_serial);
+      return Df<double>::interpolate(s.task, 1, 0, 1, s.x.data(), 0, 0, nullptr, hint, &r, layout,
+                                     nullptr, callback, nullptr, callback, nullptr, callback,
+                                     nullptr, nullptr, nullptr, &ork_threader_serial);
     };
     EXPECT_EQ(run(nullptr, 0, nullptr), row.expected) << row.order << " " << row.type;
     EXPECT_EQ(run(bad, 3, nullptr), row.expected == 0 ? -1026 : row.expected);
     EXPECT_EQ(run(nullptr, 3, nullptr), row.expected == 0 ? -1028 : row.expected);
-    const auto nine = [](const int64_t*, const int64_t*, const double*, double* out, void*) -> int32_t { *out = 9; return 0; };
+    const auto nine = [](const int64_t*, const int64_t*, const double*, double* out,
+                         void*) -> int32_t {
+      *out = 9;
+      return 0;
+    };
     if (row.order == 0) {
       EXPECT_EQ(run(nullptr, 0, nine), 0);  // order 0 with three callbacks
       EXPECT_EQ(r, 9);
@@ -398,19 +446,26 @@ TEST(Interpolate, RefusesInOrder) {
   const double x[] = {0, 1};
   double r;
   Df<double>::create(&bare, 2, x, 0, 0, nullptr, 0, 0);
-  for (auto [order, type, expected] : {std::array<int, 3>{4, 0, ORK_DF_BAD_COEFFS}, {0, 7, ORK_DF_BAD_Y}}) {
+  for (auto [order, type, expected] :
+       {std::array<int, 3>{4, 0, ORK_DF_BAD_COEFFS}, {0, 7, ORK_DF_BAD_Y}}) {
     Df<double>::edit(bare, order, type, 0, nullptr, 0, nullptr, nullptr, 0);
-    EXPECT_EQ(Df<double>::interpolate(bare, 1, 0, 1, x, 0, 0, nullptr, nullptr, &r, 0, nullptr, nullptr, nullptr, nullptr,
-                                      nullptr, nullptr, nullptr, nullptr, nullptr, &ork_threader_serial), expected);
+    EXPECT_EQ(Df<double>::interpolate(bare, 1, 0, 1, x, 0, 0, nullptr, nullptr, &r, 0, nullptr,
+                                      nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                      nullptr, &ork_threader_serial),
+              expected);
   }
   ork_df_kernel_DeleteTask(&bare);
 }
 
 TEST(Interpolate, EveryFailingAllocationIsReported) {
   std::mt19937 random(24);
-  const struct { int order, ny, n; bool callback; int asked; } rows[] = {
-      {4, 1, 31, false, 0}, {4, 3, 32, false, 1},  {4, 32, 700, true, 1}, {4, 33, 700, true, 2},
-      {4, 40, 31, true, 1}, {12, 1, 31, false, 1}, {12, 2, 70, false, 5}};
+  const struct {
+    int order, ny, n;
+    bool callback;
+    int asked;
+  } rows[] = {{4, 1, 31, false, 0},  {4, 3, 32, false, 1}, {4, 32, 700, true, 1},
+              {4, 33, 700, true, 2}, {4, 40, 31, true, 1}, {12, 1, 31, false, 1},
+              {12, 2, 70, false, 5}};
   for (const auto& row : rows) {
     Spline<double> s(Grid::free, 20, row.ny, row.order, 0, random);
     Ask<double> ask{make_sites(s.x, row.n, random), {1}};
@@ -422,13 +477,19 @@ TEST(Interpolate, EveryFailingAllocationIsReported) {
                 const int code = ask.run(s);
                 ASSERT_EQ(code, blocks::failed() ? ORK_DF_NO_MEMORY : 0);
                 ASSERT_EQ(blocks::live(), before);
-              }), row.asked) << row.order << " " << row.ny << " " << row.n;
+              }),
+              row.asked)
+        << row.order << " " << row.ny << " " << row.n;
   }
 }
 
 TEST(Interpolate, ExportedEvaluators) {
   std::mt19937 random(26);
-  const struct { KindCase kind; ork_df_eval_d* plain; ork_df_eval_cb_d* with_callback; } rows[] = {
+  const struct {
+    KindCase kind;
+    ork_df_eval_d* plain;
+    ork_df_eval_cb_d* with_callback;
+  } rows[] = {
       {{2, 0, 0}, ork_df_kernel_d_LinearSplineEval32, ork_df_kernel_d_LinearSplineEval32CB},
       {{3, 0, 0}, ork_df_kernel_d_QuadraticSplineEval32, ork_df_kernel_d_QuadraticSplineEval32CB},
       {{4, 0, 0}, ork_df_kernel_d_CubicSplineEval32, ork_df_kernel_d_CubicSplineEval32CB},
@@ -439,7 +500,8 @@ TEST(Interpolate, ExportedEvaluators) {
   for (const auto& row : rows)
     for (bool scattered : {false, true}) {
       const int n = 100, ny = 2;
-      Spline<double> s(Grid::free, 20, ny, row.kind.order, row.kind.type, random, 0, 0, row.kind.ic);
+      Spline<double> s(Grid::free, 20, ny, row.kind.order, row.kind.type, random, 0, 0,
+                       row.kind.ic);
       const std::vector<double> site = make_sites(s.x, n, random);
       std::vector<int32_t> cell(n), position(n);
       for (int j = 0; j < n; ++j) cell[j] = plain_cell(s.x, site[j]), position[j] = n - 1 - j;
@@ -450,15 +512,19 @@ TEST(Interpolate, ExportedEvaluators) {
       const int32_t* places = scattered ? position.data() : nullptr;
       std::vector<double> plain(2 * n * ny), both(2 * n * ny), called(2 * n * ny);
       for (int f = 0; f < ny; ++f)
-        ASSERT_EQ(row.plain(20, s.x.data(), 1, 0, s.subgrid.data(), s.ic, n, site.data(), y.data(), ny, f, 0, s.order,
-                            c.data(), cell.data(), 0, places, &plain[2 * n * f], 0, 3, flags, 2, flags), 0);
+        ASSERT_EQ(row.plain(20, s.x.data(), 1, 0, s.subgrid.data(), s.ic, n, site.data(), y.data(),
+                            ny, f, 0, s.order, c.data(), cell.data(), 0, places, &plain[2 * n * f],
+                            0, 3, flags, 2, flags),
+                  0);
       const auto cb = [&](std::vector<double>& out, ork_df_interp_d* callback, void* params) {
-        return row.with_callback(20, s.x.data(), 1, 0, s.subgrid.data(), s.ic, n, site.data(), y.data(), ny, 0, 0,
-                                 s.order, c.data(), cell.data(), 0, places, out.data(), n, 3, flags, 2, flags, callback, params);
+        return row.with_callback(20, s.x.data(), 1, 0, s.subgrid.data(), s.ic, n, site.data(),
+                                 y.data(), ny, 0, 0, s.order, c.data(), cell.data(), 0, places,
+                                 out.data(), n, 3, flags, 2, flags, callback, params);
       };
       ASSERT_EQ(cb(both, nullptr, nullptr), 0);
       ASSERT_EQ(plain, both);
-      const auto echo = [](const int64_t* count, const int64_t*, const double* at, double* out, void*) -> int32_t {
+      const auto echo = [](const int64_t* count, const int64_t*, const double* at, double* out,
+                           void*) -> int32_t {
         for (int f = 0; f < 2; ++f)
           for (int j = 0; j < *count; ++j, out += 2) out[0] = at[j] + f, out[1] = -at[j];
         return 0;
@@ -470,7 +536,8 @@ TEST(Interpolate, ExportedEvaluators) {
           for (int k = 0; k < (s.order == 0 ? 1 : 2); ++k) {
             long double size;
             const long double exact = s.at(f, s.piece(site[j], cell[j]), site[j], 2 * k, &size);
-            ASSERT_NEAR(plain[2 * (n * f + place) + k], (double)exact, 1e-14 * (double)size) << s.order << " " << j;
+            ASSERT_NEAR(plain[2 * (n * f + place) + k], (double)exact, 1e-14 * (double)size)
+                << s.order << " " << j;
           }
           ASSERT_EQ(called[2 * (n * f + place)], site[j] + f);
         }

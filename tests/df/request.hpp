@@ -12,24 +12,28 @@
 
 template <class T>
 struct Df;
-#define ORK_DF_API(t, T)                                                       \
-  template <>                                                                  \
-  struct Df<T> {                                                               \
-    using search_callback = ork_df_search_##t;                                 \
-    using interp_callback = ork_df_interp_##t;                                 \
-    using integr_callback = ork_df_integr_##t;                                 \
-    static constexpr auto create = ork_df_kernel_##t##NewTask1D;               \
-    static constexpr auto edit = ork_df_kernel_##t##EditPPSpline1D;            \
-    static constexpr auto set = ork_df_kernel_##t##EditPtr;                    \
-    static constexpr auto search = ork_df_kernel_##t##DFSearch1D;              \
-    static constexpr auto interpolate = ork_df_kernel_##t##DFInterpolate1D;    \
-    static constexpr auto integrate = ork_df_kernel_##t##DFIntegrate1D;        \
-    static constexpr ork_df_simple_search_##t* simple[7][2] = {                \
-        ORK_BOTH(t, Uniform), ORK_BOTH(t, QuasiUniform), ORK_BOTH(t, Sorted),  \
-        ORK_BOTH(t, Peak),    ORK_BOTH(t, Hybrid),       ORK_BOTH(t, UserDef), \
-        ORK_BOTH(t, UniUserDef)};                                              \
+#define ORK_DF_API(t, T)                                                                  \
+  template <>                                                                             \
+  struct Df<T> {                                                                          \
+    using search_callback = ork_df_search_##t;                                            \
+    using interp_callback = ork_df_interp_##t;                                            \
+    using integr_callback = ork_df_integr_##t;                                            \
+    static constexpr auto create = ork_df_kernel_##t##NewTask1D;                          \
+    static constexpr auto edit = ork_df_kernel_##t##EditPPSpline1D;                       \
+    static constexpr auto set = ork_df_kernel_##t##EditPtr;                               \
+    static constexpr auto search = ork_df_kernel_##t##DFSearch1D;                         \
+    static constexpr auto interpolate = ork_df_kernel_##t##DFInterpolate1D;               \
+    static constexpr auto integrate = ork_df_kernel_##t##DFIntegrate1D;                   \
+    static constexpr ork_df_simple_search_##t* simple[7][2] = {ORK_BOTH(t, Uniform),      \
+                                                               ORK_BOTH(t, QuasiUniform), \
+                                                               ORK_BOTH(t, Sorted),       \
+                                                               ORK_BOTH(t, Peak),         \
+                                                               ORK_BOTH(t, Hybrid),       \
+                                                               ORK_BOTH(t, UserDef),      \
+                                                               ORK_BOTH(t, UniUserDef)};  \
   };
-#define ORK_BOTH(t, name) {ork_df_kernel_##t##DF##name##Search1D, ork_df_kernel_##t##DF##name##Search1D32}
+#define ORK_BOTH(t, name) \
+  { ork_df_kernel_##t##DF##name##Search1D, ork_df_kernel_##t##DF##name##Search1D32 }
 ORK_DF_API(d, double)
 ORK_DF_API(s, float)
 #undef ORK_DF_API
@@ -59,26 +63,38 @@ std::vector<T> make_grid(Grid grid, int nx, std::mt19937& random) {
   for (int i = 0; i < nx; ++i) {
     const double even = -1.25 + 0.5 * i;
     switch (grid) {
-      case Grid::even: x[i] = T(even); break;
-      case Grid::near_even: x[i] = T(even + 0.125 * (unit(random) - 0.5)); break;
-      case Grid::free: x[i] = T(even + unit(random)); break;
-      case Grid::clustered: x[i] = T(std::pow(double(i) / nx, 8)); break;
-      case Grid::repeated: x[i] = T(std::floor(even / 2)); break;
+      case Grid::even:
+        x[i] = T(even);
+        break;
+      case Grid::near_even:
+        x[i] = T(even + 0.125 * (unit(random) - 0.5));
+        break;
+      case Grid::free:
+        x[i] = T(even + unit(random));
+        break;
+      case Grid::clustered:
+        x[i] = T(std::pow(double(i) / nx, 8));
+        break;
+      case Grid::repeated:
+        x[i] = T(std::floor(even / 2));
+        break;
     }
   }
   std::sort(x.begin(), x.end());
   return x;
 }
 inline int64_t xhint_of(Grid grid) {
-  return grid == Grid::even ? ORK_DF_X_UNIFORM : grid == Grid::near_even ? ORK_DF_X_QUASI_UNIFORM
-                                                                         : ORK_DF_X_NON_UNIFORM;
+  return grid == Grid::even        ? ORK_DF_X_UNIFORM
+         : grid == Grid::near_even ? ORK_DF_X_QUASI_UNIFORM
+                                   : ORK_DF_X_NON_UNIFORM;
 }
 
 // Sites in and around the partition, among them breakpoints and the ends.
 template <class T>
 std::vector<T> make_sites(const std::vector<T>& x, int n, std::mt19937& random) {
   const double span = double(x.back()) - double(x.front());
-  std::uniform_real_distribution<double> around(x.front() - 0.1 * span - 0.3, x.back() + 0.1 * span + 0.3);
+  std::uniform_real_distribution<double> around(x.front() - 0.1 * span - 0.3,
+                                                x.back() + 0.1 * span + 0.3);
   std::vector<T> site(n);
   for (T& s : site) s = random() % 4 == 0 ? x[random() % x.size()] : T(around(random));
   return site;
@@ -104,8 +120,14 @@ struct Spline {
 
   Spline(Grid grid, int nx, int ny, int order, int type, std::mt19937& random, int64_t width = 0,
          int64_t yhint = 0, int64_t ic = 0)
-      : grid(grid), x(make_grid<T>(grid, nx, random)), nx(nx), ny(ny), order(order), type(type),
-        yhint(yhint), ic(ic) {
+      : grid(grid),
+        x(make_grid<T>(grid, nx, random)),
+        nx(nx),
+        ny(ny),
+        order(order),
+        type(type),
+        yhint(yhint),
+        ic(ic) {
     std::uniform_real_distribution<double> unit(-1, 1);
     y.resize(size_t(nx) * ny);
     coeffs.resize(size_t(ny) * pieces() * order);
@@ -121,7 +143,8 @@ struct Spline {
     const std::vector<T> lent = grid == Grid::even ? std::vector<T>{x.front(), x.back()} : x;
     EXPECT_EQ(Df<T>::create(&task, nx, lend(lent), xhint_of(grid), ny, lend(y), yhint, width), 0);
     EXPECT_EQ(Df<T>::edit(task, order, type, 0, nullptr, ic, ic != 0 ? lend(subgrid) : nullptr,
-                          order != 0 ? lend(coeffs) : nullptr, 0), 0);
+                          order != 0 ? lend(coeffs) : nullptr, 0),
+              0);
   }
   ~Spline() { ork_df_kernel_DeleteTask(&task); }
 
@@ -132,7 +155,8 @@ struct Spline {
   // Point c of the Subbotin sub-grid.
   T inner(int c) const {
     if (ic == 8) return subgrid[c];
-    if (ic == 12) return nx == 2 ? subgrid[0] : T(subgrid[0] + (c - 1) * (subgrid[1] - subgrid[0]) / (nx - 2));
+    if (ic == 12)
+      return nx == 2 ? subgrid[0] : T(subgrid[0] + (c - 1) * (subgrid[1] - subgrid[0]) / (nx - 2));
     return (x[c - 1] + x[c]) / 2;
   }
   int piece(T s, int cell) const {

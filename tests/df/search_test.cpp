@@ -12,12 +12,18 @@ struct Case {
   double peak;  // negative: no data hint
 };
 const Case cases[] = {
-    {"uniform", Grid::even, 0, -1},         {"quasi-uniform", Grid::near_even, 0, -1},
-    {"quasi, uneven", Grid::near_even, 0, 0}, {"sorted", Grid::free, 64, -1},
-    {"sorted, clustered", Grid::clustered, 64, -1}, {"sorted, repeated", Grid::repeated, 64, -1},
-    {"peak at 0", Grid::free, 0, 0},        {"peak inside", Grid::free, 0, 0.4},
-    {"peak at nx", Grid::clustered, 0, 1},  {"hybrid", Grid::free, 0, -1},
-    {"hybrid, clustered", Grid::clustered, 0, -1}, {"hybrid, repeated", Grid::repeated, 0, -1},
+    {"uniform", Grid::even, 0, -1},
+    {"quasi-uniform", Grid::near_even, 0, -1},
+    {"quasi, uneven", Grid::near_even, 0, 0},
+    {"sorted", Grid::free, 64, -1},
+    {"sorted, clustered", Grid::clustered, 64, -1},
+    {"sorted, repeated", Grid::repeated, 64, -1},
+    {"peak at 0", Grid::free, 0, 0},
+    {"peak inside", Grid::free, 0, 0.4},
+    {"peak at nx", Grid::clustered, 0, 1},
+    {"hybrid", Grid::free, 0, -1},
+    {"hybrid, clustered", Grid::clustered, 0, -1},
+    {"hybrid, repeated", Grid::repeated, 0, -1},
 };
 
 // The breakpoint that equal spacing names for a site.
@@ -29,11 +35,13 @@ int guess(const std::vector<T>& x, T s) {
 }
 
 template <class T>
-std::vector<int> expected_cells(const Case& c, const std::vector<T>& x, const std::vector<T>& site) {
+std::vector<int> expected_cells(const Case& c, const std::vector<T>& x,
+                                const std::vector<T>& site) {
   std::vector<int> cell;
   for (T s : site) {
     int e = plain_cell(x, s);
-    if (c.grid == Grid::near_even && e > 0 && e < int(x.size()) && s == x[e - 1] && guess(x, s) == e - 1)
+    if (c.grid == Grid::near_even && e > 0 && e < int(x.size()) && s == x[e - 1] &&
+        guess(x, s) == e - 1)
       e = e - 1;
     cell.push_back(e);
   }
@@ -68,9 +76,12 @@ void check_all() {
         const T* lent = lend(site);
         for (const ork_threader* threads : {&ork_threader_serial, Recorder::table(3)}) {
           int* cell = lend(std::vector<int>(n, -9));
-          ASSERT_EQ(Df<T>::search(spline.task, 0, n, lent, c.site_hint, c.peak < 0 ? nullptr : hint.data(),
-                                  cell, nullptr, nullptr, threads), 0);
-          ASSERT_EQ(std::vector<int>(cell, cell + n), expected) << c.name << " nx " << nx << " n " << n;
+          ASSERT_EQ(
+              Df<T>::search(spline.task, 0, n, lent, c.site_hint,
+                            c.peak < 0 ? nullptr : hint.data(), cell, nullptr, nullptr, threads),
+              0);
+          ASSERT_EQ(std::vector<int>(cell, cell + n), expected)
+              << c.name << " nx " << nx << " n " << n;
         }
       }
     }
@@ -81,14 +92,24 @@ TEST(Search, EveryMethodCountsBreakpoints) {
   check_all<float>();
 }
 
+// Sites that only nearly ascend: around few breakpoints, or anywhere.
 TEST(Search, SortedNeverGoesBack) {
   std::mt19937 random(3);
   Spline<double> spline(Grid::free, 50, 1, 2, 0, random);
-  const std::vector<double> site = make_sites(spline.x, 200, random);
-  std::vector<int> cell(200);
-  Df<double>::search(spline.task, 0, 200, site.data(), 64, nullptr, cell.data(), nullptr, nullptr, &ork_threader_serial);
-  int running = 0;
-  for (int j = 0; j < 200; ++j) ASSERT_EQ(cell[j], running = std::max(running, plain_cell(spline.x, site[j])));
+  std::uniform_real_distribution<double> unit;
+  for (double width : {1e-9, 0.3, 1.5, 40.0}) {
+    std::vector<double> site(200);
+    for (int j = 0; j < 200; ++j) site[j] = 0.1 * j + width * unit(random);
+    site[77] = std::nan("");
+    std::vector<int> cell(200);
+    Df<double>::search(spline.task, 0, 200, site.data(), 64, nullptr, cell.data(), nullptr, nullptr,
+                       &ork_threader_serial);
+    int running = 0;
+    for (int j = 0; j < 200; ++j) {
+      running = std::max(running, plain_cell(spline.x, site[j]));
+      ASSERT_EQ(cell[j], j == 77 ? 0 : running) << width << " " << j;
+    }
+  }
 }
 
 TEST(Search, GeneratedSites) {
@@ -99,12 +120,16 @@ TEST(Search, GeneratedSites) {
     Lender lend;
     int* cell = lend(std::vector<int>(n, -9));
     const int asked = blocks::fail_each([&] {
-      const int code = Df<double>::search(spline.task, 0, n, ends, 4, nullptr, cell, nullptr, nullptr, &ork_threader_serial);
+      const int code = Df<double>::search(spline.task, 0, n, ends, 4, nullptr, cell, nullptr,
+                                          nullptr, &ork_threader_serial);
       ASSERT_EQ(code, blocks::failed() ? ORK_DF_NO_MEMORY : 0);
     });
     EXPECT_EQ(asked, n > 4096);
     for (int j = 0; j < n; ++j)
-      ASSERT_EQ(cell[j], plain_cell(spline.x, n == 1 ? ends[0] : j * ((ends[1] - ends[0]) / (n - 1)) + ends[0])) << j;
+      ASSERT_EQ(
+          cell[j],
+          plain_cell(spline.x, n == 1 ? ends[0] : j * ((ends[1] - ends[0]) / (n - 1)) + ends[0]))
+          << j;
   }
 }
 
@@ -131,9 +156,11 @@ TEST(Search, ThreadsStartWhereDocumented) {
     Spline<double> spline(row.grid, row.nx, 1, 2, 0, random);
     const std::vector<double> site(row.n, 0.1), hint = {0, 1, 0, 0, 1};
     std::vector<int> cell(row.n, -1);
-    Df<double>::search(spline.task, 0, row.n, site.data(), row.site_hint, row.peak ? hint.data() : nullptr,
-                       cell.data(), nullptr, nullptr, Recorder::table(row.threads));
-    const std::vector<std::pair<int, int>> expected(row.launched != 0, {row.launched, row.launched});
+    Df<double>::search(spline.task, 0, row.n, site.data(), row.site_hint,
+                       row.peak ? hint.data() : nullptr, cell.data(), nullptr, nullptr,
+                       Recorder::table(row.threads));
+    const std::vector<std::pair<int, int>> expected(row.launched != 0,
+                                                    {row.launched, row.launched});
     EXPECT_EQ(Recorder::launches, expected) << row.nx << " " << row.n << " " << row.threads;
     EXPECT_EQ(std::count(cell.begin(), cell.end(), plain_cell(spline.x, 0.1)), row.n);
   }
@@ -143,14 +170,19 @@ TEST(Search, RefusesUnknownHints) {
   std::mt19937 random(2);
   Spline<double> spline(Grid::free, 20, 1, 2, 0, random);
   const double nan = std::numeric_limits<double>::quiet_NaN(), site[] = {1};
-  const struct { double kind, position; int expected; } rows[] = {
-      {0, nan, 0}, {1, 0, 0}, {1, 20, 0}, {1, 20.5, -1026}, {1, -0.5, -1026}, {1, nan, -1026},
-      {0.5, 3, -1026}, {2, 3, -1026}, {nan, 3, -1026}};
+  const struct {
+    double kind, position;
+    int expected;
+  } rows[] = {{0, nan, 0},     {1, 0, 0},       {1, 20, 0},    {1, 20.5, -1026}, {1, -0.5, -1026},
+              {1, nan, -1026}, {0.5, 3, -1026}, {2, 3, -1026}, {nan, 3, -1026}};
   for (const auto& row : rows) {
     const double hint[] = {0, row.kind, 0, 0, row.position};
     int cell = -9;
-    EXPECT_EQ(Df<double>::search(spline.task, 0, 1, site, 0, hint, &cell, nullptr, nullptr, &ork_threader_serial), row.expected);
-    EXPECT_EQ(cell, row.expected == 0 ? plain_cell(spline.x, 1.0) : -9) << row.kind << " " << row.position;
+    EXPECT_EQ(Df<double>::search(spline.task, 0, 1, site, 0, hint, &cell, nullptr, nullptr,
+                                 &ork_threader_serial),
+              row.expected);
+    EXPECT_EQ(cell, row.expected == 0 ? plain_cell(spline.x, 1.0) : -9)
+        << row.kind << " " << row.position;
   }
 }
 
@@ -168,9 +200,12 @@ struct Guesser {
     for (int j = 0; j < *n; ++j) {
       cell[j] = plain_cell(*g.x, site[j]);
       flag[j] = j % 2;
-      if (g.status == 1000) cell[j] = 1'000'000 + j, flag[j] = 0;
-      else if (!flag[j]) cell[j] += (j % 11 - 5) * (int64_t(1) << (j % 3 * 20));
-      else cell[j] = 5'000'000 + j;
+      if (g.status == 1000)
+        cell[j] = 1'000'000 + j, flag[j] = 0;
+      else if (!flag[j])
+        cell[j] += (j % 11 - 5) * (int64_t(1) << (j % 3 * 20));
+      else
+        cell[j] = 5'000'000 + j;
     }
     return g.status;
   }
@@ -189,8 +224,8 @@ void check_user() {
           std::vector<int64_t> wide(n, -9);
           std::vector<int32_t> narrow(n, -9);
           const int code = Df<T>::search(spline.task, 0, n, site.data(), 0, nullptr,
-                                         width ? (void*)wide.data() : narrow.data(), Guesser<T>::call, &g,
-                                         Recorder::table(8));
+                                         width ? (void*)wide.data() : narrow.data(),
+                                         Guesser<T>::call, &g, Recorder::table(8));
           const bool stopped = status == -77 && n >= 128;
           EXPECT_EQ(code, stopped ? -77 : status == 5 ? 5 : 0);
           EXPECT_TRUE(Recorder::launches.empty());
@@ -201,13 +236,15 @@ void check_user() {
           for (int j = 0; j < n; ++j) {
             const int64_t cell = width ? wide[j] : narrow[j];
             const int in_block = j % 128;
-            int expected = status == 1000 ? 1'000'000 + in_block : in_block % 2 ? 5'000'000 + in_block
-                                                                              : plain_cell(spline.x, site[j]);
+            int expected = status == 1000 ? 1'000'000 + in_block
+                           : in_block % 2 ? 5'000'000 + in_block
+                                          : plain_cell(spline.x, site[j]);
             if (stopped && j >= 128) expected = -9;
             // On a breakpoint that the guess named the cell stays at the guess.
-            const bool on_guess = grid == Grid::free && in_block % 2 == 0 && status != 1000 && expected > 0 &&
-                                  site[j] == spline.x[expected - 1];
-            ASSERT_TRUE(cell == expected || (on_guess && cell == expected - 1)) << j << " of " << n << ": " << cell << " " << expected;
+            const bool on_guess = grid == Grid::free && in_block % 2 == 0 && status != 1000 &&
+                                  expected > 0 && site[j] == spline.x[expected - 1];
+            ASSERT_TRUE(cell == expected || (on_guess && cell == expected - 1))
+                << j << " of " << n << ": " << cell << " " << expected;
           }
         }
 }
@@ -240,8 +277,9 @@ void check_simple() {
       int32_t flags[128];
       int64_t state = 0;
       const auto call = [&](int first, int count) {
-        return Df<T>::simple[method][twin](nx, lent_x, count, &site[first], &state, scale, nullptr, 3,
-                                           bracket.data(), cell + first, 0, Guesser<T>::call, &g, flags);
+        return Df<T>::simple[method][twin](nx, lent_x, count, &site[first], &state, scale, nullptr,
+                                           3, bracket.data(), cell + first, 0, Guesser<T>::call, &g,
+                                           flags);
       };
       ASSERT_EQ(call(0, 128), 0);
       ASSERT_EQ(call(128, n - 128), 0);
@@ -275,7 +313,8 @@ TEST(Search, StaleTableStaysInside) {
   const std::vector<double> site = make_sites(all, 500, random);
   std::vector<int> cell(500, -9);
   const auto search = [&] {
-    return Df<double>::search(spline.task, 0, 500, site.data(), 0, nullptr, cell.data(), nullptr, nullptr, &ork_threader_serial);
+    return Df<double>::search(spline.task, 0, 500, site.data(), 0, nullptr, cell.data(), nullptr,
+                              nullptr, &ork_threader_serial);
   };
   ASSERT_EQ(search(), 0);
   for (int c : cell) ASSERT_TRUE(c >= 0 && c <= 20);

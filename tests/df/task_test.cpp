@@ -9,7 +9,9 @@ const double y15[15] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
 struct Task {
   ork_df_task* task = nullptr;
   explicit Task(int64_t ny = 3, int64_t yhint = 0, int32_t width = 0, int64_t xhint = 0) {
-    EXPECT_EQ(ork_df_kernel_dNewTask1D(&task, 5, x5, xhint, ny, ny != 0 ? y15 : nullptr, yhint, width), 0);
+    EXPECT_EQ(
+        ork_df_kernel_dNewTask1D(&task, 5, x5, xhint, ny, ny != 0 ? y15 : nullptr, yhint, width),
+        0);
   }
   ~Task() { EXPECT_EQ(ork_df_kernel_DeleteTask(&task), 0); }
   int32_t value(int code) const {
@@ -50,7 +52,8 @@ TEST(Task, CreatorChecksInOrder) {
   for (const auto& r : rows) {
     ork_df_task* task = nullptr;
     const int before = blocks::live();
-    EXPECT_EQ(ork_df_kernel_dNewTask1D(&task, r.nx, r.x, r.xhint, r.ny, r.y, r.yhint, 0), r.expected);
+    EXPECT_EQ(ork_df_kernel_dNewTask1D(&task, r.nx, r.x, r.xhint, r.ny, r.y, r.yhint, 0),
+              r.expected);
     EXPECT_EQ(task != nullptr, r.expected == 0);
     if (task != nullptr) ork_df_kernel_DeleteTask(&task);
     EXPECT_EQ(task, nullptr);
@@ -67,14 +70,16 @@ TEST(Task, ValuesAreCheckedAndStored) {
     int64_t value;
     int expected;
   } rows[] = {
-      {14, 1, -1004}, {14, 2, 0}, {15, 3, -1006}, {15, 2, 0},  {15, 4, 0},     {15, -1, -1006},
-      {16, 0, -1007}, {16, 2, 0}, {17, 8, -1009}, {17, 32, 0}, {17, 128, 0},   {18, -1, -1010},
-      {18, 9, 0},     {19, 6, -1011}, {19, -1, -1011}, {19, 5, 0}, {20, 3, -1012}, {20, 12, 0},
-      {20, 2, 0},     {21, -1, -1014}, {21, 77, 0}, {22, 64, -1017}, {22, 128, 0}, {23, 2, -1036},
-      {23, 1, 0},     {13, 1, -1019}, {24, 1, -1019},
+      {14, 1, -1004},  {14, 2, 0},      {15, 3, -1006}, {15, 2, 0},     {15, 4, 0},
+      {15, -1, -1006}, {16, 0, -1007},  {16, 2, 0},     {17, 8, -1009}, {17, 32, 0},
+      {17, 128, 0},    {18, -1, -1010}, {18, 9, 0},     {19, 6, -1011}, {19, -1, -1011},
+      {19, 5, 0},      {20, 3, -1012},  {20, 12, 0},    {20, 2, 0},     {21, -1, -1014},
+      {21, 77, 0},     {22, 64, -1017}, {22, 128, 0},   {23, 2, -1036}, {23, 1, 0},
+      {13, 1, -1019},  {24, 1, -1019},
   };
   for (const auto& r : rows) {
-    EXPECT_EQ(ork_df_kernel_iEditVal(t.task, r.code, r.value), r.expected) << r.code << " " << r.value;
+    EXPECT_EQ(ork_df_kernel_iEditVal(t.task, r.code, r.value), r.expected)
+        << r.code << " " << r.value;
     if (r.expected == 0) {
       EXPECT_EQ(t.value(r.code), r.value) << r.code;
     }
@@ -135,11 +140,21 @@ TEST(Task, PointersAreCheckedAndStored) {
   EXPECT_EQ(ork_df_kernel_dEditPtr(nullptr, 1, nullptr), -1000);
   EXPECT_EQ(ork_df_kernel_dQueryPtr(t.task, 0, &p), -1019);
   EXPECT_EQ(ork_df_kernel_dQueryPtr(t.task, 1, nullptr), -1037);
-  const struct { int code; int64_t index; double* pointer; int edit, query; } rows[] = {
-      {2, 3, v, -1020, -1020}, {2, -1, nullptr, -1020, -1020}, {2, 2, nullptr, -1008, 0},
-      {5, 0, nullptr, -1016, 0}, {5, 3, v, -1020, -1020}, {1, 0, v, -1019, -1019}, {5, 2, v, 0, 0}};
+  const struct {
+    int code;
+    int64_t index;
+    double* pointer;
+    int edit, query;
+  } rows[] = {{2, 3, v, -1020, -1020},
+              {2, -1, nullptr, -1020, -1020},
+              {2, 2, nullptr, -1008, 0},
+              {5, 0, nullptr, -1016, 0},
+              {5, 3, v, -1020, -1020},
+              {1, 0, v, -1019, -1019},
+              {5, 2, v, 0, 0}};
   for (const auto& r : rows) {
-    EXPECT_EQ(ork_df_kernel_dEditIdxPtr(t.task, r.code, r.index, r.pointer), r.edit) << r.code << " " << r.index;
+    EXPECT_EQ(ork_df_kernel_dEditIdxPtr(t.task, r.code, r.index, r.pointer), r.edit)
+        << r.code << " " << r.index;
     EXPECT_EQ(ork_df_kernel_dQueryIdxPtr(t.task, r.code, r.index, &p), r.query);
   }
   EXPECT_EQ(ork_df_kernel_dQueryIdxPtr(t.task, 9, 7, nullptr), -1037);
@@ -156,14 +171,20 @@ TEST(Task, SplineIsStoredUpToTheFailingCheck) {
     int expected;
     int stored;  // fields stored: order and type, bc, ic
   } rows[] = {
-      {-1, -1, 4, nullptr, 1, nullptr, -1010, 0}, {4, -1, 4, nullptr, 1, nullptr, -1011, 0},
-      {4, 2, 12, nullptr, 1, nullptr, -1015, 1},  {4, 2, 128, nullptr, 0, nullptr, -1015, 1},
-      {4, 8, 64, nullptr, 1, nullptr, -1013, 2},  {4, 7, 12, bc, 0, ic, -1012, 2},
-      {3, 1, 2, nullptr, 8, ic, 0, 3},            {4, 6, 1, bc, 0, nullptr, 0, 3},
+      {-1, -1, 4, nullptr, 1, nullptr, -1010, 0},
+      {4, -1, 4, nullptr, 1, nullptr, -1011, 0},
+      {4, 2, 12, nullptr, 1, nullptr, -1015, 1},
+      {4, 2, 128, nullptr, 0, nullptr, -1015, 1},
+      {4, 8, 64, nullptr, 1, nullptr, -1013, 2},
+      {4, 7, 12, bc, 0, ic, -1012, 2},
+      {3, 1, 2, nullptr, 8, ic, 0, 3},
+      {4, 6, 1, bc, 0, nullptr, 0, 3},
   };
   for (const auto& r : rows) {
     Task t;
-    EXPECT_EQ(ork_df_kernel_dEditPPSpline1D(t.task, r.order, r.type, r.bc, r.bc_values, r.ic, r.ic_values, c, 0), r.expected);
+    EXPECT_EQ(ork_df_kernel_dEditPPSpline1D(t.task, r.order, r.type, r.bc, r.bc_values, r.ic,
+                                            r.ic_values, c, 0),
+              r.expected);
     EXPECT_EQ(t.value(18), r.stored >= 1 ? r.order : 0);
     EXPECT_EQ(t.value(19), r.stored >= 1 ? r.type : 0);
     EXPECT_EQ(t.value(21), r.stored >= 2 ? r.bc : 0);
@@ -194,13 +215,16 @@ TEST(Task, BucketsBracketTheirSites) {
       int64_t count;
       const int32_t(*bucket)[2];
       double inverse;
-      memcpy(&count, record + 112, 8), memcpy(&bucket, record + 120, 4), memcpy(&inverse, record + 124, 8);
+      memcpy(&count, record + 112, 8), memcpy(&bucket, record + 120, 4),
+          memcpy(&inverse, record + 124, 8);
       ASSERT_EQ(count, std::min(std::max(nx / 16, 16), 1024));
       std::vector<int> b(nx);
       for (int i = 0; i < nx; ++i) b[i] = int((x[i] - x[0]) * inverse);
       for (int k = 0; k < count; ++k) {
-        const int before = int(std::lower_bound(b.begin(), b.end(), k) - b.begin());     // in lower buckets
-        const int through = int(std::upper_bound(b.begin(), b.end(), k) - b.begin());  // up to this one
+        const int before =
+            int(std::lower_bound(b.begin(), b.end(), k) - b.begin());  // in lower buckets
+        const int through =
+            int(std::upper_bound(b.begin(), b.end(), k) - b.begin());  // up to this one
         ASSERT_LE(bucket[k][0], before) << nx << " " << k;
         ASSERT_GE(bucket[k][1], std::min(through, nx - 1));
         ASSERT_LE(bucket[k][1], nx - 1);

@@ -81,14 +81,16 @@ int integrate(int kind, const IntegralArguments<T>& a, const Parts<T>& parts) {
 }  // namespace
 }  // namespace df
 
-#define ORK_INTEGRAL_PARAMETERS(T)                                                                \
-  int64_t nx, const T *x, int64_t xhint, T step, T *const *coeffs, int64_t count, const T *left,  \
-      const int32_t *leftCells, const T *right, const int32_t *rightCells, const T *icValues,     \
-      int64_t icType, T *const *y, int64_t ny, int64_t function, int64_t yhint,                   \
+#define ORK_INTEGRAL_PARAMETERS(T)                                                               \
+  int64_t nx, const T *x, int64_t xhint, T step, T *const *coeffs, int64_t count, const T *left, \
+      const int32_t *leftCells, const T *right, const int32_t *rightCells, const T *icValues,    \
+      int64_t icType, T *const *y, int64_t ny, int64_t function, int64_t yhint,                  \
       int64_t splineOrder, int64_t, int64_t, const T *, const T *, T *results
-#define ORK_INTEGRAL_ARGUMENTS                                                                    \
-  {nx, x, xhint, step, coeffs, count, left, leftCells, right, rightCells, icValues, icType, y,    \
-   ny, function, yhint, splineOrder, results}
+#define ORK_INTEGRAL_ARGUMENTS                                                                  \
+  {                                                                                             \
+    nx, x, xhint, step, coeffs, count, left, leftCells, right, rightCells, icValues, icType, y, \
+        ny, function, yhint, splineOrder, results                                               \
+  }
 #define ORK_INTEGRATOR(name, letter, T, kind)                                                     \
   ORK_EXPORT int ork_df_kernel_##letter##_Integrate##name##Spline(                                \
       ORK_INTEGRAL_PARAMETERS(T), const T* middles, int32_t cut0, int32_t cut1, int32_t cut2,     \
@@ -105,8 +107,8 @@ int integrate(int kind, const IntegralArguments<T>& a, const Parts<T>& parts) {
                             df::Parts<T>{leftCallback, leftParams, interiorCallback,              \
                                          interiorParams, rightCallback, rightParams});            \
   }
-#define ORK_INTEGRATORS(name, kind)      \
-  ORK_INTEGRATOR(name, d, double, kind)  \
+#define ORK_INTEGRATORS(name, kind)     \
+  ORK_INTEGRATOR(name, d, double, kind) \
   ORK_INTEGRATOR(name, s, float, kind)
 
 ORK_INTEGRATORS(Linear, linear_kind)

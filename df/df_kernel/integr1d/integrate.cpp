@@ -4,7 +4,7 @@
 namespace df {
 namespace {
 
-constexpr int task_blocks = 5;      // blocks of a task of the first level
+constexpr int task_blocks = 5;  // blocks of a task of the first level
 constexpr int values_on_stack = 2048;
 
 // One of the two arrays of limits.
@@ -89,7 +89,8 @@ struct Launch {
     }
     return ORK_DF_OK;
   }
-  static void body(int item, int thread, int, void* context) {
+  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
+                                                            void* context) {
     auto& launch = *static_cast<Launch*>(context);
     const int code = launch.run(item, thread);
     if (code < 0) __atomic_store_n(&launch.status, code, __ATOMIC_RELAXED);
@@ -152,7 +153,9 @@ bool cut_at_peaks(const T* left_hint, const T* right_hint, int nx, int (&cut)[4]
   }
   if (!(q - p > 3)) return false;
   const auto clamp = [nx](T position) {
-    return position < 2 ? 2 : position > static_cast<T>(nx - 2) ? nx - 2 : static_cast<int>(position);
+    return position < 2                        ? 2
+           : position > static_cast<T>(nx - 2) ? nx - 2
+                                               : static_cast<int>(position);
   };
   const int low = clamp(p), high = clamp(q);
   cut[0] = low - 1, cut[1] = low + 1, cut[2] = high - 1, cut[3] = high + 1;
@@ -228,7 +231,8 @@ int integrate_task(const Task* task, int64_t nlim, const T* left, int64_t left_h
       job.by_function = job.nlim;
       job.by_pair = 1;
       break;
-    default: return ORK_DF_BAD_INTEGRAL_LAYOUT;
+    default:
+      return ORK_DF_BAD_INTEGRAL_LAYOUT;
   }
   if (!has_data(task, job.kind)) {
     if (job.kind >= step_left_kind) return ORK_DF_BAD_Y;
@@ -255,22 +259,22 @@ ORK_EXPORT int ork_df_kernel_dDFIntegrate1D(
     ork_df_integr_d* rightCallback, void* rightParams, ork_df_integr_d* interiorCallback,
     void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
     const ork_threader* threader) {
-  return df::integrate_task<double>(task, nlim, left, leftHint, right, rightHint, leftDataHint,
-                                    rightDataHint, result, resultHint,
-                                    {leftCallback, leftParams, interiorCallback, interiorParams,
-                                     rightCallback, rightParams},
-                                    searchCallback, searchParams, threader);
+  return df::integrate_task<double>(
+      task, nlim, left, leftHint, right, rightHint, leftDataHint, rightDataHint, result, resultHint,
+      {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams},
+      searchCallback, searchParams, threader);
 }
-ORK_EXPORT int ork_df_kernel_sDFIntegrate1D(
-    const ork_df_task* task, int64_t, int64_t nlim, const float* left, int64_t leftHint,
-    const float* right, int64_t rightHint, const float* leftDataHint, const float* rightDataHint,
-    float* result, int64_t resultHint, ork_df_integr_s* leftCallback, void* leftParams,
-    ork_df_integr_s* rightCallback, void* rightParams, ork_df_integr_s* interiorCallback,
-    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
-    const ork_threader* threader) {
-  return df::integrate_task<float>(task, nlim, left, leftHint, right, rightHint, leftDataHint,
-                                   rightDataHint, result, resultHint,
-                                   {leftCallback, leftParams, interiorCallback, interiorParams,
-                                    rightCallback, rightParams},
-                                   searchCallback, searchParams, threader);
+ORK_EXPORT int ork_df_kernel_sDFIntegrate1D(const ork_df_task* task, int64_t, int64_t nlim,
+                                            const float* left, int64_t leftHint, const float* right,
+                                            int64_t rightHint, const float* leftDataHint,
+                                            const float* rightDataHint, float* result,
+                                            int64_t resultHint, ork_df_integr_s* leftCallback,
+                                            void* leftParams, ork_df_integr_s* rightCallback,
+                                            void* rightParams, ork_df_integr_s* interiorCallback,
+                                            void* interiorParams, ork_df_search_s* searchCallback,
+                                            void* searchParams, const ork_threader* threader) {
+  return df::integrate_task<float>(
+      task, nlim, left, leftHint, right, rightHint, leftDataHint, rightDataHint, result, resultHint,
+      {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams},
+      searchCallback, searchParams, threader);
 }

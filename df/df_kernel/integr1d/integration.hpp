@@ -8,9 +8,13 @@ namespace df {
 template <class T>
 struct IntegrCallback;
 template <>
-struct IntegrCallback<double> { using type = ork_df_integr_d; };
+struct IntegrCallback<double> {
+  using type = ork_df_integr_d;
+};
 template <>
-struct IntegrCallback<float> { using type = ork_df_integr_s; };
+struct IntegrCallback<float> {
+  using type = ork_df_integr_s;
+};
 
 // The caller's functions for the parts of an interval.
 template <class T>

@@ -64,15 +64,17 @@ int integrate_parts(const Fit<T>& fit, int kind, const Parts<T>& parts, T left, 
     if (parts.interior != nullptr) {  // within the pieces that are named
       const T start = fit.point(piece_of_cell(lower.cell, fit.nx - 2));
       const T end = fit.point(piece_of_cell(upper.cell, fit.nx - 2) + 1);
-      if (lower.at < start) lower.at = start;
-      if (upper.at > end) upper.at = end;
+      const auto inside = [start, end](T at) { return at < start ? start : at > end ? end : at; };
+      lower.at = inside(lower.at);
+      upper.at = inside(upper.at);
     }
     status = add_part(fit, kind, parts.interior, parts.interior_params, lower, upper, total, part);
     if (status < 0) return status;
   }
   if (b.at > last.at) {
     const Limit<T> from = {a.at > last.at ? a.at : last.at, fit.nx};
-    status = add_part(fit, kind, parts.right, parts.right_params, from, {b.at, fit.nx}, total, part);
+    status =
+        add_part(fit, kind, parts.right, parts.right_params, from, {b.at, fit.nx}, total, part);
     if (status < 0) return status;
   }
   if (swapped)

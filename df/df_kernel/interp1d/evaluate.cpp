@@ -43,8 +43,8 @@ int locate_in_cell(const Fit<T>& fit, int n, const T* site, const int32_t* cell,
   const __m128i last4 = _mm_set1_epi32(last), one = _mm_set1_epi32(1);
   const Quad<T> left = Quad<T>::all(fit.x[0]), step = Quad<T>::all(fit.step);
   const auto four = [&](const T* s, const int32_t* c, int32_t* piece, T* distance) {
-    __m128i p = _mm_sub_epi32(load4(c), one);
-    p = _mm_andnot_si128(_mm_srai_epi32(p, 31), p);
+    const __m128i given = load4(c), inside = _mm_cmpgt_epi32(given, _mm_setzero_si128());
+    __m128i p = _mm_and_si128(inside, _mm_sub_epi32(given, one));
     p = select(_mm_cmpgt_epi32(p, last4), last4, p);
     store4(piece, p);
     const Quad<T> point =
@@ -81,8 +81,7 @@ int locate_in_subgrid(const Fit<T>& fit, int n, const T* site, const int32_t* ce
 // The breakpoint whose value holds at the site: the cell's left one, and at a breakpoint
 // itself the one before for the step that is continuous from the left.
 template <class T, bool from_left>
-int locate_step(const Fit<T>& fit, int n, const T* site, const int32_t* cell,
-                Located<T>& located) {
+int locate_step(const Fit<T>& fit, int n, const T* site, const int32_t* cell, Located<T>& located) {
   for (int j = 0; j < n; ++j) {
     int i = piece_of_cell(cell[j], fit.nx - 1);
     if (from_left && i > 0 && site[j] == fit.point(i)) --i;
@@ -157,8 +156,8 @@ int fill_arbitrary(const Fit<T>& fit, const Request& request, int n, const Locat
 }
 
 template <class T>
-int fill_samples(const Fit<T>& fit, const Request& request, int n, const Located<T>& located,
-                 int f, const Output<T>& out) {
+int fill_samples(const Fit<T>& fit, const Request& request, int n, const Located<T>& located, int f,
+                 const Output<T>& out) {
   if (request.place[0] < 0) return ORK_DF_OK;
   const Samples<T> y = fit.function(f);
   for (int j = 0; j < n; ++j) *out.at(j, request.place[0]) = y[located.piece[j]];
@@ -166,8 +165,8 @@ int fill_samples(const Fit<T>& fit, const Request& request, int n, const Located
 }
 
 template <class T>
-int fill_look_up(const Fit<T>& fit, const Request& request, int n, const Located<T>& located,
-                 int f, const Output<T>& out) {
+int fill_look_up(const Fit<T>& fit, const Request& request, int n, const Located<T>& located, int f,
+                 const Output<T>& out) {
   if (request.count != 1) return ORK_DF_LOOKUP_ONE_FLAG;
   if (request.place[0] < 0) return ORK_DF_LOOKUP_VALUE;
   return fill_samples(fit, request, n, located, f, out);
@@ -178,14 +177,10 @@ int fill_look_up(const Fit<T>& fit, const Request& request, int n, const Located
 template <class T>
 const Evaluator<T>& evaluator(int kind) {
   static constexpr Evaluator<T> dispatch[kinds] = {
-      {locate_in_cell<T>, fill_polynomial<T, 2>},
-      {locate_in_cell<T>, fill_polynomial<T, 3>},
-      {locate_in_cell<T>, fill_polynomial<T, 4>},
-      {locate_in_subgrid<T>, fill_polynomial<T, 3>},
-      {locate_in_cell<T>, fill_arbitrary<T>},
-      {locate_step<T, true>, fill_samples<T>},
-      {locate_step<T, false>, fill_samples<T>},
-      {locate_breakpoint<T>, fill_look_up<T>},
+      {locate_in_cell<T>, fill_polynomial<T, 2>}, {locate_in_cell<T>, fill_polynomial<T, 3>},
+      {locate_in_cell<T>, fill_polynomial<T, 4>}, {locate_in_subgrid<T>, fill_polynomial<T, 3>},
+      {locate_in_cell<T>, fill_arbitrary<T>},     {locate_step<T, true>, fill_samples<T>},
+      {locate_step<T, false>, fill_samples<T>},   {locate_breakpoint<T>, fill_look_up<T>},
   };
   return dispatch[kind];
 }

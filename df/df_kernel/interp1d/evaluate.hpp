@@ -8,8 +8,15 @@
 namespace df {
 
 enum Kind {
-  linear_kind, quadratic_kind, cubic_kind, subbotin_kind, arbitrary_kind,
-  step_left_kind, step_right_kind, look_up_kind, kinds
+  linear_kind,
+  quadratic_kind,
+  cubic_kind,
+  subbotin_kind,
+  arbitrary_kind,
+  step_left_kind,
+  step_right_kind,
+  look_up_kind,
+  kinds
 };
 
 constexpr int block = 64;  // sites evaluated at a time
@@ -30,10 +37,16 @@ struct Fit {
   void* const* coeffs;
 
   explicit Fit(const Task* task)
-      : nx(breakpoints(task)), x(partition<T>(task)), uniform(uniform_grid(task)),
-        step(uniform ? grid_step<T>(task) : T(0)), icType(task->icType),
-        icValues(internal_values<T>(task)), ny(functions(task)), y(task->y),
-        columns(column_storage(task)), order(static_cast<int32_t>(task->splineOrder)),
+      : nx(breakpoints(task)),
+        x(partition<T>(task)),
+        uniform(uniform_grid(task)),
+        step(uniform ? grid_step<T>(task) : T(0)),
+        icType(task->icType),
+        icValues(internal_values<T>(task)),
+        ny(functions(task)),
+        y(task->y),
+        columns(column_storage(task)),
+        order(static_cast<int32_t>(task->splineOrder)),
         coeffs(task->coeffs) {}
   Fit() = default;
 

@@ -109,25 +109,27 @@ int evaluate(int kind, const EvalArguments<T>& a, typename InterpCallback<T>::ty
 }  // namespace
 }  // namespace df
 
-#define ORK_EVAL_PARAMETERS(T)                                                                   \
-  int64_t nx, const T *x, int64_t xhint, T step, const T *icValues, int64_t icType, int64_t n,   \
-      const T *sites, T *const *y, int64_t ny, int64_t function, int64_t yhint,                  \
-      int64_t splineOrder, T *const *coeffs, const int32_t *cells, int32_t widthFlag,            \
-      const int32_t *positions, T *results, int64_t reserved, int64_t nDerivFlags,               \
+#define ORK_EVAL_PARAMETERS(T)                                                                 \
+  int64_t nx, const T *x, int64_t xhint, T step, const T *icValues, int64_t icType, int64_t n, \
+      const T *sites, T *const *y, int64_t ny, int64_t function, int64_t yhint,                \
+      int64_t splineOrder, T *const *coeffs, const int32_t *cells, int32_t widthFlag,          \
+      const int32_t *positions, T *results, int64_t reserved, int64_t nDerivFlags,             \
       const void *derivFlags, int64_t count, const int32_t *flags4
 #define ORK_EVAL_ARGUMENTS                                                                       \
-  {nx, x, xhint, step, icValues, icType, n, sites, y, ny, function, yhint, splineOrder, coeffs,  \
-   cells, widthFlag, positions, results, reserved, nDerivFlags, derivFlags, count, flags4}
-#define ORK_EVALUATOR(name, letter, T, kind)                                                     \
-  ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32(ORK_EVAL_PARAMETERS(T)) {         \
-    return df::evaluate<T>(df::kind, ORK_EVAL_ARGUMENTS);                                        \
-  }                                                                                              \
-  ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32CB(                                \
-      ORK_EVAL_PARAMETERS(T), ork_df_interp_##letter* callback, void* params) {                  \
-    return df::evaluate<T>(df::kind, ORK_EVAL_ARGUMENTS, callback, params);                      \
+  {                                                                                              \
+    nx, x, xhint, step, icValues, icType, n, sites, y, ny, function, yhint, splineOrder, coeffs, \
+        cells, widthFlag, positions, results, reserved, nDerivFlags, derivFlags, count, flags4   \
   }
-#define ORK_EVALUATORS(name, kind)      \
-  ORK_EVALUATOR(name, d, double, kind)  \
+#define ORK_EVALUATOR(name, letter, T, kind)                                             \
+  ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32(ORK_EVAL_PARAMETERS(T)) { \
+    return df::evaluate<T>(df::kind, ORK_EVAL_ARGUMENTS);                                \
+  }                                                                                      \
+  ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32CB(                        \
+      ORK_EVAL_PARAMETERS(T), ork_df_interp_##letter* callback, void* params) {          \
+    return df::evaluate<T>(df::kind, ORK_EVAL_ARGUMENTS, callback, params);              \
+  }
+#define ORK_EVALUATORS(name, kind)     \
+  ORK_EVALUATOR(name, d, double, kind) \
   ORK_EVALUATOR(name, s, float, kind)
 
 ORK_EVALUATORS(Linear, linear_kind)

@@ -8,8 +8,7 @@ namespace df {
 template <class T>
 int interpolate_group(const Fit<T>& fit, int kind, const Request& request, int n, const T* site,
                       const int32_t* cell, typename InterpCallback<T>::type* callback, void* params,
-                      Located<T>& located, T* values, const Output<T>& out,
-                      ptrdiff_t by_function) {
+                      Located<T>& located, T* values, const Output<T>& out, ptrdiff_t by_function) {
   const Evaluator<T>& eval = evaluator<T>(kind);
   // The look-up spline refuses sites that are no breakpoints whoever evaluates.
   if (callback == nullptr || kind == look_up_kind) {
@@ -34,8 +33,7 @@ int interpolate_group(const Fit<T>& fit, int kind, const Request& request, int n
   if (status < 0) return status;
   for (int f = 0; f < fit.ny; ++f)
     for (int j = 0; j < n; ++j)
-      for (int k = 0; k < request.count; ++k)
-        out.at(j, k)[f * by_function] = *values++;
+      for (int k = 0; k < request.count; ++k) out.at(j, k)[f * by_function] = *values++;
   return ORK_DF_OK;
 }
 template int interpolate_group(const Fit<double>&, int, const Request&, int, const double*,
@@ -46,8 +44,8 @@ template int interpolate_group(const Fit<float>&, int, const Request&, int, cons
                                const Output<float>&, ptrdiff_t);
 
 template <class T>
-int interpolate_groups(const Interpolation<T>& job, int first, int n, const T* site,
-                       int32_t& state, Located<T>& located, T* values) {
+int interpolate_groups(const Interpolation<T>& job, int first, int n, const T* site, int32_t& state,
+                       Located<T>& located, T* values) {
   const T left = job.fit.x[0], right = job.fit.right_end();
   // Sorted sites are split by the ends alone, and the right end itself falls to the right.
   const bool end_is_right = job.method == sorted_search;
@@ -73,9 +71,9 @@ int interpolate_groups(const Interpolation<T>& job, int first, int n, const T* s
       for (int j = 0; j < count; ++j) job.put_cell(first + position[j], cell[j]);
     Output<T> out = job.output(0, first);
     out.position = position;
-    const int status = interpolate_group(job.fit, job.kind, job.request, count, member, cell,
-                                         job.callback[group], job.params[group], located, values,
-                                         out, job.by_function);
+    const int status =
+        interpolate_group(job.fit, job.kind, job.request, count, member, cell, job.callback[group],
+                          job.params[group], located, values, out, job.by_function);
     if (status < 0) return status;
   }
   return ORK_DF_OK;

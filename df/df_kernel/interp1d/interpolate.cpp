@@ -41,7 +41,7 @@ int interpolate_block(const Interpolation<T>& job, int first, int n, int32_t& st
 
 namespace {
 
-constexpr int task_blocks = 5;        // blocks of a task of the first level
+constexpr int task_blocks = 5;  // blocks of a task of the first level
 constexpr int least_for_threads = 513;
 constexpr int least_for_blocks = 32;
 constexpr int values_in_block = 2048;
@@ -66,7 +66,8 @@ struct Launch {
     }
     return ORK_DF_OK;
   }
-  static void body(int item, int thread, int, void* context) {
+  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
+                                                            void* context) {
     auto& launch = *static_cast<Launch*>(context);
     BlockWork<T> work;
     const int code = launch.run(item, thread, work);
@@ -147,9 +148,7 @@ int interpolate_few(const Interpolation<T>& job) {
 template <class T>
 int interpolate_one(const Interpolation<T>& job) {
   const T s = job.site[0];
-  const int side = s < job.fit.x[0]             ? left_side
-                   : s >= job.fit.right_end() ? right_side
-                                              : interior;
+  const int side = s < job.fit.x[0] ? left_side : s >= job.fit.right_end() ? right_side : interior;
   int32_t state = 0, cell = 0;
   if (side == right_side) cell = job.fit.nx;
   if (side == interior) find_dispatch<T>[job.method](job.search, 1, &s, state, &cell);
@@ -168,9 +167,9 @@ int interpolate_one(const Interpolation<T>& job) {
 
 template <class T>
 int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, int64_t site_hint,
-                int64_t flags, const void* flag, const T* data_hint, T* result,
-                int64_t result_hint, void* cell, typename InterpCallback<T>::type* left,
-                void* left_params, typename InterpCallback<T>::type* right, void* right_params,
+                int64_t flags, const void* flag, const T* data_hint, T* result, int64_t result_hint,
+                void* cell, typename InterpCallback<T>::type* left, void* left_params,
+                typename InterpCallback<T>::type* right, void* right_params,
                 typename InterpCallback<T>::type* inner, void* inner_params,
                 typename SearchCallback<T>::type* search_callback, void* search_params,
                 const ork_threader* threader) {
@@ -204,7 +203,8 @@ int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, in
       job.by_site = job.request.count;
       job.by_order = 1;
       break;
-    default: return ORK_DF_BAD_RESULT_HINT;
+    default:
+      return ORK_DF_BAD_RESULT_HINT;
   }
   job.by_function = static_cast<ptrdiff_t>(job.nsite) * job.request.count;
   job.site = site;

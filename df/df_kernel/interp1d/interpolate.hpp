@@ -8,9 +8,13 @@ namespace df {
 template <class T>
 struct InterpCallback;
 template <>
-struct InterpCallback<double> { using type = ork_df_interp_d; };
+struct InterpCallback<double> {
+  using type = ork_df_interp_d;
+};
 template <>
-struct InterpCallback<float> { using type = ork_df_interp_s; };
+struct InterpCallback<float> {
+  using type = ork_df_interp_s;
+};
 
 enum Side { left_side, interior, right_side };  // in the order in which a block serves them
 
@@ -43,8 +47,10 @@ struct Interpolation {
                       : static_cast<const int32_t*>(cell)[j];
   }
   void put_cell(int j, int c) const {
-    if (wide_cells) static_cast<int64_t*>(cell)[j] = c;
-    else static_cast<int32_t*>(cell)[j] = c;
+    if (wide_cells)
+      static_cast<int64_t*>(cell)[j] = c;
+    else
+      static_cast<int32_t*>(cell)[j] = c;
   }
 };
 

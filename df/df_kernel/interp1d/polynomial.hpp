@@ -26,7 +26,8 @@ ORK_INLINE void gather_rows(const float* row, const int32_t* piece, ork::f32x4 (
   const float* r[4];
   for (int j = 0; j < 4; ++j) r[j] = row + static_cast<ptrdiff_t>(piece[j]) * P;
   if constexpr (P == 4) {
-    __m128 a = _mm_loadu_ps(r[0]), b = _mm_loadu_ps(r[1]), c = _mm_loadu_ps(r[2]), d = _mm_loadu_ps(r[3]);
+    __m128 a = _mm_loadu_ps(r[0]), b = _mm_loadu_ps(r[1]), c = _mm_loadu_ps(r[2]),
+           d = _mm_loadu_ps(r[3]);
     _MM_TRANSPOSE4_PS(a, b, c, d);
     k[0] = a, k[1] = b, k[2] = c, k[3] = d;
   } else {
@@ -48,7 +49,9 @@ ORK_INLINE V derivative(const V (&k)[P], V d) {
     };
     V sum{};
     for (int power = P - 1; power >= order; --power) {
-      const V term = factor(power) == 1 ? k[power] : k[power] * ork::splat(static_cast<decltype(V{}[0] + 0)>(factor(power)));
+      const V term = factor(power) == 1
+                         ? k[power]
+                         : k[power] * ork::splat(static_cast<decltype(V{}[0] + 0)>(factor(power)));
       sum = power == P - 1 ? term : sum * d + term;
     }
     return sum;
@@ -85,16 +88,17 @@ int fill_orders(const Fit<T>& fit, const Request& request, int n, const Located<
   int j = 0;
   for (; j + width <= n; j += width) {
     V value[3];
-    emit(j, [&](int k, V v) __attribute__((always_inline)) {
-      if constexpr (layout == Layout::rows) {
-        ork::store(to.base + j + k * to.order, v);
-      } else if constexpr (layout == Layout::records) {
-        value[k] = v;
-      } else {
+    emit(
+        j, [&](int k, V v) __attribute__((always_inline)) {
+          if constexpr (layout == Layout::rows) {
+            ork::store(to.base + j + k * to.order, v);
+          } else if constexpr (layout == Layout::records) {
+            value[k] = v;
+          } else {
 #pragma GCC unroll 4
-        for (int i = 0; i < width; ++i) *to.at(j + i, k) = v[i];
-      }
-    });
+            for (int i = 0; i < width; ++i) *to.at(j + i, k) = v[i];
+          }
+        });
     if constexpr (layout == Layout::records && all == 3)
       put_records(to.base + 2 * j, value[0], value[1]);
     if constexpr (layout == Layout::records && all == 7)

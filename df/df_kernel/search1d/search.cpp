@@ -50,14 +50,18 @@ constexpr int unit = 128;             // sites of a hybrid search are divided by
 bool use_threads(int method, int n, int nx, int T) {
   if (T < 2) return false;
   switch (method) {
-    case uniform_search: return n > 1000;
+    case uniform_search:
+      return n > 1000;
     case quasi_uniform_search:
       return n >= 301 || (n >= 151 && (nx >= 600 || (nx >= 40 && T >= 4)));
-    case sorted_search: return n >= 3001;
-    case peak_search: return n > 1200 || nx > 1200;
+    case sorted_search:
+      return n >= 3001;
+    case peak_search:
+      return n > 1200 || nx > 1200;
     case hybrid_search:
       return nx > 8 && (n > 1200 || (n > 600 && T < 5) || (n > 300 && T < 3));
-    default: return false;
+    default:
+      return false;
   }
 }
 
@@ -70,7 +74,7 @@ struct Slices {
   const T* site;
   int32_t* cell;
 
-  static void body(int item, int, int, void* context) {
+  static __attribute__((force_align_arg_pointer)) void body(int item, int, int, void* context) {
     const auto& s = *static_cast<const Slices*>(context);
     const ptrdiff_t first = static_cast<ptrdiff_t>(item) * s.length;
     int32_t state = 0;

@@ -6,22 +6,38 @@ namespace df {
 
 // Boundary index: the order of kernels within a block of a dispatch table.
 enum Boundary {
-  not_a_knot, free_end, first_first, first_second, second_first, second_second, periodic, not_set
+  not_a_knot,
+  free_end,
+  first_first,
+  first_second,
+  second_first,
+  second_second,
+  periodic,
+  not_set
 };
 constexpr int boundary_slots = 7;  // not_set has no slot in the tables
 
 // The boundary index of bcType, or -1.
 inline int boundary_index(int64_t bc) {
   switch (bc) {
-    case 1: return not_a_knot;
-    case 2: return free_end;
-    case 4 | 8: return first_first;
-    case 4 | 32: return first_second;
-    case 16 | 8: return second_first;
-    case 16 | 32: return second_second;
-    case 64: return periodic;
-    case 0: return not_set;
-    default: return -1;
+    case 1:
+      return not_a_knot;
+    case 2:
+      return free_end;
+    case 4 | 8:
+      return first_first;
+    case 4 | 32:
+      return first_second;
+    case 16 | 8:
+      return second_first;
+    case 16 | 32:
+      return second_second;
+    case 64:
+      return periodic;
+    case 0:
+      return not_set;
+    default:
+      return -1;
   }
 }
 inline bool two_boundary_values(int boundary) {

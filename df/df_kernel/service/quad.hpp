@@ -14,9 +14,12 @@ struct Quad<double> {
   __m128d a, b;
   static Quad load(const double* p) { return {_mm_loadu_pd(p), _mm_loadu_pd(p + 2)}; }
   static Quad all(double v) { return {_mm_set1_pd(v), _mm_set1_pd(v)}; }
-  static Quad of(__m128i i) { return {_mm_cvtepi32_pd(i), _mm_cvtepi32_pd(_mm_shuffle_epi32(i, 0xEE))}; }
+  static Quad of(__m128i i) {
+    return {_mm_cvtepi32_pd(i), _mm_cvtepi32_pd(_mm_shuffle_epi32(i, 0xEE))};
+  }
   static Quad gather(const double* p, const int32_t* i) {
-    return {_mm_loadh_pd(_mm_load_sd(p + i[0]), p + i[1]), _mm_loadh_pd(_mm_load_sd(p + i[2]), p + i[3])};
+    return {_mm_loadh_pd(_mm_load_sd(p + i[0]), p + i[1]),
+            _mm_loadh_pd(_mm_load_sd(p + i[2]), p + i[3])};
   }
   void store(double* p) const { _mm_storeu_pd(p, a), _mm_storeu_pd(p + 2, b); }
   Quad operator+(Quad y) const { return {_mm_add_pd(a, y.a), _mm_add_pd(b, y.b)}; }
@@ -66,7 +69,9 @@ inline __m128i select(__m128i mask, __m128i yes, __m128i no) {
   return _mm_or_si128(_mm_and_si128(mask, yes), _mm_andnot_si128(mask, no));
 }
 
-inline __m128i load4(const int32_t* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
+inline __m128i load4(const int32_t* p) {
+  return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+}
 inline void store4(int32_t* p, __m128i v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
 
 // Runs body(in, out) on groups of four; a tail goes through a copy filled up with its last

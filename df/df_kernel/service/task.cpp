@@ -121,9 +121,8 @@ int edit_pointer(Task* task, int64_t code, const T* pointer) {
       return ORK_DF_OK;
     case ORK_DF_PTR_Y:
       if (pointer == nullptr) return ORK_DF_BAD_Y;
-      return replace_table(task->y, [&] {
-        return function_table(pointer, task->ny, task->nx, task->yhint);
-      });
+      return replace_table(
+          task->y, [&] { return function_table(pointer, task->ny, task->nx, task->yhint); });
     case ORK_DF_PTR_IC:
       if (pointer == nullptr) return ORK_DF_BAD_IC_VALUES;
       task->icValues = pointer;
@@ -135,7 +134,8 @@ int edit_pointer(Task* task, int64_t code, const T* pointer) {
     case ORK_DF_PTR_COEFFS:
       if (pointer == nullptr) return ORK_DF_BAD_COEFFS;
       return set_coefficients(task, pointer, task->coeffHint);
-    default: return ORK_DF_BAD_CODE;
+    default:
+      return ORK_DF_BAD_CODE;
   }
 }
 
@@ -162,12 +162,23 @@ int query_pointer(const Task* task, int64_t code, T** out) {
   if (task->dimension != 1) return ORK_DF_OK;
   const void* found = nullptr;
   switch (code) {
-    case ORK_DF_PTR_X: found = task->x; break;
-    case ORK_DF_PTR_Y: found = task->y != nullptr ? task->y[0] : nullptr; break;
-    case ORK_DF_PTR_IC: found = task->icValues; break;
-    case ORK_DF_PTR_BC: found = task->bcValues; break;
-    case ORK_DF_PTR_COEFFS: found = task->coeffs != nullptr ? task->coeffs[0] : nullptr; break;
-    default: return ORK_DF_BAD_CODE;
+    case ORK_DF_PTR_X:
+      found = task->x;
+      break;
+    case ORK_DF_PTR_Y:
+      found = task->y != nullptr ? task->y[0] : nullptr;
+      break;
+    case ORK_DF_PTR_IC:
+      found = task->icValues;
+      break;
+    case ORK_DF_PTR_BC:
+      found = task->bcValues;
+      break;
+    case ORK_DF_PTR_COEFFS:
+      found = task->coeffs != nullptr ? task->coeffs[0] : nullptr;
+      break;
+    default:
+      return ORK_DF_BAD_CODE;
   }
   *out = static_cast<T*>(const_cast<void*>(found));
   return ORK_DF_OK;
@@ -194,46 +205,73 @@ int edit_value(Task* task, int64_t code, int64_t value) {
     return ORK_DF_OK;
   };
   switch (code) {
-    case ORK_DF_VAL_NX: return store(task->nx, value >= 2, ORK_DF_BAD_NX);
+    case ORK_DF_VAL_NX:
+      return store(task->nx, value >= 2, ORK_DF_BAD_NX);
     case ORK_DF_VAL_XHINT: {
       const int status = store(task->xhint, valid_grid(value), ORK_DF_BAD_XHINT);
-      const bool build = value == ORK_DF_X_NON_UNIFORM ||
-                         (value != ORK_DF_X_UNIFORM && task->bucketCount == 0);
+      const bool build =
+          value == ORK_DF_X_NON_UNIFORM || (value != ORK_DF_X_UNIFORM && task->bucketCount == 0);
       return status == ORK_DF_OK && build ? build_buckets(task) : status;
     }
-    case ORK_DF_VAL_NY: return store(task->ny, value >= 1, ORK_DF_BAD_NY);
-    case ORK_DF_VAL_YHINT: return store(task->yhint, valid_storage(value), ORK_DF_BAD_YHINT);
-    case ORK_DF_VAL_ORDER: return store(task->splineOrder, value >= 0, ORK_DF_BAD_ORDER);
+    case ORK_DF_VAL_NY:
+      return store(task->ny, value >= 1, ORK_DF_BAD_NY);
+    case ORK_DF_VAL_YHINT:
+      return store(task->yhint, valid_storage(value), ORK_DF_BAD_YHINT);
+    case ORK_DF_VAL_ORDER:
+      return store(task->splineOrder, value >= 0, ORK_DF_BAD_ORDER);
     case ORK_DF_VAL_TYPE:
       return store(task->splineType, value >= 0 && value <= 5, ORK_DF_BAD_TYPE);
     case ORK_DF_VAL_IC:
-      return store(task->icType,
-                   (value >= 0 && value <= 2) || (value & ORK_DF_IC_SUBGRID) != 0, ORK_DF_BAD_IC);
-    case ORK_DF_VAL_BC: return store(task->bcType, value >= 0, ORK_DF_BAD_BC);
+      return store(task->icType, (value >= 0 && value <= 2) || (value & ORK_DF_IC_SUBGRID) != 0,
+                   ORK_DF_BAD_IC);
+    case ORK_DF_VAL_BC:
+      return store(task->bcType, value >= 0, ORK_DF_BAD_BC);
     case ORK_DF_VAL_COEFF_HINT:
       return store(task->coeffHint, valid_storage(value), ORK_DF_BAD_COEFF_HINT);
     case ORK_DF_VAL_EXTENSION:
       if (value != 0 && value != 1) return ORK_DF_BAD_EXTENSION;
       task->extensionFlag = static_cast<int32_t>(value);
       return ORK_DF_OK;
-    default: return ORK_DF_BAD_CODE;
+    default:
+      return ORK_DF_BAD_CODE;
   }
 }
 
 int query_value(const Task* task, int64_t code, void* out) {
   int64_t value;
   switch (code) {
-    case ORK_DF_VAL_NX: value = task->nx; break;
-    case ORK_DF_VAL_XHINT: value = task->xhint; break;
-    case ORK_DF_VAL_NY: value = task->ny; break;
-    case ORK_DF_VAL_YHINT: value = task->yhint; break;
-    case ORK_DF_VAL_ORDER: value = task->splineOrder; break;
-    case ORK_DF_VAL_TYPE: value = task->splineType; break;
-    case ORK_DF_VAL_IC: value = task->icType; break;
-    case ORK_DF_VAL_BC: value = task->bcType; break;
-    case ORK_DF_VAL_COEFF_HINT: value = task->coeffHint; break;
-    case ORK_DF_VAL_EXTENSION: value = task->extensionFlag; break;
-    default: return ORK_DF_BAD_CODE;
+    case ORK_DF_VAL_NX:
+      value = task->nx;
+      break;
+    case ORK_DF_VAL_XHINT:
+      value = task->xhint;
+      break;
+    case ORK_DF_VAL_NY:
+      value = task->ny;
+      break;
+    case ORK_DF_VAL_YHINT:
+      value = task->yhint;
+      break;
+    case ORK_DF_VAL_ORDER:
+      value = task->splineOrder;
+      break;
+    case ORK_DF_VAL_TYPE:
+      value = task->splineType;
+      break;
+    case ORK_DF_VAL_IC:
+      value = task->icType;
+      break;
+    case ORK_DF_VAL_BC:
+      value = task->bcType;
+      break;
+    case ORK_DF_VAL_COEFF_HINT:
+      value = task->coeffHint;
+      break;
+    case ORK_DF_VAL_EXTENSION:
+      value = task->extensionFlag;
+      break;
+    default:
+      return ORK_DF_BAD_CODE;
   }
   const int32_t low = static_cast<int32_t>(value);
   if (task->widthFlag != 0)
@@ -269,15 +307,17 @@ ORK_EXPORT int ork_df_kernel_DeleteTask(ork_task** task) {
   return ORK_DF_OK;
 }
 
-ORK_EXPORT int ork_df_kernel_dEditPPSpline1D(ork_task* task, int64_t splineOrder, int64_t splineType,
-                                             int64_t bcType, const double* bcValues, int64_t icType,
+ORK_EXPORT int ork_df_kernel_dEditPPSpline1D(ork_task* task, int64_t splineOrder,
+                                             int64_t splineType, int64_t bcType,
+                                             const double* bcValues, int64_t icType,
                                              const double* icValues, double* coeffs,
                                              int64_t coeffHint) {
   return df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
                          coeffHint);
 }
-ORK_EXPORT int ork_df_kernel_sEditPPSpline1D(ork_task* task, int64_t splineOrder, int64_t splineType,
-                                             int64_t bcType, const float* bcValues, int64_t icType,
+ORK_EXPORT int ork_df_kernel_sEditPPSpline1D(ork_task* task, int64_t splineOrder,
+                                             int64_t splineType, int64_t bcType,
+                                             const float* bcValues, int64_t icType,
                                              const float* icValues, float* coeffs,
                                              int64_t coeffHint) {
   return df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,

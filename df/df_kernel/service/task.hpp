@@ -23,7 +23,7 @@ constexpr int max_buckets = 1024;
 // The layout is part of the interface: callers of the outer layer read fields of it.
 struct ork_df_task {
   int32_t widthFlag;
-  uint8_t tag;  // 4
+  uint8_t tag;            // 4
   int32_t precisionFlag;  // 1 double, 0 float
   int32_t dimension;      // 1
   int64_t nx;
@@ -64,13 +64,21 @@ inline bool uniform_grid(const Task* task) { return (task->xhint & ORK_DF_X_UNIF
 inline bool column_storage(const Task* task) { return task->yhint == ORK_DF_COLS; }
 
 template <class T>
-const T* partition(const Task* task) { return static_cast<const T*>(task->x); }
+const T* partition(const Task* task) {
+  return static_cast<const T*>(task->x);
+}
 template <class T>
-const T* internal_values(const Task* task) { return static_cast<const T*>(task->icValues); }
+const T* internal_values(const Task* task) {
+  return static_cast<const T*>(task->icValues);
+}
 template <class T>
-const T* boundary_values(const Task* task) { return static_cast<const T*>(task->bcValues); }
+const T* boundary_values(const Task* task) {
+  return static_cast<const T*>(task->bcValues);
+}
 template <class T>
-T* coefficients(const Task* task, int f) { return static_cast<T*>(task->coeffs[f]); }
+T* coefficients(const Task* task, int f) {
+  return static_cast<T*>(task->coeffs[f]);
+}
 
 // Step of a uniform partition.
 template <class T>

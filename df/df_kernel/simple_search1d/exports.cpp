@@ -43,19 +43,19 @@ int simple_search(int64_t nx, const T* x, int64_t nsite, const T* site, int64_t*
 }  // namespace
 }  // namespace df
 
-#define ORK_SIMPLE_SEARCH(name, letter, T, method)                                             \
-  ORK_EXPORT int name(int64_t nx, const T* x, int64_t nsite, const T* site, int64_t* state,    \
-                      T scale, const T*, int64_t bucketCount, const int32_t* buckets,          \
-                      void* cell, int32_t widthFlag, ork_df_search_##letter* searchCallback,   \
-                      void* searchParams, int32_t* flags) {                                    \
-    return df::simple_search<T, df::method>(nx, x, nsite, site, state, scale, bucketCount,     \
-                                            buckets, cell, widthFlag, searchCallback,          \
-                                            searchParams, flags);                              \
+#define ORK_SIMPLE_SEARCH(name, letter, T, method)                                                \
+  ORK_EXPORT int name(int64_t nx, const T* x, int64_t nsite, const T* site, int64_t* state,       \
+                      T scale, const T*, int64_t bucketCount, const int32_t* buckets, void* cell, \
+                      int32_t widthFlag, ork_df_search_##letter* searchCallback,                  \
+                      void* searchParams, int32_t* flags) {                                       \
+    return df::simple_search<T, df::method>(nx, x, nsite, site, state, scale, bucketCount,        \
+                                            buckets, cell, widthFlag, searchCallback,             \
+                                            searchParams, flags);                                 \
   }
-#define ORK_SIMPLE_SEARCHES(name, method)                                                      \
-  ORK_SIMPLE_SEARCH(ork_df_kernel_dDF##name##Search1D, d, double, method)                      \
-  ORK_SIMPLE_SEARCH(ork_df_kernel_dDF##name##Search1D32, d, double, method)                    \
-  ORK_SIMPLE_SEARCH(ork_df_kernel_sDF##name##Search1D, s, float, method)                       \
+#define ORK_SIMPLE_SEARCHES(name, method)                                   \
+  ORK_SIMPLE_SEARCH(ork_df_kernel_dDF##name##Search1D, d, double, method)   \
+  ORK_SIMPLE_SEARCH(ork_df_kernel_dDF##name##Search1D32, d, double, method) \
+  ORK_SIMPLE_SEARCH(ork_df_kernel_sDF##name##Search1D, s, float, method)    \
   ORK_SIMPLE_SEARCH(ork_df_kernel_sDF##name##Search1D32, s, float, method)
 
 ORK_SIMPLE_SEARCHES(Uniform, uniform_search)

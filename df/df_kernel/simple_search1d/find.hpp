@@ -10,16 +10,26 @@
 namespace df {
 
 enum Method {
-  uniform_search, quasi_uniform_search, sorted_search, peak_search, hybrid_search,
-  user_search, user_uniform_search, no_search
+  uniform_search,
+  quasi_uniform_search,
+  sorted_search,
+  peak_search,
+  hybrid_search,
+  user_search,
+  user_uniform_search,
+  no_search
 };
 
 template <class T>
 struct SearchCallback;
 template <>
-struct SearchCallback<double> { using type = ork_df_search_d; };
+struct SearchCallback<double> {
+  using type = ork_df_search_d;
+};
 template <>
-struct SearchCallback<float> { using type = ork_df_search_s; };
+struct SearchCallback<float> {
+  using type = ork_df_search_s;
+};
 
 // What the methods read; each reads only what it needs.
 template <class T>
@@ -39,18 +49,25 @@ struct Search {
 template <class T>
 using Find = int (*)(const Search<T>&, int n, const T* site, int32_t& state, int32_t* cell);
 
-template <class T> int find_uniform(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
-template <class T> int find_quasi_uniform(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
-template <class T> int find_sorted(const Search<T>&, int n, const T* site, int32_t& state, int32_t* cell);
-template <class T> int find_peak(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
-template <class T> int find_hybrid(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
-template <class T> int find_user(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
-template <class T> int find_user_uniform(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
+template <class T>
+int find_uniform(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
+template <class T>
+int find_quasi_uniform(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
+template <class T>
+int find_sorted(const Search<T>&, int n, const T* site, int32_t& state, int32_t* cell);
+template <class T>
+int find_peak(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
+template <class T>
+int find_hybrid(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
+template <class T>
+int find_user(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
+template <class T>
+int find_user_uniform(const Search<T>&, int n, const T* site, int32_t&, int32_t* cell);
 
 // In the order of Method.
 template <class T>
 inline constexpr Find<T> find_dispatch[] = {
-    find_uniform<T>, find_quasi_uniform<T>, find_sorted<T>, find_peak<T>,
+    find_uniform<T>, find_quasi_uniform<T>, find_sorted<T>,      find_peak<T>,
     find_hybrid<T>,  find_user<T>,          find_user_uniform<T>};
 
 // The user-defined methods with cells of either width; `flags` has room for 128.
@@ -71,7 +88,10 @@ inline int walk_up(const T* x, int nx, int c, T s) {
   int high = nx - low > stride ? low + stride - 1 : nx;
   while (low < high) {
     const int middle = low + (high - low) / 2;
-    if (x[middle] <= s) low = middle + 1; else high = middle;
+    if (x[middle] <= s)
+      low = middle + 1;
+    else
+      high = middle;
   }
   return low;
 }
@@ -86,7 +106,10 @@ inline int walk_down(const T* x, int c, T s) {
   int low = high > stride ? high - stride + 1 : 0;
   while (low < high) {
     const int middle = low + (high - low) / 2;
-    if (x[middle] > s) high = middle; else low = middle + 1;
+    if (x[middle] > s)
+      high = middle;
+    else
+      low = middle + 1;
   }
   return low;
 }

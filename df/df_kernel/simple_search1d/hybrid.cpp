@@ -61,8 +61,7 @@ void find_block(const Search<T>& search, int n, const T* site, int32_t* cell) {
     const __m128i found = _mm_and_si128(s >= left, load4(cell + j));
     store4(cell + j, select(s >= right, beyond, found));
   }
-  for (; j < n; ++j)
-    cell[j] = site[j] >= x[nx - 1] ? nx : site[j] >= x[0] ? cell[j] : 0;
+  for (; j < n; ++j) cell[j] = site[j] >= x[nx - 1] ? nx : site[j] >= x[0] ? cell[j] : 0;
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ int find_peak(const Search<T>& search, int n, const T* site, int32_t&, int32_t* 
   const int nx = search.nx, peak = search.peak < nx ? search.peak : nx;
   for (int j = 0; j < n; ++j) {
     const T s = site[j];
-    cell[j] = s != s ? 0
+    cell[j] = s != s                      ? 0
               : peak < nx && s >= x[peak] ? walk_up(x, nx, peak + 1, s)
                                           : walk_down(x, peak, s);
   }

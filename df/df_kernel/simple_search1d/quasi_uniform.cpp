@@ -15,8 +15,8 @@ int find_quasi_uniform(const Search<T>& search, int n, const T* site, int32_t& s
     // even when the guess rounds below it.
     for (int j = first; j < end; ++j)
       if (cell[j] != 0)
-        cell[j] = site[j] >= right ? search.nx
-                                   : walk_from_guess(search.x, search.nx, cell[j], site[j]);
+        cell[j] =
+            site[j] >= right ? search.nx : walk_from_guess(search.x, search.nx, cell[j], site[j]);
   }
   return ORK_DF_OK;
 }

@@ -28,7 +28,9 @@ int find_by_user(const Search<T>& search, bool uniform, int n, const T* site, Ce
         find_uniform(search, 1, site + first + j, state, &one);
         cell[first + j] = one;
       } else {
-        const int guess = found[j] < 1 ? 0 : found[j] > search.nx ? search.nx : static_cast<int>(found[j]);
+        const int guess = found[j] < 1           ? 0
+                          : found[j] > search.nx ? search.nx
+                                                 : static_cast<int>(found[j]);
         cell[first + j] = walk_from_guess(search.x, search.nx, guess, site[first + j]);
       }
     }
