@@ -32,8 +32,7 @@ extern "C" {
 /* C (m by n) := alpha op(A) op(B) + beta C, with op(A) m by k and op(B) k by n. */
 void ork_blas_dgemm(const char* transa, const char* transb, const int* m, const int* n,
                     const int* k, const double* alpha, const double* a, const int* lda,
-                    const double* b, const int* ldb, const double* beta, double* c,
-                    const int* ldc);
+                    const double* b, const int* ldb, const double* beta, double* c, const int* ldc);
 void ork_blas_sgemm(const char* transa, const char* transb, const int* m, const int* n,
                     const int* k, const float* alpha, const float* a, const int* lda,
                     const float* b, const int* ldb, const float* beta, float* c, const int* ldc);
@@ -59,8 +58,8 @@ void ork_blas_dsyrk(const char* uplo, const char* trans, const int* n, const int
                     const double* alpha, const double* a, const int* lda, const double* beta,
                     double* c, const int* ldc);
 void ork_blas_ssyrk(const char* uplo, const char* trans, const int* n, const int* k,
-                    const float* alpha, const float* a, const int* lda, const float* beta,
-                    float* c, const int* ldc);
+                    const float* alpha, const float* a, const int* lda, const float* beta, float* c,
+                    const int* ldc);
 
 /* C (m by n) := alpha A B + beta C (side "L") or alpha B A + beta C (side "R"), with A
  * symmetric. */
@@ -78,28 +77,28 @@ void ork_blas_dtrmm(const char* side, const char* uplo, const char* transa, cons
                     const int* m, const int* n, const double* alpha, const double* a,
                     const int* lda, double* b, const int* ldb);
 void ork_blas_strmm(const char* side, const char* uplo, const char* transa, const char* diag,
-                    const int* m, const int* n, const float* alpha, const float* a,
-                    const int* lda, float* b, const int* ldb);
-void ork_blas_xdtrmm_4zem(const char* side, const char* uplo, const char* transa,
-                          const char* diag, const int* m, const int* n, const double* alpha,
-                          const double* a, const int* lda, double* b, const int* ldb);
-void ork_blas_xstrmm_4zem(const char* side, const char* uplo, const char* transa,
-                          const char* diag, const int* m, const int* n, const float* alpha,
-                          const float* a, const int* lda, float* b, const int* ldb);
-void ork_blas4zem_dtrmm(const char* side, const char* uplo, const char* transa,
-                        const char* diag, const int* m, const int* n, const double* alpha,
-                        const double* a, const int* lda, double* b, const int* ldb);
-void ork_blas4zem_strmm(const char* side, const char* uplo, const char* transa,
-                        const char* diag, const int* m, const int* n, const float* alpha,
-                        const float* a, const int* lda, float* b, const int* ldb);
+                    const int* m, const int* n, const float* alpha, const float* a, const int* lda,
+                    float* b, const int* ldb);
+void ork_blas_xdtrmm_4zem(const char* side, const char* uplo, const char* transa, const char* diag,
+                          const int* m, const int* n, const double* alpha, const double* a,
+                          const int* lda, double* b, const int* ldb);
+void ork_blas_xstrmm_4zem(const char* side, const char* uplo, const char* transa, const char* diag,
+                          const int* m, const int* n, const float* alpha, const float* a,
+                          const int* lda, float* b, const int* ldb);
+void ork_blas4zem_dtrmm(const char* side, const char* uplo, const char* transa, const char* diag,
+                        const int* m, const int* n, const double* alpha, const double* a,
+                        const int* lda, double* b, const int* ldb);
+void ork_blas4zem_strmm(const char* side, const char* uplo, const char* transa, const char* diag,
+                        const int* m, const int* n, const float* alpha, const float* a,
+                        const int* lda, float* b, const int* ldb);
 
 /* The same with A packed. */
-void ork_blas4zem_dptrmm(const char* side, const char* uplo, const char* transa,
-                         const char* diag, const int* m, const int* n, const double* alpha,
-                         const double* ap, double* b, const int* ldb);
-void ork_blas4zem_sptrmm(const char* side, const char* uplo, const char* transa,
-                         const char* diag, const int* m, const int* n, const float* alpha,
-                         const float* ap, float* b, const int* ldb);
+void ork_blas4zem_dptrmm(const char* side, const char* uplo, const char* transa, const char* diag,
+                         const int* m, const int* n, const double* alpha, const double* ap,
+                         double* b, const int* ldb);
+void ork_blas4zem_sptrmm(const char* side, const char* uplo, const char* transa, const char* diag,
+                         const int* m, const int* n, const float* alpha, const float* ap, float* b,
+                         const int* ldb);
 
 /* Factors and inverses -------------------------------------------------------------- */
 
@@ -115,10 +114,10 @@ void ork_lapack_spotri(const char* uplo, const int* n, float* a, const int* lda,
 
 /* Inverse of a triangular matrix in place. info = i > 0: diagonal element i is 0; nothing
  * is written. */
-void ork_lapack_dtrtri(const char* uplo, const char* diag, const int* n, double* a,
-                       const int* lda, int* info);
-void ork_lapack_strtri(const char* uplo, const char* diag, const int* n, float* a,
-                       const int* lda, int* info);
+void ork_lapack_dtrtri(const char* uplo, const char* diag, const int* n, double* a, const int* lda,
+                       int* info);
+void ork_lapack_strtri(const char* uplo, const char* diag, const int* n, float* a, const int* lda,
+                       int* info);
 
 /* Eigenvalues of symmetric matrices -------------------------------------------------- */
 
@@ -131,10 +130,10 @@ void ork_lapack_strtri(const char* uplo, const char* diag, const int* n, float* 
  *
  * info > 0: no convergence, A and w are undefined: n also for an infinite or NaN element,
  * n + 1 when there is no memory (then nothing was written). */
-void ork_lapack_dsyev(const char* jobz, const char* uplo, const int* n, double* a,
-                      const int* lda, double* w, double* work, const int* lwork, int* info);
-void ork_lapack_ssyev(const char* jobz, const char* uplo, const int* n, float* a,
-                      const int* lda, float* w, float* work, const int* lwork, int* info);
+void ork_lapack_dsyev(const char* jobz, const char* uplo, const int* n, double* a, const int* lda,
+                      double* w, double* work, const int* lwork, int* info);
+void ork_lapack_ssyev(const char* jobz, const char* uplo, const int* n, float* a, const int* lda,
+                      float* w, float* work, const int* lwork, int* info);
 
 /* The same for a packed triangle, which is kept; job "V" stores the eigenvectors in z, n by
  * n with leading dimension ldz; job "N" does not touch z and takes n * n reals from
@@ -174,8 +173,8 @@ void sdttrfb_4dfl(const int* n, float* dl, float* d, float* du, int* info);
  * side gives the same bits alone and among others. */
 void ddttrsb_4dfl(const char* trans, const int* n, const int* nrhs, const double* dl,
                   const double* d, const double* du, double* b, const int* ldb, int* info);
-void sdttrsb_4dfl(const char* trans, const int* n, const int* nrhs, const float* dl,
-                  const float* d, const float* du, float* b, const int* ldb, int* info);
+void sdttrsb_4dfl(const char* trans, const int* n, const int* nrhs, const float* dl, const float* d,
+                  const float* du, float* b, const int* ldb, int* info);
 
 #ifdef __cplusplus
 }

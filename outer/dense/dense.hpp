@@ -66,11 +66,11 @@ template <class R>
 void syrk(bool upper, bool trans, int n, int k, R alpha, const R* a, int lda, R beta, R* c,
           int ldc);
 template <class R>
-void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a,
-          int lda, R* b, int ldb);
+void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a, int lda,
+          R* b, int ldb);
 
-extern template void gemm(bool, bool, int, int, int, double, const double*, int, const double*,
-                          int, double, double*, int);
+extern template void gemm(bool, bool, int, int, int, double, const double*, int, const double*, int,
+                          double, double*, int);
 extern template void gemm(bool, bool, int, int, int, float, const float*, int, const float*, int,
                           float, float*, int);
 extern template void syrk(bool, bool, int, int, double, const double*, int, double, double*, int);

@@ -4,6 +4,7 @@
 #include <Eigen/Eigenvalues>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "ork/serv.h"
@@ -12,9 +13,14 @@
 namespace ork::dense {
 namespace {
 
+// Room for n * n reals, or null.
+template <class R>
 struct Block {
-  void* data;
-  explicit Block(size_t bytes) : data(ork_serv_allocate(bytes, 128)) {}
+  R* data = nullptr;
+  explicit Block(long long n) {
+    const long long bytes = n * n * sizeof(R);
+    if (bytes <= PTRDIFF_MAX) data = static_cast<R*>(ork_serv_allocate(size_t(bytes), 128));
+  }
   ~Block() { ork_serv_deallocate(data); }
   Block(const Block&) = delete;
 };
@@ -70,8 +76,8 @@ int syev(bool vectors, bool upper, int n, R* a, int lda, R* w, R* work) {
     if (upper) gather(n, element, a);
     return decompose(vectors, n, a, w, work);
   }
-  const Block block(sizeof(R) * n * n);
-  R* const q = static_cast<R*>(block.data);
+  const Block<R> block(n);
+  R* const q = block.data;
   if (q == nullptr) return n + 1;
   gather(n, element, q);
   const int info = decompose(vectors, n, q, w, work);
@@ -86,8 +92,8 @@ int spevd(bool vectors, bool upper, int n, const R* ap, R* w, R* z, int ldz, R* 
     return upper ? ap[j + i * (i + 1) / 2] : ap[i + j * (2 * n - j - 1) / 2];
   };
   const bool in_place = vectors && ldz == n;
-  const Block block(vectors ? 0 : sizeof(R) * n * n);
-  R* const q = in_place ? z : vectors ? work + 3 * n : static_cast<R*>(block.data);
+  const Block<R> block(vectors ? 0 : n);
+  R* const q = in_place ? z : vectors ? work + 3 * n : block.data;
   if (q == nullptr) return n + 1;
   gather(n, element, q);
   const int info = decompose(vectors, n, q, w, work);
@@ -96,11 +102,12 @@ int spevd(bool vectors, bool upper, int n, const R* ap, R* w, R* z, int ldz, R* 
 }
 
 struct Sizes {
-  int reals, ints;
+  long long reals;
+  int ints;
 };
-Sizes spevd_sizes(bool vectors, int n) {
+Sizes spevd_sizes(bool vectors, long long n) {
   if (n < 2) return {1, 1};
-  return vectors ? Sizes{n * n + 6 * n + 1, 5 * n + 3} : Sizes{2 * n, 1};
+  return vectors ? Sizes{n * n + 6 * n + 1, int(5 * n + 3)} : Sizes{2 * n, 1};
 }
 
 }  // namespace
@@ -108,38 +115,38 @@ Sizes spevd_sizes(bool vectors, int n) {
 
 using namespace ork::dense;
 
-#define ORK_TWIN(t, R)                                                                           \
-  ORK_OUTER void ork_lapack_##t##syev(const char* jobz, const char* uplo, const int* n, R* a,    \
-                                      const int* lda, R* w, R* work, const int* lwork,           \
-                                      int* info) {                                               \
-    const Option vectors = wants_vectors(jobz), upper = is_upper(uplo);                          \
-    const int needed = std::max(1, 3 * *n - 1);                                                  \
-    *info = !vectors.valid                            ? -1                                       \
-            : !upper.valid                            ? -2                                       \
-            : *n < 0                                  ? -3                                       \
-            : !ld_ok(*lda, *n)                        ? -5                                       \
-            : *lwork < needed && *lwork != -1         ? -8                                       \
-                                                      : 0;                                       \
-    if (*info == 0 && *lwork != -1) *info = syev<R>(vectors, upper, *n, a, *lda, w, work);       \
-    if (*info == 0) work[0] = R(needed);                                                         \
-  }                                                                                              \
-  ORK_OUTER void ork_lapack_##t##spevd(const char* jobz, const char* uplo, const int* n, R* ap,  \
-                                       R* w, R* z, const int* ldz, R* work, const int* lwork,    \
-                                       int* iwork, const int* liwork, int* info) {               \
-    const Option vectors = wants_vectors(jobz), upper = is_upper(uplo);                          \
-    const Sizes needed = spevd_sizes(vectors, *n);                                               \
-    const bool query = *lwork == -1 || *liwork == -1;                                            \
-    *info = !vectors.valid                            ? -1                                       \
-            : !upper.valid                            ? -2                                       \
-            : *n < 0                                  ? -3                                       \
-            : !ld_ok(*ldz, vectors ? *n : 1)          ? -7                                       \
-            : !query && *lwork < needed.reals         ? -9                                       \
-            : !query && *liwork < needed.ints         ? -11                                      \
-                                                      : 0;                                       \
-    if (*info == 0 && !query) *info = spevd<R>(vectors, upper, *n, ap, w, z, *ldz, work);        \
-    if (*info != 0) return;                                                                      \
-    work[0] = R(needed.reals);                                                                   \
-    iwork[0] = needed.ints;                                                                      \
+#define ORK_TWIN(t, R)                                                                          \
+  ORK_OUTER void ork_lapack_##t##syev(const char* jobz, const char* uplo, const int* n, R* a,   \
+                                      const int* lda, R* w, R* work, const int* lwork,          \
+                                      int* info) {                                              \
+    const Option vectors = wants_vectors(jobz), upper = is_upper(uplo);                         \
+    const long long needed = std::max(1LL, 3LL * *n - 1);                                       \
+    *info = !vectors.valid                    ? -1                                              \
+            : !upper.valid                    ? -2                                              \
+            : *n < 0                          ? -3                                              \
+            : !ld_ok(*lda, *n)                ? -5                                              \
+            : *lwork < needed && *lwork != -1 ? -8                                              \
+                                              : 0;                                              \
+    if (*info == 0 && *lwork != -1) *info = syev<R>(vectors, upper, *n, a, *lda, w, work);      \
+    if (*info == 0) work[0] = R(needed);                                                        \
+  }                                                                                             \
+  ORK_OUTER void ork_lapack_##t##spevd(const char* jobz, const char* uplo, const int* n, R* ap, \
+                                       R* w, R* z, const int* ldz, R* work, const int* lwork,   \
+                                       int* iwork, const int* liwork, int* info) {              \
+    const Option vectors = wants_vectors(jobz), upper = is_upper(uplo);                         \
+    const Sizes needed = spevd_sizes(vectors, *n);                                              \
+    const bool query = *lwork == -1 || *liwork == -1;                                           \
+    *info = !vectors.valid                    ? -1                                              \
+            : !upper.valid                    ? -2                                              \
+            : *n < 0                          ? -3                                              \
+            : !ld_ok(*ldz, vectors ? *n : 1)  ? -7                                              \
+            : !query && *lwork < needed.reals ? -9                                              \
+            : !query && *liwork < needed.ints ? -11                                             \
+                                              : 0;                                              \
+    if (*info == 0 && !query) *info = spevd<R>(vectors, upper, *n, ap, w, z, *ldz, work);       \
+    if (*info != 0) return;                                                                     \
+    work[0] = R(needed.reals);                                                                  \
+    iwork[0] = needed.ints;                                                                     \
   }
 ORK_TWIN(d, double)
 ORK_TWIN(s, float)

@@ -27,9 +27,12 @@ int cholesky(bool upper, int n, R* a, int lda) {
       for (int i = 0; i <= j; ++i) {
         R sum = u(i, j);
         for (int k = 0; k < i; ++k) sum -= u(k, i) * u(k, j);
-        if (i < j) sum /= u(i, i);
-        else if (!(sum > R(0))) return j + 1;
-        else sum = std::sqrt(sum);
+        if (i < j)
+          sum /= u(i, i);
+        else if (!(sum > R(0)))
+          return j + 1;
+        else
+          sum = std::sqrt(sum);
         u(i, j) = sum;
       }
     return 0;
@@ -112,27 +115,27 @@ int first_zero(int n, const R* a, int lda) {
 
 using namespace ork::dense;
 
-#define ORK_TWIN(t, R)                                                                           \
-  ORK_OUTER void ork_lapack_##t##potrf(const char* uplo, const int* n, R* a, const int* lda,     \
-                                       int* info) {                                              \
-    const Option upper = is_upper(uplo);                                                         \
-    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : 0;                         \
-    if (*info == 0) *info = cholesky(upper, *n, a, *lda);                                        \
-  }                                                                                              \
-  ORK_OUTER void ork_lapack_##t##potri(const char* uplo, const int* n, R* a, const int* lda,     \
-                                       int* info) {                                              \
-    const Option upper = is_upper(uplo);                                                         \
-    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : first_zero(*n, a, *lda);   \
-    if (*info != 0) return;                                                                      \
-    invert(upper, false, *n, a, *lda);                                                           \
-    square(upper, *n, a, *lda);                                                                  \
-  }                                                                                              \
-  ORK_OUTER void ork_lapack_##t##trtri(const char* uplo, const char* diag, const int* n, R* a,   \
-                                       const int* lda, int* info) {                              \
-    const Option upper = is_upper(uplo), unit = is_unit(diag);                                   \
-    *info = !upper.valid ? -1 : !unit.valid ? -2 : *n < 0 ? -3 : !ld_ok(*lda, *n) ? -5 : 0;      \
-    if (*info == 0 && !unit) *info = first_zero(*n, a, *lda);                                    \
-    if (*info == 0) invert(upper, unit, *n, a, *lda);                                            \
+#define ORK_TWIN(t, R)                                                                         \
+  ORK_OUTER void ork_lapack_##t##potrf(const char* uplo, const int* n, R* a, const int* lda,   \
+                                       int* info) {                                            \
+    const Option upper = is_upper(uplo);                                                       \
+    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : 0;                       \
+    if (*info == 0) *info = cholesky(upper, *n, a, *lda);                                      \
+  }                                                                                            \
+  ORK_OUTER void ork_lapack_##t##potri(const char* uplo, const int* n, R* a, const int* lda,   \
+                                       int* info) {                                            \
+    const Option upper = is_upper(uplo);                                                       \
+    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : first_zero(*n, a, *lda); \
+    if (*info != 0) return;                                                                    \
+    invert(upper, false, *n, a, *lda);                                                         \
+    square(upper, *n, a, *lda);                                                                \
+  }                                                                                            \
+  ORK_OUTER void ork_lapack_##t##trtri(const char* uplo, const char* diag, const int* n, R* a, \
+                                       const int* lda, int* info) {                            \
+    const Option upper = is_upper(uplo), unit = is_unit(diag);                                 \
+    *info = !upper.valid ? -1 : !unit.valid ? -2 : *n < 0 ? -3 : !ld_ok(*lda, *n) ? -5 : 0;    \
+    if (*info == 0 && !unit) *info = first_zero(*n, a, *lda);                                  \
+    if (*info == 0) invert(upper, unit, *n, a, *lda);                                          \
   }
 ORK_TWIN(d, double)
 ORK_TWIN(s, float)

@@ -12,9 +12,8 @@
 namespace ork::dense {
 namespace {
 
-constexpr int block = 32;            // order of a block of the triangle
-constexpr int chunk_reals = 32768;   // of B worked on at a time, to stay in cache
-constexpr int lanes = 4;             // columns of B multiplied side by side
+constexpr int block = 32;           // order of a block of the triangle
+constexpr int chunk_reals = 32768;  // of B worked on at a time, to stay in cache
 
 template <class R>
 struct Panel {
@@ -24,18 +23,23 @@ struct Panel {
 };
 
 // rows [0, n) of x := T x, with T the dense block t[i * block + k] and its zeros skipped.
+// Two registers of columns go side by side.
 template <class R>
 void multiply_diagonal(bool upper, int n, const R* t, Panel<R> x, int cols) {
-  for (int j = 0; j < cols; j += lanes) {
-    const int width = std::min(lanes, cols - j);
-    R copy[block][lanes] = {};
+  typedef R Lanes __attribute__((vector_size(16)));
+  constexpr int lanes = sizeof(Lanes) / sizeof(R);
+  for (int j = 0; j < cols; j += 2 * lanes) {
+    const int width = std::min(2 * lanes, cols - j);
+    Lanes copy[block][2] = {};
     for (int c = 0; c < width; ++c)
-      for (int k = 0; k < n; ++k) copy[k][c] = *x.at(k, j + c);
+      for (int k = 0; k < n; ++k) copy[k][c / lanes][c % lanes] = *x.at(k, j + c);
     for (int i = 0; i < n; ++i) {
-      R sum[lanes] = {};
-      for (int k = upper ? i : 0, end = upper ? n : i + 1; k < end; ++k)
-        for (int c = 0; c < lanes; ++c) sum[c] += t[i * block + k] * copy[k][c];
-      for (int c = 0; c < width; ++c) *x.at(i, j + c) = sum[c];
+      Lanes sum[2] = {};
+      for (int k = upper ? i : 0, end = upper ? n : i + 1; k < end; ++k) {
+        sum[0] += t[i * block + k] * copy[k][0];
+        sum[1] += t[i * block + k] * copy[k][1];
+      }
+      for (int c = 0; c < width; ++c) *x.at(i, j + c) = sum[c / lanes][c % lanes];
     }
   }
 }
@@ -105,8 +109,8 @@ void ptrmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, 
 }  // namespace
 
 template <class R>
-void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a,
-          int lda, R* b, int ldb) {
+void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a, int lda,
+          R* b, int ldb) {
   const auto stored = [=](int i, int k) { return a[i + k * lda]; };
   triangular_product(left, upper, trans, unit, m, n, alpha, stored, b, ldb);
 }
@@ -118,25 +122,25 @@ template void trmm(bool, bool, bool, bool, int, int, float, const float*, int, f
 
 using namespace ork::dense;
 
-#define ORK_TRMM(name, R)                                                                    \
-  ORK_OUTER void name(const char* side, const char* uplo, const char* transa,                \
-                      const char* diag, const int* m, const int* n, const R* alpha,          \
-                      const R* a, const int* lda, R* b, const int* ldb) {                    \
-    const Option left = is_left(side), upper = is_upper(uplo), trans = is_transposed(transa), \
-                 unit = is_unit(diag);                                                       \
-    if (left.valid && upper.valid && trans.valid && unit.valid && *m >= 0 && *n >= 0 &&      \
-        ld_ok(*lda, left ? *m : *n) && ld_ok(*ldb, *m))                                      \
-      trmm(left, upper, trans, unit, *m, *n, *alpha, a, *lda, b, *ldb);                      \
+#define ORK_TRMM(name, R)                                                                       \
+  ORK_OUTER void name(const char* side, const char* uplo, const char* transa, const char* diag, \
+                      const int* m, const int* n, const R* alpha, const R* a, const int* lda,   \
+                      R* b, const int* ldb) {                                                   \
+    const Option left = is_left(side), upper = is_upper(uplo), trans = is_transposed(transa),   \
+                 unit = is_unit(diag);                                                          \
+    if (left.valid && upper.valid && trans.valid && unit.valid && *m >= 0 && *n >= 0 &&         \
+        ld_ok(*lda, left ? *m : *n) && ld_ok(*ldb, *m))                                         \
+      trmm(left, upper, trans, unit, *m, *n, *alpha, a, *lda, b, *ldb);                         \
   }
-#define ORK_PTRMM(name, R)                                                                   \
-  ORK_OUTER void name(const char* side, const char* uplo, const char* transa,                \
-                      const char* diag, const int* m, const int* n, const R* alpha,          \
-                      const R* ap, R* b, const int* ldb) {                                   \
-    const Option left = is_left(side), upper = is_upper(uplo), trans = is_transposed(transa), \
-                 unit = is_unit(diag);                                                       \
-    if (left.valid && upper.valid && trans.valid && unit.valid && *m >= 0 && *n >= 0 &&      \
-        ld_ok(*ldb, *m))                                                                     \
-      ptrmm(left, upper, trans, unit, *m, *n, *alpha, ap, b, *ldb);                          \
+#define ORK_PTRMM(name, R)                                                                      \
+  ORK_OUTER void name(const char* side, const char* uplo, const char* transa, const char* diag, \
+                      const int* m, const int* n, const R* alpha, const R* ap, R* b,            \
+                      const int* ldb) {                                                         \
+    const Option left = is_left(side), upper = is_upper(uplo), trans = is_transposed(transa),   \
+                 unit = is_unit(diag);                                                          \
+    if (left.valid && upper.valid && trans.valid && unit.valid && *m >= 0 && *n >= 0 &&         \
+        ld_ok(*ldb, *m))                                                                        \
+      ptrmm(left, upper, trans, unit, *m, *n, *alpha, ap, b, *ldb);                             \
   }
 ORK_TRMM(ork_blas_dtrmm, double)
 ORK_TRMM(ork_blas_strmm, float)

@@ -55,5 +55,5 @@ void ordered(int item, int thread, int third, void* context, ork_threader_body b
 
 }  // namespace
 
-const ork_threader ork_threader_parallel = {parallel_for, ordered_for, parallel,
-                                                           ordered, max_threads};
+const ork_threader ork_threader_parallel = {parallel_for, ordered_for, parallel, ordered,
+                                            max_threads};

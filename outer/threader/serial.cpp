@@ -22,5 +22,5 @@ int one_thread() { return 1; }
 
 }  // namespace
 
-const ork_threader ork_threader_serial = {run_items, run_items, run_threads,
-                                                         run_ordered, one_thread};
+const ork_threader ork_threader_serial = {run_items, run_items, run_threads, run_ordered,
+                                          one_thread};

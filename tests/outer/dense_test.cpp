@@ -10,25 +10,25 @@ namespace {
 
 template <class R>
 struct Api;
-#define API(t, R)                                                                       \
-  template <>                                                                           \
-  struct Api<R> {                                                                       \
-    static constexpr auto gemm = ork_blas_##t##gemm;                                    \
-    static constexpr auto gemv = ork_blas_##t##gemv;                                    \
-    static constexpr auto syr = ork_blas_##t##syr;                                      \
-    static constexpr auto syrk = ork_blas_##t##syrk;                                    \
-    static constexpr auto symm = ork_blas_x##t##symm;                                   \
-    static constexpr decltype(&ork_blas_##t##trmm) trmm[] = {                           \
-        ork_blas_##t##trmm, ork_blas_x##t##trmm_4zem, ork_blas4zem_##t##trmm};          \
-    static constexpr auto ptrmm = ork_blas4zem_##t##ptrmm;                              \
-    static constexpr auto potrf = ork_lapack_##t##potrf;                                \
-    static constexpr auto potri = ork_lapack_##t##potri;                                \
-    static constexpr auto trtri = ork_lapack_##t##trtri;                                \
-    static constexpr auto syev = ork_lapack_##t##syev;                                  \
-    static constexpr auto spevd = ork_lapack_##t##spevd;                                \
-    static constexpr auto tsvb = t##dtsvb_4dfl;                                         \
-    static constexpr auto ttrfb = t##dttrfb_4dfl;                                       \
-    static constexpr auto ttrsb = t##dttrsb_4dfl;                                       \
+#define API(t, R)                                                              \
+  template <>                                                                  \
+  struct Api<R> {                                                              \
+    static constexpr auto gemm = ork_blas_##t##gemm;                           \
+    static constexpr auto gemv = ork_blas_##t##gemv;                           \
+    static constexpr auto syr = ork_blas_##t##syr;                             \
+    static constexpr auto syrk = ork_blas_##t##syrk;                           \
+    static constexpr auto symm = ork_blas_x##t##symm;                          \
+    static constexpr decltype(&ork_blas_##t##trmm) trmm[] = {                  \
+        ork_blas_##t##trmm, ork_blas_x##t##trmm_4zem, ork_blas4zem_##t##trmm}; \
+    static constexpr auto ptrmm = ork_blas4zem_##t##ptrmm;                     \
+    static constexpr auto potrf = ork_lapack_##t##potrf;                       \
+    static constexpr auto potri = ork_lapack_##t##potri;                       \
+    static constexpr auto trtri = ork_lapack_##t##trtri;                       \
+    static constexpr auto syev = ork_lapack_##t##syev;                         \
+    static constexpr auto spevd = ork_lapack_##t##spevd;                       \
+    static constexpr auto tsvb = t##dtsvb_4dfl;                                \
+    static constexpr auto ttrfb = t##dttrfb_4dfl;                              \
+    static constexpr auto ttrsb = t##dttrsb_4dfl;                              \
   };
 API(d, double)
 API(s, float)
@@ -61,7 +61,10 @@ struct Array {
   std::function<bool(int, int)> inside;
 
   Array(int rows, int cols, int gap, std::function<bool(int, int)> inside = everywhere)
-      : rows(rows), cols(cols), ld(std::max(1, rows + gap)), v(ld * cols + 1, nan<R>),
+      : rows(rows),
+        cols(cols),
+        ld(std::max(1, rows + gap)),
+        v(ld * cols + 1, nan<R>),
         inside(inside) {
     fill([](int, int) { return draw<R>(); });
   }
@@ -133,143 +136,190 @@ TYPED_TEST(DenseTest, Gemm) {
   using R = TypeParam;
   const int some[] = {1, 2, 4, 7, 11, 33};
   const R factors[][2] = {{1, 0}, {R(-1.5), 1}, {R(0.75), R(-0.5)}, {0, 2}, {0, 0}};
-  for (char ta : {'N', 't', 'C'}) for (char tb : {'n', 'T'})
-  for (int m : some) for (int n : some) for (int k : {0, 1, 5, 40})
-  for (auto [alpha, beta] : factors) {
-    TRACE(ta << tb << " m " << m << " n " << n << " k " << k << " alpha " << alpha << " beta " << beta);
-    const bool at = transposed(ta), bt = transposed(tb);
-    Array<R> a(at ? k : m, at ? m : k, 3), b(bt ? n : k, bt ? k : n, 2), c(m, n, 1);
-    if (beta == 0) c.fill([](int, int) { return nan<R>; });
-    if (alpha == 0) a.fill([](int, int) { return nan<R>; });
-    const auto old = c;
-    TestFixture::A::gemm(&ta, &tb, &m, &n, &k, &alpha, a.data(), &a.ld, b.data(), &b.ld, &beta,
-                         c.data(), &c.ld);
-    c.expect_kept(old);
-    c.expect_near([&](int i, int j) {
-      const Wide product = alpha == 0 ? 0 : sum(k, [&](int l) {
-        return Wide(at ? a(l, i) : a(i, l)) * (bt ? b(j, l) : b(l, j)); });
-      return blend(beta, old(i, j), alpha * product);
-    }, sum_error<R>(k));
-    if (this->HasFatalFailure()) return;
-  }
+  for (char ta : {'N', 't', 'C'})
+    for (char tb : {'n', 'T'})
+      for (int m : some)
+        for (int n : some)
+          for (int k : {0, 1, 5, 40})
+            for (auto [alpha, beta] : factors) {
+              TRACE(ta << tb << " m " << m << " n " << n << " k " << k << " alpha " << alpha
+                       << " beta " << beta);
+              const bool at = transposed(ta), bt = transposed(tb);
+              Array<R> a(at ? k : m, at ? m : k, 3), b(bt ? n : k, bt ? k : n, 2), c(m, n, 1);
+              if (beta == 0) c.fill([](int, int) { return nan<R>; });
+              if (alpha == 0) a.fill([](int, int) { return nan<R>; });
+              const auto old = c;
+              TestFixture::A::gemm(&ta, &tb, &m, &n, &k, &alpha, a.data(), &a.ld, b.data(), &b.ld,
+                                   &beta, c.data(), &c.ld);
+              c.expect_kept(old);
+              c.expect_near(
+                  [&](int i, int j) {
+                    const Wide product = alpha == 0 ? 0 : sum(k, [&](int l) {
+                      return Wide(at ? a(l, i) : a(i, l)) * (bt ? b(j, l) : b(l, j));
+                    });
+                    return blend(beta, old(i, j), alpha * product);
+                  },
+                  sum_error<R>(k));
+              if (this->HasFatalFailure()) return;
+            }
 }
 
 TYPED_TEST(DenseTest, Gemv) {
   using R = TypeParam;
-  for (char trans : {'N', 'T'}) for (int m : {1, 4, 9, 40}) for (int n : {1, 3, 17})
-  for (int incx : {1, 2, -3}) for (int incy : {1, 3, -1}) for (R beta : {R(0), R(1), R(-2)}) {
-    TRACE(trans << " m " << m << " n " << n << " incx " << incx << " incy " << incy << " beta " << beta);
-    const bool t = transposed(trans);
-    const int rows = t ? n : m, cols = t ? m : n;
-    const R alpha = R(1.25);
-    Array<R> a(m, n, 2), x(1, cols, std::abs(incx) - 1), y(1, rows, std::abs(incy) - 1);
-    if (beta == 0) y.fill([](int, int) { return nan<R>; });
-    const auto old = y;
-    TestFixture::A::gemv(&trans, &m, &n, &alpha, a.data(), &a.ld, x.data(), &incx, &beta,
-                         y.data(), &incy);
-    y.expect_kept(old);
-    y.expect_near([&](int, int place) {
-      const int i = incy < 0 ? rows - 1 - place : place;
-      return blend(beta, old(0, place), alpha * sum(cols, [&](int k) {
-        return Wide(t ? a(k, i) : a(i, k)) * x(0, incx < 0 ? cols - 1 - k : k); }));
-    }, sum_error<R>(cols));
-    if (this->HasFatalFailure()) return;
-  }
+  for (char trans : {'N', 'T'})
+    for (int m : {1, 4, 9, 40})
+      for (int n : {1, 3, 17})
+        for (int incx : {1, 2, -3})
+          for (int incy : {1, 3, -1})
+            for (R beta : {R(0), R(1), R(-2)}) {
+              TRACE(trans << " m " << m << " n " << n << " incx " << incx << " incy " << incy
+                          << " beta " << beta);
+              const bool t = transposed(trans);
+              const int rows = t ? n : m, cols = t ? m : n;
+              const R alpha = R(1.25);
+              Array<R> a(m, n, 2), x(1, cols, std::abs(incx) - 1), y(1, rows, std::abs(incy) - 1);
+              if (beta == 0) y.fill([](int, int) { return nan<R>; });
+              const auto old = y;
+              TestFixture::A::gemv(&trans, &m, &n, &alpha, a.data(), &a.ld, x.data(), &incx, &beta,
+                                   y.data(), &incy);
+              y.expect_kept(old);
+              y.expect_near(
+                  [&](int, int place) {
+                    const int i = incy < 0 ? rows - 1 - place : place;
+                    return blend(beta, old(0, place), alpha * sum(cols, [&](int k) {
+                                                        return Wide(t ? a(k, i) : a(i, k)) *
+                                                               x(0, incx < 0 ? cols - 1 - k : k);
+                                                      }));
+                  },
+                  sum_error<R>(cols));
+              if (this->HasFatalFailure()) return;
+            }
 }
 
 TYPED_TEST(DenseTest, Syr) {
   using R = TypeParam;
-  for (char uplo : {'U', 'u', 'L', 'l'}) for (int n : sizes) for (int inc : {1, 2, -2}) {
-    TRACE(uplo << " n " << n << " inc " << inc);
-    const R alpha = R(-0.75);
-    Array<R> x(1, n, std::abs(inc) - 1), a(n, n, 2, triangle(uplo));
-    const auto old = a;
-    TestFixture::A::syr(&uplo, &n, &alpha, x.data(), &inc, a.data(), &a.ld);
-    a.expect_kept(old);
-    const auto at = [&](int i) { return Wide(x(0, inc < 0 ? n - 1 - i : i)); };
-    a.expect_near([&](int i, int j) { return old(i, j) + alpha * at(i) * at(j); }, 4 * eps<R>);
-    if (this->HasFatalFailure()) return;
-  }
+  for (char uplo : {'U', 'u', 'L', 'l'})
+    for (int n : sizes)
+      for (int inc : {1, 2, -2}) {
+        TRACE(uplo << " n " << n << " inc " << inc);
+        const R alpha = R(-0.75);
+        Array<R> x(1, n, std::abs(inc) - 1), a(n, n, 2, triangle(uplo));
+        const auto old = a;
+        TestFixture::A::syr(&uplo, &n, &alpha, x.data(), &inc, a.data(), &a.ld);
+        a.expect_kept(old);
+        const auto at = [&](int i) { return Wide(x(0, inc < 0 ? n - 1 - i : i)); };
+        a.expect_near([&](int i, int j) { return old(i, j) + alpha * at(i) * at(j); }, 4 * eps<R>);
+        if (this->HasFatalFailure()) return;
+      }
 }
 
 TYPED_TEST(DenseTest, Syrk) {
   using R = TypeParam;
   const R factors[][2] = {{1, 1}, {R(-0.5), 0}, {0, R(0.5)}, {2, R(-1)}};
-  for (char uplo : {'u', 'L'}) for (char trans : {'N', 't'}) for (int n : sizes)
-  for (int k : {0, 1, 2, 3, 6, 40, 131}) for (auto [alpha, beta] : factors) for (int gap : {0, 3}) {
-    TRACE(uplo << trans << " n " << n << " k " << k << " alpha " << alpha << " beta " << beta);
-    const bool t = transposed(trans);
-    Array<R> a(t ? k : n, t ? n : k, gap), c(n, n, gap, triangle(uplo));
-    if (beta == 0) c.fill([](int, int) { return nan<R>; });
-    if (alpha == 0) a.fill([](int, int) { return nan<R>; });
-    const auto old = c;
-    TestFixture::A::syrk(&uplo, &trans, &n, &k, &alpha, a.data(), &a.ld, &beta, c.data(), &c.ld);
-    c.expect_kept(old);
-    c.expect_near([&](int i, int j) {
-      const Wide product = alpha == 0 ? 0 : sum(k, [&](int l) {
-        return Wide(t ? a(l, i) : a(i, l)) * (t ? a(l, j) : a(j, l)); });
-      return blend(beta, old(i, j), alpha * product);
-    }, sum_error<R>(k));
-    if (this->HasFatalFailure()) return;
-  }
+  for (char uplo : {'u', 'L'})
+    for (char trans : {'N', 't'})
+      for (int n : sizes)
+        for (int k : {0, 1, 2, 3, 6, 40, 131})
+          for (auto [alpha, beta] : factors)
+            for (int gap : {0, 3}) {
+              TRACE(uplo << trans << " n " << n << " k " << k << " alpha " << alpha << " beta "
+                         << beta);
+              const bool t = transposed(trans);
+              Array<R> a(t ? k : n, t ? n : k, gap), c(n, n, gap, triangle(uplo));
+              if (beta == 0) c.fill([](int, int) { return nan<R>; });
+              if (alpha == 0) a.fill([](int, int) { return nan<R>; });
+              const auto old = c;
+              TestFixture::A::syrk(&uplo, &trans, &n, &k, &alpha, a.data(), &a.ld, &beta, c.data(),
+                                   &c.ld);
+              c.expect_kept(old);
+              c.expect_near(
+                  [&](int i, int j) {
+                    const Wide product = alpha == 0 ? 0 : sum(k, [&](int l) {
+                      return Wide(t ? a(l, i) : a(i, l)) * (t ? a(l, j) : a(j, l));
+                    });
+                    return blend(beta, old(i, j), alpha * product);
+                  },
+                  sum_error<R>(k));
+              if (this->HasFatalFailure()) return;
+            }
 }
 
 TYPED_TEST(DenseTest, Symm) {
   using R = TypeParam;
-  for (char side : {'L', 'r'}) for (char uplo : {'U', 'l'}) for (int m : {1, 2, 5, 12, 40})
-  for (int n : {1, 3, 8, 33}) for (R beta : {R(0), R(-1.5)}) {
-    TRACE(side << uplo << " m " << m << " n " << n << " beta " << beta);
-    const bool left = side == 'L';
-    const int order = left ? m : n;
-    const R alpha = R(1.5);
-    Array<R> a(order, order, 1, triangle(uplo)), b(m, n, 2), c(m, n, 3);
-    if (beta == 0) c.fill([](int, int) { return nan<R>; });
-    const auto old = c;
-    TestFixture::A::symm(&side, &uplo, &m, &n, &alpha, a.data(), &a.ld, b.data(), &b.ld, &beta,
-                         c.data(), &c.ld);
-    c.expect_kept(old);
-    c.expect_near([&](int i, int j) {
-      return blend(beta, old(i, j), alpha * sum(order, [&](int k) {
-        return left ? Wide(a.symmetric(i, k)) * b(k, j) : Wide(b(i, k)) * a.symmetric(k, j); }));
-    }, sum_error<R>(order));
-    if (this->HasFatalFailure()) return;
-  }
+  for (char side : {'L', 'r'})
+    for (char uplo : {'U', 'l'})
+      for (int m : {1, 2, 5, 12, 40})
+        for (int n : {1, 3, 8, 33, 900})
+          for (R beta : {R(0), R(-1.5)}) {
+            if (n == 900 && (side != 'L' || m < 40)) continue;  // more than a cached piece of B
+            TRACE(side << uplo << " m " << m << " n " << n << " beta " << beta);
+            const bool left = side == 'L';
+            const int order = left ? m : n;
+            const R alpha = R(1.5);
+            Array<R> a(order, order, 1, triangle(uplo)), b(m, n, 2), c(m, n, 3);
+            if (beta == 0) c.fill([](int, int) { return nan<R>; });
+            const auto old = c;
+            TestFixture::A::symm(&side, &uplo, &m, &n, &alpha, a.data(), &a.ld, b.data(), &b.ld,
+                                 &beta, c.data(), &c.ld);
+            c.expect_kept(old);
+            c.expect_near(
+                [&](int i, int j) {
+                  return blend(beta, old(i, j), alpha * sum(order, [&](int k) {
+                                                  return left ? Wide(a.symmetric(i, k)) * b(k, j)
+                                                              : Wide(b(i, k)) * a.symmetric(k, j);
+                                                }));
+                },
+                sum_error<R>(order));
+            if (this->HasFatalFailure()) return;
+          }
 }
 
 // All four names; packed storage is the same triangle with the gaps taken out.
 TYPED_TEST(DenseTest, Trmm) {
   using R = TypeParam;
-  for (char side : {'L', 'R'}) for (char uplo : {'U', 'l'}) for (char trans : {'N', 'T'})
-  for (char diag : {'N', 'u'}) for (int order : sizes) for (int other : {1, 3, 4, 9, 70})
-  for (R alpha : {R(1), R(-0.5), R(0)}) {
-    TRACE(side << uplo << trans << diag << " order " << order << " by " << other << " alpha " << alpha);
-    const bool left = side == 'L', unit = diag == 'u', t = trans == 'T';
-    const int m = left ? order : other, n = left ? other : order;
-    Array<R> a(order, order, 2, triangle(uplo)), b(m, n, 3);
-    std::vector<R> packed;
-    for (int j = 0; j < order; ++j) {
-      if (unit) a(j, j) = nan<R>;
-      for (int i = 0; i < order; ++i)
-        if (a.inside(i, j)) packed.push_back(a(i, j));
-    }
-    for (int name = 0; name < 4; ++name) {
-      auto x = b;
-      if (name < 3)
-        TestFixture::A::trmm[name](&side, &uplo, &trans, &diag, &m, &n, &alpha, a.data(), &a.ld,
-                                   x.data(), &x.ld);
-      else
-        TestFixture::A::ptrmm(&side, &uplo, &trans, &diag, &m, &n, &alpha, packed.data(),
-                              x.data(), &x.ld);
-      x.expect_kept(b);
-      x.expect_near([&](int i, int j) {
-        const auto op = [&](int p, int q) {
-          return Wide(t ? a.triangular(q, p, unit) : a.triangular(p, q, unit)); };
-        return alpha == 0 ? 0 : alpha * sum(order, [&](int k) {
-          return left ? op(i, k) * b(k, j) : b(i, k) * op(k, j); });
-      }, sum_error<R>(order));
-      if (this->HasFatalFailure()) return;
-    }
-  }
+  for (char side : {'L', 'R'})
+    for (char uplo : {'U', 'l'})
+      for (char trans : {'N', 'T'})
+        for (char diag : {'N', 'u'})
+          for (int order : sizes)
+            for (int other : {1, 3, 4, 9, 70, 900})
+              for (R alpha : {R(1), R(-0.5), R(0)}) {
+                if (other == 900 && (order != 40 || alpha != 1 || diag == 'u'))
+                  continue;  // more than a cached piece of B
+                TRACE(side << uplo << trans << diag << " order " << order << " by " << other
+                           << " alpha " << alpha);
+                const bool left = side == 'L', unit = diag == 'u', t = trans == 'T';
+                const int m = left ? order : other, n = left ? other : order;
+                Array<R> a(order, order, 2, triangle(uplo)), b(m, n, 3);
+                std::vector<R> packed;
+                for (int j = 0; j < order; ++j) {
+                  if (unit) a(j, j) = nan<R>;
+                  for (int i = 0; i < order; ++i)
+                    if (a.inside(i, j)) packed.push_back(a(i, j));
+                }
+                for (int name = 0; name < 4; ++name) {
+                  auto x = b;
+                  if (name < 3)
+                    TestFixture::A::trmm[name](&side, &uplo, &trans, &diag, &m, &n, &alpha,
+                                               a.data(), &a.ld, x.data(), &x.ld);
+                  else
+                    TestFixture::A::ptrmm(&side, &uplo, &trans, &diag, &m, &n, &alpha,
+                                          packed.data(), x.data(), &x.ld);
+                  x.expect_kept(b);
+                  x.expect_near(
+                      [&](int i, int j) {
+                        const auto op = [&](int p, int q) {
+                          return Wide(t ? a.triangular(q, p, unit) : a.triangular(p, q, unit));
+                        };
+                        return alpha == 0 ? 0 : alpha * sum(order, [&](int k) {
+                                                  return left ? op(i, k) * b(k, j)
+                                                              : b(i, k) * op(k, j);
+                                                });
+                      },
+                      sum_error<R>(order));
+                  if (this->HasFatalFailure()) return;
+                }
+              }
 }
 
 // A non-finite row of B spoils only the rows that the triangle links to it.
@@ -295,80 +345,88 @@ Array<R> positive_definite(int n, char uplo, int gap) {
 
 TYPED_TEST(DenseTest, CholeskyAndInverse) {
   using R = TypeParam;
-  for (char uplo : {'U', 'u', 'L'}) for (int n : sizes) for (int gap : {0, 2}) {
-    TRACE(uplo << " n " << n);
-    const auto a = positive_definite<R>(n, uplo, gap);
-    auto f = a;
-    int info = 1;
-    TestFixture::A::potrf(&uplo, &n, f.data(), &f.ld, &info);
-    ASSERT_EQ(0, info);
-    f.expect_kept(a);
-    Array<R> product(n, n, 0, triangle(uplo));
-    product.fill([&](int i, int j) {
-      return R(sum(n, [&](int k) {
-        return uplo == 'L' ? Wide(f.triangular(i, k, false)) * f.triangular(j, k, false)
-                           : Wide(f.triangular(k, i, false)) * f.triangular(k, j, false); }));
-    });
-    product.expect_near([&](int i, int j) { return a(i, j); }, (n + 2) * 4 * eps<R>);
+  for (char uplo : {'U', 'u', 'L'})
+    for (int n : sizes)
+      for (int gap : {0, 2}) {
+        TRACE(uplo << " n " << n);
+        const auto a = positive_definite<R>(n, uplo, gap);
+        auto f = a;
+        int info = 1;
+        TestFixture::A::potrf(&uplo, &n, f.data(), &f.ld, &info);
+        ASSERT_EQ(0, info);
+        f.expect_kept(a);
+        Array<R> product(n, n, 0, triangle(uplo));
+        product.fill([&](int i, int j) {
+          return R(sum(n, [&](int k) {
+            return uplo == 'L' ? Wide(f.triangular(i, k, false)) * f.triangular(j, k, false)
+                               : Wide(f.triangular(k, i, false)) * f.triangular(k, j, false);
+          }));
+        });
+        product.expect_near([&](int i, int j) { return a(i, j); }, (n + 2) * 4 * eps<R>);
 
-    TestFixture::A::potri(&uplo, &n, f.data(), &f.ld, &info);
-    ASSERT_EQ(0, info);
-    f.expect_kept(a);
-    Array<R> identity(n, n, 0);
-    identity.fill([&](int i, int j) {
-      return R(sum(n, [&](int k) { return Wide(a.symmetric(i, k)) * f.symmetric(k, j); }));
-    });
-    identity.expect_near([](int i, int j) { return i == j; }, (n + 2) * 20 * eps<R>);
-    if (this->HasFatalFailure()) return;
-  }
+        TestFixture::A::potri(&uplo, &n, f.data(), &f.ld, &info);
+        ASSERT_EQ(0, info);
+        f.expect_kept(a);
+        Array<R> identity(n, n, 0);
+        identity.fill([&](int i, int j) {
+          return R(sum(n, [&](int k) { return Wide(a.symmetric(i, k)) * f.symmetric(k, j); }));
+        });
+        identity.expect_near([](int i, int j) { return i == j; }, (n + 2) * 20 * eps<R>);
+        if (this->HasFatalFailure()) return;
+      }
 }
 
 TYPED_TEST(DenseTest, CholeskyNamesTheMinor) {
   using R = TypeParam;
-  for (char uplo : {'U', 'L'}) for (int n : {1, 5, 16, 17, 40}) for (int bad : {0, n / 2, n - 1})
-  for (R value : {R(0), R(-1), nan<R>, -std::numeric_limits<R>::infinity()}) {
-    auto a = positive_definite<R>(n, uplo, 1);
-    a(bad, bad) = value;
-    const auto old = a;
-    int info = 0;
-    TestFixture::A::potrf(&uplo, &n, a.data(), &a.ld, &info);
-    EXPECT_EQ(bad + 1, info) << uplo << " n " << n << " value " << value;
-    a.expect_kept(old);
-  }
+  for (char uplo : {'U', 'L'})
+    for (int n : {1, 5, 16, 17, 40})
+      for (int bad : {0, n / 2, n - 1})
+        for (R value : {R(0), R(-1), nan<R>, -std::numeric_limits<R>::infinity()}) {
+          auto a = positive_definite<R>(n, uplo, 1);
+          a(bad, bad) = value;
+          const auto old = a;
+          int info = 0;
+          TestFixture::A::potrf(&uplo, &n, a.data(), &a.ld, &info);
+          EXPECT_EQ(bad + 1, info) << uplo << " n " << n << " value " << value;
+          a.expect_kept(old);
+        }
 }
 
 TYPED_TEST(DenseTest, TriangularInverse) {
   using R = TypeParam;
-  for (char uplo : {'U', 'l'}) for (char diag : {'N', 'U'}) for (int n : sizes) {
-    TRACE(uplo << diag << " n " << n);
-    const bool unit = diag == 'U';
-    Array<R> a(n, n, 2, triangle(uplo));
-    a.fill([&](int i, int j) {
-      return i != j ? draw<R>() / n : unit ? nan<R> : R(1.5) + draw<R>() / 2; });
-    auto x = a;
-    int info = 1;
-    TestFixture::A::trtri(&uplo, &diag, &n, x.data(), &x.ld, &info);
-    ASSERT_EQ(0, info);
-    x.expect_kept(a);
-    Array<R> identity(n, n, 0);
-    identity.fill([&](int i, int j) {
-      return R(sum(n, [&](int k) {
-        return Wide(a.triangular(i, k, unit)) * x.triangular(k, j, unit); }));
-    });
-    identity.expect_near([](int i, int j) { return i == j; }, (n + 2) * 4 * eps<R>);
-    if (unit) continue;
-    for (int zero : {0, n - 1}) {
-      auto s = a;
-      s(zero, zero) = 0;
-      const auto old = s;
-      TestFixture::A::trtri(&uplo, &diag, &n, s.data(), &s.ld, &info);
-      ASSERT_EQ(zero + 1, info);
-      ASSERT_EQ(0, memcmp(s.data(), old.v.data(), old.v.size() * sizeof(R)));
-      TestFixture::A::potri(&uplo, &n, s.data(), &s.ld, &info);
-      ASSERT_EQ(zero + 1, info);
-      ASSERT_EQ(0, memcmp(s.data(), old.v.data(), old.v.size() * sizeof(R)));
-    }
-  }
+  for (char uplo : {'U', 'l'})
+    for (char diag : {'N', 'U'})
+      for (int n : sizes) {
+        TRACE(uplo << diag << " n " << n);
+        const bool unit = diag == 'U';
+        Array<R> a(n, n, 2, triangle(uplo));
+        a.fill([&](int i, int j) {
+          return i != j ? draw<R>() / n : unit ? nan<R> : R(1.5) + draw<R>() / 2;
+        });
+        auto x = a;
+        int info = 1;
+        TestFixture::A::trtri(&uplo, &diag, &n, x.data(), &x.ld, &info);
+        ASSERT_EQ(0, info);
+        x.expect_kept(a);
+        Array<R> identity(n, n, 0);
+        identity.fill([&](int i, int j) {
+          return R(sum(
+              n, [&](int k) { return Wide(a.triangular(i, k, unit)) * x.triangular(k, j, unit); }));
+        });
+        identity.expect_near([](int i, int j) { return i == j; }, (n + 2) * 4 * eps<R>);
+        if (unit) continue;
+        for (int zero : {0, n - 1}) {
+          auto s = a;
+          s(zero, zero) = 0;
+          const auto old = s;
+          TestFixture::A::trtri(&uplo, &diag, &n, s.data(), &s.ld, &info);
+          ASSERT_EQ(zero + 1, info);
+          ASSERT_EQ(0, memcmp(s.data(), old.v.data(), old.v.size() * sizeof(R)));
+          TestFixture::A::potri(&uplo, &n, s.data(), &s.ld, &info);
+          ASSERT_EQ(zero + 1, info);
+          ASSERT_EQ(0, memcmp(s.data(), old.v.data(), old.v.size() * sizeof(R)));
+        }
+      }
 }
 
 // Both eigenvalue routines under one call: the packed one gets the triangle without gaps.
@@ -401,53 +459,57 @@ int eigen(bool packed, char job, char uplo, Array<R>& a, std::vector<R>& w, Arra
 TYPED_TEST(DenseTest, Eigenvectors) {
   using R = TypeParam;
   const R low = std::numeric_limits<R>::min() * 1024, high = std::numeric_limits<R>::max() / 1024;
-  for (bool packed : {false, true}) for (char uplo : {'U', 'L'}) for (int n : sizes)
-  for (int gap : {0, 3}) for (R scale : {R(1), low, high}) {
-    TRACE((packed ? "packed " : "full ") << uplo << " n " << n << " gap " << gap << " scale " << scale);
-    Array<R> a(n, n, gap, triangle(uplo));
-    a.fill([&](int, int) { return draw<R>() * scale; });
-    const auto old = a;
-    Array<R> z(n, n, gap);
-    std::vector<R> w, values;
-    auto kept = a;
-    ASSERT_EQ(0, eigen(packed, 'N', uplo, kept, values, z));
-    kept.expect_kept(old);
-    ASSERT_EQ(0, eigen(packed, 'V', uplo, a, w, z));
-    a.inside = everywhere;
-    a.expect_kept(old);
-    const Wide tolerance = (n + 2) * 8 * eps<R>;
-    for (int k = 0; k < n; ++k) {
-      ASSERT_LE(w[std::max(k - 1, 0)], w[k]);
-      ASSERT_LE(std::fabs(Wide(w[k]) - values[k]), tolerance * scale);
-      for (int i = 0; i < n; ++i) {
-        const Wide av = sum(n, [&](int j) { return Wide(old.symmetric(i, j)) * z(j, k); });
-        ASSERT_LE(std::fabs(av - Wide(w[k]) * z(i, k)), tolerance * scale);
-        const Wide dot = sum(n, [&](int j) { return Wide(z(j, i)) * z(j, k); });
-        ASSERT_LE(std::fabs(dot - (i == k)), tolerance);
-      }
-    }
-  }
+  for (bool packed : {false, true})
+    for (char uplo : {'U', 'L'})
+      for (int n : sizes)
+        for (int gap : {0, 3})
+          for (R scale : {R(1), low, high}) {
+            TRACE((packed ? "packed " : "full ")
+                  << uplo << " n " << n << " gap " << gap << " scale " << scale);
+            Array<R> a(n, n, gap, triangle(uplo));
+            a.fill([&](int, int) { return draw<R>() * scale; });
+            const auto old = a;
+            Array<R> z(n, n, gap);
+            std::vector<R> w, values;
+            auto kept = a;
+            ASSERT_EQ(0, eigen(packed, 'N', uplo, kept, values, z));
+            kept.expect_kept(old);
+            ASSERT_EQ(0, eigen(packed, 'V', uplo, a, w, z));
+            a.inside = everywhere;
+            a.expect_kept(old);
+            const Wide tolerance = (n + 2) * 8 * eps<R>;
+            for (int k = 0; k < n; ++k) {
+              ASSERT_LE(w[std::max(k - 1, 0)], w[k]);
+              ASSERT_LE(std::fabs(Wide(w[k]) - values[k]), tolerance * scale);
+              for (int i = 0; i < n; ++i) {
+                const Wide av = sum(n, [&](int j) { return Wide(old.symmetric(i, j)) * z(j, k); });
+                ASSERT_LE(std::fabs(av - Wide(w[k]) * z(i, k)), tolerance * scale);
+                const Wide dot = sum(n, [&](int j) { return Wide(z(j, i)) * z(j, k); });
+                ASSERT_LE(std::fabs(dot - (i == k)), tolerance);
+              }
+            }
+          }
 }
 
 // The second-difference matrix of order n has the eigenvalues 4 sin^2(k pi / (2n + 2)).
 TYPED_TEST(DenseTest, EigenvaluesKnown) {
   using R = TypeParam;
-  for (bool packed : {false, true}) for (int n : {1, 2, 3, 40, 100}) {
-    Array<R> a(n, n, 0, triangle('L')), z(n, n, 0);
-    a.fill([](int i, int j) { return i == j ? R(2) : i == j + 1 ? R(-1) : R(0); });
-    std::vector<R> w;
-    ASSERT_EQ(0, eigen(packed, 'N', 'L', a, w, z));
-    for (int k = 0; k < n; ++k) {
-      const Wide s = std::sin((k + 1) * 3.14159265358979323846L / (2 * n + 2));
-      EXPECT_NEAR(w[k], 4 * s * s, 4 * n * eps<R>)
-          << n << " " << k;
+  for (bool packed : {false, true})
+    for (int n : {1, 2, 3, 40, 100}) {
+      Array<R> a(n, n, 0, triangle('L')), z(n, n, 0);
+      a.fill([](int i, int j) { return i == j ? R(2) : i == j + 1 ? R(-1) : R(0); });
+      std::vector<R> w;
+      ASSERT_EQ(0, eigen(packed, 'N', 'L', a, w, z));
+      for (int k = 0; k < n; ++k) {
+        const Wide s = std::sin((k + 1) * 3.14159265358979323846L / (2 * n + 2));
+        EXPECT_NEAR(w[k], 4 * s * s, 4 * n * eps<R>) << n << " " << k;
+      }
+      a.fill([](int i, int j) { return i == 0 && j == 0 ? nan<R> : R(1); });
+      EXPECT_GT(eigen(packed, 'V', 'L', a, w, z), 0);
+      a.fill([](int, int) { return R(0); });
+      ASSERT_EQ(0, eigen(packed, 'V', 'L', a, w, z));
+      EXPECT_EQ(0, w[n - 1]);
     }
-    a.fill([](int i, int j) { return i == 0 && j == 0 ? nan<R> : R(1); });
-    EXPECT_GT(eigen(packed, 'V', 'L', a, w, z), 0);
-    a.fill([](int, int) { return R(0); });
-    ASSERT_EQ(0, eigen(packed, 'V', 'L', a, w, z));
-    EXPECT_EQ(0, w[n - 1]);
-  }
 }
 
 // A block that no 32-bit process can have, one of them beyond 2^32 bytes; nothing is read.
@@ -472,7 +534,8 @@ struct System {
 
   System(int n, int nrhs, R diagonal, int gap)
       : n(n), ld(n + gap), dl(n), d(n), du(n), x(n, nrhs, gap), b(n, nrhs, gap) {
-    for (int i = 0; i < n; ++i) dl[i] = draw<R>(), du[i] = draw<R>(), d[i] = diagonal + draw<R>() / 4;
+    for (int i = 0; i < n; ++i)
+      dl[i] = draw<R>(), du[i] = draw<R>(), d[i] = diagonal + draw<R>() / 4;
     dl[n - 1] = du[n - 1] = nan<R>;  // one past their ends
     multiply();
   }
@@ -487,41 +550,45 @@ struct System {
 
 TYPED_TEST(DenseTest, Tridiagonal) {
   using R = TypeParam;
-  for (int n : sizes) for (int nrhs : {0, 1, 3, 4, 7}) for (R diagonal : {R(3), R(0)}) {
-    TRACE("n " << n << " nrhs " << nrhs << " diagonal near " << diagonal);
-    const System<R> s(n, nrhs, diagonal, 2);
-    const int ld = s.ld;
-    int info = 1;
-    auto t = s;
-    TestFixture::A::tsvb(&n, &nrhs, t.dl.data(), t.d.data(), t.du.data(), t.b.data(), &ld, &info);
-    ASSERT_EQ(0, info);
-    t.b.expect_kept(s.b);
-    EXPECT_TRUE(std::isnan(t.dl[n - 1]) && std::isnan(t.du[n - 1]));
-    // A backward stable solver leaves a residual of the rounding of T times the solution.
-    for (int j = 0; j < nrhs; ++j) {
-      Wide largest = 1;
-      for (int i = 0; i < n; ++i) largest = std::max(largest, std::fabs(Wide(t.b(i, j))));
-      for (int i = 0; i < n; ++i)
-        ASSERT_LE(std::fabs(s.row(t.b, i, j) - s.b(i, j)), 40 * eps<R> * largest) << i;
-    }
-    if (diagonal == 0) continue;
+  for (int n : sizes)
+    for (int nrhs : {0, 1, 3, 4, 7})
+      for (R diagonal : {R(3), R(0)}) {
+        TRACE("n " << n << " nrhs " << nrhs << " diagonal near " << diagonal);
+        const System<R> s(n, nrhs, diagonal, 2);
+        const int ld = s.ld;
+        int info = 1;
+        auto t = s;
+        TestFixture::A::tsvb(&n, &nrhs, t.dl.data(), t.d.data(), t.du.data(), t.b.data(), &ld,
+                             &info);
+        ASSERT_EQ(0, info);
+        t.b.expect_kept(s.b);
+        EXPECT_TRUE(std::isnan(t.dl[n - 1]) && std::isnan(t.du[n - 1]));
+        // A backward stable solver leaves a residual of the rounding of T times the solution.
+        for (int j = 0; j < nrhs; ++j) {
+          Wide largest = 1;
+          for (int i = 0; i < n; ++i) largest = std::max(largest, std::fabs(Wide(t.b(i, j))));
+          for (int i = 0; i < n; ++i)
+            ASSERT_LE(std::fabs(s.row(t.b, i, j) - s.b(i, j)), 40 * eps<R> * largest) << i;
+        }
+        if (diagonal == 0) continue;
 
-    auto f = s;
-    TestFixture::A::ttrfb(&n, f.dl.data(), f.d.data(), f.du.data(), &info);
-    ASSERT_EQ(0, info);
-    EXPECT_TRUE(std::isnan(f.dl[n - 1]) && std::isnan(f.du[n - 1]));
-    const auto solve = [&](int columns, R* b) {
-      TestFixture::A::ttrsb("N", &n, &columns, f.dl.data(), f.d.data(), f.du.data(), b, &ld, &info);
-      ASSERT_EQ(0, info);
-    };
-    auto alone = f.b;
-    solve(nrhs, f.b.data());
-    f.b.expect_kept(s.b);
-    f.b.expect_near([&](int i, int j) { return s.x(i, j); }, 20 * eps<R>);
-    for (int j = 0; j < nrhs; ++j) solve(1, &alone(0, j));
-    EXPECT_EQ(0, memcmp(alone.data(), f.b.data(), alone.v.size() * sizeof(R)));
-    if (this->HasFatalFailure()) return;
-  }
+        auto f = s;
+        TestFixture::A::ttrfb(&n, f.dl.data(), f.d.data(), f.du.data(), &info);
+        ASSERT_EQ(0, info);
+        EXPECT_TRUE(std::isnan(f.dl[n - 1]) && std::isnan(f.du[n - 1]));
+        const auto solve = [&](int columns, R* b) {
+          TestFixture::A::ttrsb("N", &n, &columns, f.dl.data(), f.d.data(), f.du.data(), b, &ld,
+                                &info);
+          ASSERT_EQ(0, info);
+        };
+        auto alone = f.b;
+        solve(nrhs, f.b.data());
+        f.b.expect_kept(s.b);
+        f.b.expect_near([&](int i, int j) { return s.x(i, j); }, 20 * eps<R>);
+        for (int j = 0; j < nrhs; ++j) solve(1, &alone(0, j));
+        EXPECT_EQ(0, memcmp(alone.data(), f.b.data(), alone.v.size() * sizeof(R)));
+        if (this->HasFatalFailure()) return;
+      }
 }
 
 // The rows of a spline whose end pieces are one cubic with their neighbours: not dominated
@@ -542,13 +609,15 @@ TYPED_TEST(DenseTest, TridiagonalSpline) {
     int info = 1;
     TestFixture::A::ttrfb(&n, f.dl.data(), f.d.data(), f.du.data(), &info);
     ASSERT_EQ(0, info);
-    TestFixture::A::ttrsb("n", &n, &one, f.dl.data(), f.d.data(), f.du.data(), f.b.data(), &n, &info);
+    TestFixture::A::ttrsb("n", &n, &one, f.dl.data(), f.d.data(), f.du.data(), f.b.data(), &n,
+                          &info);
     ASSERT_EQ(0, info);
     for (int i = 0; i < n; ++i) {
       const Wide scale = std::fabs(s.d[i]) + (i > 0 ? s.dl[i - 1] : 0) + (i + 1 < n ? s.du[i] : 0);
       Wide largest = 0;
       for (int k = 0; k < n; ++k) largest = std::max(largest, std::fabs(Wide(f.b(k, 0))));
-      EXPECT_LE(std::fabs(s.row(f.b, i, 0) - s.b(i, 0)), 40 * eps<R> * scale * largest) << n << " " << i;
+      EXPECT_LE(std::fabs(s.row(f.b, i, 0) - s.b(i, 0)), 40 * eps<R> * scale * largest)
+          << n << " " << i;
     }
   }
 }
@@ -556,7 +625,10 @@ TYPED_TEST(DenseTest, TridiagonalSpline) {
 TYPED_TEST(DenseTest, TridiagonalSingular) {
   using R = TypeParam;
   const int n = 3, one = 1;
-  const struct { R dl[2], d[3], du[2]; int solved, factored; } cases[] = {
+  const struct {
+    R dl[2], d[3], du[2];
+    int solved, factored;
+  } cases[] = {
       {{0, 0}, {0, 1, 1}, {0, 0}, 1, 1},  // empty first column
       {{1, 0}, {0, 0, 1}, {1, 0}, 0, 1},  // regular, but not without an interchange
       {{1, 2}, {1, 4, 1}, {2, 1}, 3, 3},  // last row = second row - first row
@@ -585,7 +657,10 @@ TYPED_TEST(DenseTest, WrongArguments) {
   R* const q = b.data();
   R* const r = c.data();
   int info = 0;
-  const struct { int expected; std::function<void()> call; } cases[] = {
+  const struct {
+    int expected;
+    std::function<void()> call;
+  } cases[] = {
       {-1, [&] { A::potrf("x", &n, p, &n, &info); }},
       {-2, [&] { A::potrf("U", &minus, p, &n, &info); }},
       {-4, [&] { A::potrf("U", &n, p, &small, &info); }},
@@ -597,9 +672,14 @@ TYPED_TEST(DenseTest, WrongArguments) {
       {-3, [&] { A::syev("V", "U", &minus, p, &n, q, r, &lwork, &info); }},
       {-5, [&] { A::syev("V", "U", &n, p, &small, q, r, &lwork, &info); }},
       {-8, [&] { A::syev("V", "U", &n, p, &n, q, r, &small, &info); }},
-      {-7, [&] { A::spevd("V", "U", &n, p, q, r, &small, work.data(), &lwork, iwork.data(), &liwork, &info); }},
-      {-9, [&] { A::spevd("V", "U", &n, p, q, r, &n, work.data(), &n, iwork.data(), &liwork, &info); }},
-      {-11, [&] { A::spevd("V", "U", &n, p, q, r, &n, work.data(), &lwork, iwork.data(), &n, &info); }},
+      {-7,
+       [&] {
+         A::spevd("V", "U", &n, p, q, r, &small, work.data(), &lwork, iwork.data(), &liwork, &info);
+       }},
+      {-9,
+       [&] { A::spevd("V", "U", &n, p, q, r, &n, work.data(), &n, iwork.data(), &liwork, &info); }},
+      {-11,
+       [&] { A::spevd("V", "U", &n, p, q, r, &n, work.data(), &lwork, iwork.data(), &n, &info); }},
       {-1, [&] { A::tsvb(&minus, &n, p, q, r, work.data(), &n, &info); }},
       {-2, [&] { A::tsvb(&n, &minus, p, q, r, work.data(), &n, &info); }},
       {-7, [&] { A::tsvb(&n, &n, p, q, r, work.data(), &small, &info); }},

@@ -1,7 +1,8 @@
 // Both threader tables keep the same promises.
 #include "ork/threader.h"
 
-#include <omp.h>
+#include <dlfcn.h>
+
 #include <atomic>
 #include <chrono>
 #include <thread>
@@ -9,6 +10,10 @@
 #include "ork/serv.h"
 
 namespace {
+
+// OpenMP, if the library was built with it.
+void (*const set_nested_levels)(int) =
+    reinterpret_cast<void (*)(int)>(dlsym(RTLD_DEFAULT, "omp_set_max_active_levels"));
 
 class ThreaderTest : public testing::TestWithParam<const ork_threader*> {
  protected:
@@ -20,7 +25,7 @@ struct Launch {
   int threads;  // bound of the thread number
   std::vector<std::atomic<int>> runs;
   std::atomic<bool> failed{false};
-  std::vector<int> order;           // what the ordered bodies saw
+  std::vector<int> order;  // what the ordered bodies saw
   bool skip_odd = false;
   Launch(const ork_threader* table, int threads, int count)
       : table(table), threads(threads), runs(count) {}
@@ -42,7 +47,7 @@ TEST_P(ThreaderTest, EachItemOnce) {
   const int own = table.max_threads();
   ASSERT_GE(own, 1);
   for (auto slot : {table.parallel_for, table.ordered_for})
-    for (int threads : {0, 1, 2, 3, 7})
+    for (int threads : {0, 1, 3})
       for (int count : {0, 1, 2, 5, 100}) {
         Launch launch(&table, threads == 0 ? own : threads, count);
         slot(count, threads, &launch, count_item);
@@ -95,7 +100,7 @@ TEST_P(ThreaderTest, OrderedBodiesAscend) {
 
 TEST_P(ThreaderTest, LaunchInsideLaunch) {
   for (int levels : {1, 2}) {  // without and with nested teams
-    omp_set_max_active_levels(levels);
+    if (set_nested_levels != nullptr) set_nested_levels(levels);
     struct Outer {
       const ork_threader* table;
       std::atomic<int> good{0};
@@ -114,7 +119,7 @@ TEST_P(ThreaderTest, LaunchInsideLaunch) {
     });
     EXPECT_EQ(6, outer.good);
   }
-  omp_set_max_active_levels(1);
+  if (set_nested_levels != nullptr) set_nested_levels(1);
 }
 
 TEST_P(ThreaderTest, BodiesMayAllocate) {
@@ -144,6 +149,7 @@ INSTANTIATE_TEST_SUITE_P(Tables, ThreaderTest,
                          });
 
 TEST(ParallelThreader, UsesSeveralThreads) {
+  if (set_nested_levels == nullptr) GTEST_SKIP() << "built without OpenMP";
   // Two bodies that each wait for the other end only if both run at once.
   struct Meeting {
     std::atomic<int> arrived{0}, met{0};
@@ -152,7 +158,8 @@ TEST(ParallelThreader, UsesSeveralThreads) {
     auto& meeting = *static_cast<Meeting*>(context);
     ++meeting.arrived;
     const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-    while (meeting.arrived < 2 && std::chrono::steady_clock::now() < limit) std::this_thread::yield();
+    while (meeting.arrived < 2 && std::chrono::steady_clock::now() < limit)
+      std::this_thread::yield();
     meeting.met += meeting.arrived == 2;
   });
   EXPECT_EQ(2, meeting.met);
