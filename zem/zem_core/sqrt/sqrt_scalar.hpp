@@ -18,7 +18,7 @@ template <class C> int sqrt_scalar(const typename C::type* x, typename C::type* 
   if (a == 0 || image(x) == infinity_bits<T>) {
     __builtin_memcpy(r, x, sizeof(T));
   } else if (a > infinity_bits<T>) {
-    *r = *x * T(1);
+    *r = *x + *x;  // quiet
   } else if (sign(x)) {
     const bits_of<T> nan = domain_nan<T>;
     __builtin_memcpy(r, &nan, sizeof(T));
