@@ -47,6 +47,7 @@ template <class C> int cbrt_scalar(const typename C::type* x, typename C::type* 
 template <Level level> struct CbrtD : Core<double> {
   static constexpr char name[] = "vdCbrt";
   static constexpr bool inverse = false;
+  static constexpr int vectors = 1;
 
   static f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_normal(x);

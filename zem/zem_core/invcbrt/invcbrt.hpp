@@ -34,6 +34,7 @@ template <class C> int invcbrt_scalar(const typename C::type* x, typename C::typ
 struct InvCbrtD : Core<double> {
   static constexpr char name[] = "vdInvCbrt";
   static constexpr bool inverse = true;
+  static constexpr int vectors = 1;
 
   static f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_normal(x);

@@ -23,7 +23,6 @@ inline constexpr char sinvcbrt_name[] = "vsInvCbrt";
 struct InvCbrtHaS : Core<float> {
   static constexpr auto& name = sinvcbrt_name;
   static constexpr bool inverse = true;
-  static constexpr int vectors = 1;
 
   static f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);

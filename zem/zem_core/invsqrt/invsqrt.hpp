@@ -10,7 +10,6 @@ namespace ork {
 // Fast: positive normal x. A denormal is brought into range by 2^54, its result back by 2^27.
 template <Level level> struct InvSqrtD : Core<double> {
   static constexpr char name[] = "vdInvSqrt";
-  static constexpr int vectors = level == Level::ha ? 2 : 4;
 
   static f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_positive_normal(x);

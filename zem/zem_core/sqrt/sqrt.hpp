@@ -11,7 +11,6 @@ namespace ork {
 // Fast: positive normal x, and at HA and LA zeros, whose seed is 0.
 template <Level level> struct SqrtD : Core<double> {
   static constexpr char name[] = "vdSqrt";
-  static constexpr int vectors = level == Level::ha ? 2 : 4;
 
   static f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 y0 = rsqrt_seed(x);
