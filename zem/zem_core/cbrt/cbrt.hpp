@@ -49,7 +49,7 @@ template <Level level> struct CbrtD : Core<double> {
   static constexpr bool inverse = false;
   static constexpr int vectors = 1;
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_normal(x);
     const auto [difference, s, row] = CbrtReducedD::of<inverse>(x);
     if constexpr (level == Level::ha) {

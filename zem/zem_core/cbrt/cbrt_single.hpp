@@ -24,9 +24,10 @@ ORK_INLINE f32x4 cbrt_in_double(const CbrtReducedS& x, const CbrtPair<double>* t
 template <Level level> struct CbrtS : Core<float> {
   static constexpr char name[] = "vsCbrt";
   static constexpr bool inverse = false;
+  static constexpr int vectors = 1;
   static constexpr int terms = level == Level::ha ? 4 : level == Level::la ? 3 : 1;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);
     return cbrt_in_double<terms>(CbrtReducedS::of<inverse>(x), cbrt_pairs, cbrt_series);
   }

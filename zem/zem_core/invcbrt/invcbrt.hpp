@@ -36,7 +36,7 @@ struct InvCbrtD : Core<double> {
   static constexpr bool inverse = true;
   static constexpr int vectors = 1;
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_normal(x);
     const auto [difference, s, row] = CbrtReducedD::of<inverse>(x);
     const f64x2 t0 = load_aligned(invcbrt_rows[row[0]]), t1 = load_aligned(invcbrt_rows[row[1]]);

@@ -23,8 +23,9 @@ inline constexpr char sinvcbrt_name[] = "vsInvCbrt";
 struct InvCbrtHaS : Core<float> {
   static constexpr auto& name = sinvcbrt_name;
   static constexpr bool inverse = true;
+  static constexpr int vectors = 1;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);
     return cbrt_in_double<4>(CbrtReducedS::of<inverse>(x), invcbrt_pairs, invcbrt_series);
   }
@@ -36,9 +37,10 @@ struct InvCbrtHaS : Core<float> {
 template <Level level> struct InvCbrtS : Core<float> {
   static constexpr auto& name = sinvcbrt_name;
   static constexpr bool inverse = true;
+  static constexpr int vectors = 1;
   static constexpr int terms = level == Level::la ? 3 : 1;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);
     const auto [difference, s, row] = CbrtReducedS::of<inverse>(x);
     const auto two_rows = [](unsigned i, unsigned k) {

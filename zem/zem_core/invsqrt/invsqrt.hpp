@@ -11,7 +11,7 @@ namespace ork {
 template <Level level> struct InvSqrtD : Core<double> {
   static constexpr char name[] = "vdInvSqrt";
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_positive_normal(x);
     const f64x2 y0 = rsqrt_seed(x), s = y0 * y0;
     f64x2 e;

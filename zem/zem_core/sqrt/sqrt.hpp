@@ -12,7 +12,7 @@ namespace ork {
 template <Level level> struct SqrtD : Core<double> {
   static constexpr char name[] = "vdSqrt";
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 y0 = rsqrt_seed(x);
     if constexpr (level == Level::ep) {
       rare |= not_positive_normal(x);
