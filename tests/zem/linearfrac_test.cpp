@@ -13,7 +13,8 @@ void linear_frac(int n, const float* a, const float* b, const float* s, float* r
   _zemsLinearFrac(n, a, b, s[0], s[1], s[2], s[3], r);
 }
 
-template <class T> class LinearFrac : public testing::Test {
+template <class T>
+class LinearFrac : public testing::Test {
  protected:
   StateGuard guard;
   LinearFrac() { ork_zem_kernel_ClearErrStatus(); }
@@ -27,9 +28,12 @@ template <class T> class LinearFrac : public testing::Test {
       const T numerator = s[0] == 0 && s[2] != 0 ? s[1] : s[0] * a[i] + s[1];
       const T want = numerator / (s[2] == 0 ? s[3] : s[2] * b[i] + s[3]);
       if (std::isnan(want) || std::isinf(want))
-        ASSERT_TRUE(std::isnan(want) ? std::isnan(r[i]) : r[i] == want) << i << ": " << r[i] << " not " << want;
+        ASSERT_TRUE(std::isnan(want) ? std::isnan(r[i]) : r[i] == want)
+            << i << ": " << r[i] << " not " << want;
       else
-        ASSERT_LE(std::fabs(r[i] - want), epsilons * std::numeric_limits<T>::epsilon() * std::fabs(want) + smallest_denormal<T>)
+        ASSERT_LE(
+            std::fabs(r[i] - want),
+            epsilons * std::numeric_limits<T>::epsilon() * std::fabs(want) + smallest_denormal<T>)
             << "(" << a[i] << ", " << b[i] << "): " << r[i] << " not " << want;
     }
   }
@@ -46,15 +50,15 @@ TYPED_TEST(LinearFrac, GeneralCase) {
   }
   this->check(a, b, {T(1.5), T(0.25), T(0.75), T(3)}, 4);
   this->check(a, b, {T(-2), T(0), T(1), T(0)}, 4);
-  this->check(a, b, {T(0), T(7), T(3), T(1)}, 4);        // constant numerator
-  this->check(a, b, {T(0.3), T(7), T(0), T(-1.7)}, 0);   // constant denominator
+  this->check(a, b, {T(0), T(7), T(3), T(1)}, 4);       // constant numerator
+  this->check(a, b, {T(0.3), T(7), T(0), T(-1.7)}, 0);  // constant denominator
 }
 
 // Each in every lane of blocks and tail; its neighbours in the block stay right.
 TYPED_TEST(LinearFrac, DenominatorsOutsideTheSharedDivision) {
   using T = TypeParam;
-  for (const T d : {T(0), -T(0), inf<T>, -inf<T>, quiet_nan<T>, smallest_denormal<T>, largest<T>, -largest<T>,
-                    largest<T> / 2, smallest_normal<T>})
+  for (const T d : {T(0), -T(0), inf<T>, -inf<T>, quiet_nan<T>, smallest_denormal<T>, largest<T>,
+                    -largest<T>, largest<T> / 2, smallest_normal<T>})
     for (int place = 0; place < 35; ++place) {
       std::vector<T> a(35, T(3)), b(35, T(7));
       b[size_t(place)] = d;
@@ -66,7 +70,8 @@ TYPED_TEST(LinearFrac, DenominatorsOutsideTheSharedDivision) {
 // An infinite input does not meet a zero scale: the constant stands alone.
 TYPED_TEST(LinearFrac, ZeroScales) {
   using T = TypeParam;
-  const std::vector<T> wild = {inf<T>, quiet_nan<T>, 1, 2, 3, 4, -inf<T>, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+  const std::vector<T> wild = {inf<T>, quiet_nan<T>, 1,  2,  3,  4,  -inf<T>, 5, 6, 7, 8,
+                               9,      10,           11, 12, 13, 14, 15};
   const std::vector<T> tame(wild.size(), T(2));
   this->check(wild, tame, {T(0), T(1), T(1), T(1)}, 4);
   this->check(tame, wild, {T(1), T(1), T(0), T(4)}, 0);
@@ -81,7 +86,8 @@ TYPED_TEST(LinearFrac, OnesGiveOneAtAnySize) {
     std::vector<T> r(37);
     const T ones[4] = {1, 1, 1, 1};
     linear_frac(37, a.data(), a.data(), ones, r.data());
-    for (const T y : r) ASSERT_NEAR(double(y), 1, 4 * double(std::numeric_limits<T>::epsilon())) << x;
+    for (const T y : r)
+      ASSERT_NEAR(double(y), 1, 4 * double(std::numeric_limits<T>::epsilon())) << x;
   }
 }
 

@@ -1,12 +1,13 @@
 // Pack and unpack against one plain loop, in both widths and through the stubs.
-#include "support/pch.hpp"
-#include "support/bits.hpp"
 #include "ork/zem_kernels.h"
+#include "support/bits.hpp"
+#include "support/pch.hpp"
 
 namespace {
 
 // The six kernels of a type and their stubs, as functions of bytes.
-template <class T> struct Kernels {
+template <class T>
+struct Kernels {
   using I = void (*)(int32_t, int32_t, const T*, int32_t, int32_t, T*, int);
   using M = void (*)(int32_t, int32_t, const T*, const void*, T*, int);
   using U = void (*)(int32_t, int32_t, const T*, T*, int32_t, int32_t, int);
@@ -18,15 +19,20 @@ template <class T> struct Kernels {
   U unpack_i;
   N unpack_m, unpack_v;
 };
-#define KERNELS(t, parts)                                                                          \
-  {"table " #t, parts, ork_zem_kernel_##t##PackI_ttab[1], ork_zem_kernel_##t##PackM_ttab[0],       \
-   ork_zem_kernel_##t##PackV_ttab[2], ork_zem_kernel_##t##UnpackI_ttab[0],                         \
-   ork_zem_kernel_##t##UnpackM_ttab[1], ork_zem_kernel_##t##UnpackV_ttab[2]}
-#define STUBS(t, parts, low, fast)                                                           \
-  {"stub " #t, parts, _zem##t##PackI, _zem##t##PackM##low, _zem##t##PackV##fast,             \
-   _zem##t##UnpackI_HA, _zem##t##UnpackM##fast, _zem##t##UnpackV##low}
+#define KERNELS(t, parts)                                                                     \
+  {                                                                                           \
+    "table " #t, parts, ork_zem_kernel_##t##PackI_ttab[1], ork_zem_kernel_##t##PackM_ttab[0], \
+        ork_zem_kernel_##t##PackV_ttab[2], ork_zem_kernel_##t##UnpackI_ttab[0],               \
+        ork_zem_kernel_##t##UnpackM_ttab[1], ork_zem_kernel_##t##UnpackV_ttab[2]              \
+  }
+#define STUBS(t, parts, low, fast)                                                \
+  {                                                                               \
+    "stub " #t, parts, _zem##t##PackI, _zem##t##PackM##low, _zem##t##PackV##fast, \
+        _zem##t##UnpackI_HA, _zem##t##UnpackM##fast, _zem##t##UnpackV##low        \
+  }
 
-template <class T> class Pack : public testing::Test {
+template <class T>
+class Pack : public testing::Test {
  protected:
   static std::vector<Kernels<T>> all() {
     if constexpr (sizeof(T) == 8)
@@ -58,12 +64,15 @@ struct Entries {
   Entries(const std::vector<int32_t>& low, uint32_t high) : narrow(low) {
     for (const int32_t x : low) wide.push_back(uint64_t(high) << 32 | uint32_t(x));
   }
-  const void* at(int width) const { return width == 1 ? static_cast<const void*>(narrow.data()) : wide.data(); }
+  const void* at(int width) const {
+    return width == 1 ? static_cast<const void*>(narrow.data()) : wide.data();
+  }
 };
 
 TYPED_TEST(Pack, GatherAndScatter) {
   using T = TypeParam;
-  const std::vector<int32_t> pattern = {1, 0, -1, 0, 0, 1 << 30, 1, 1}, places = {3, 0, 7, 3, 15, 1, 1, 2};
+  const std::vector<int32_t> pattern = {1, 0, -1, 0, 0, 1 << 30, 1, 1},
+                             places = {3, 0, 7, 3, 15, 1, 1, 2};
   const int n = 8;
   for (const auto& k : this->all())
     for (const int width : {1, 0, 64}) {
@@ -76,7 +85,9 @@ TYPED_TEST(Pack, GatherAndScatter) {
       const size_t size = a.size();
       for (const int stride : {0, 1, 2, 3}) {
         std::vector<T> y(size), want(size), z(size), want_z(size);
-        for (int i = 0; i < n; ++i) this->copy(want, i, a, i * stride, k.parts), this->copy(want_z, i * stride, a, i, k.parts);
+        for (int i = 0; i < n; ++i)
+          this->copy(want, i, a, i * stride, k.parts),
+              this->copy(want_z, i * stride, a, i, k.parts);
         k.pack_i(n, high, a.data(), stride, high, y.data(), width);
         k.unpack_i(n, high, a.data(), z.data(), stride, high, width);
         EXPECT_EQ(y, want) << "stride " << stride;
@@ -84,14 +95,16 @@ TYPED_TEST(Pack, GatherAndScatter) {
       }
       std::vector<T> y(size), want(size), z(size), want_z(size);
       for (int i = 0, j = 0; i < n; ++i)
-        if (pattern[size_t(i)]) this->copy(want, j, a, i, k.parts), this->copy(want_z, i, a, j++, k.parts);
+        if (pattern[size_t(i)])
+          this->copy(want, j, a, i, k.parts), this->copy(want_z, i, a, j++, k.parts);
       k.pack_m(n, high, a.data(), mask.at(entries), y.data(), width);
       k.unpack_m(n, high, a.data(), z.data(), mask.at(entries), width);
       EXPECT_EQ(y, want) << "mask";
       EXPECT_EQ(z, want_z) << "mask";
       want.assign(size, 0), want_z.assign(size, 0), y.assign(size, 0), z.assign(size, 0);
       for (int i = 0; i < n; ++i)
-        this->copy(want, i, a, places[size_t(i)], k.parts), this->copy(want_z, places[size_t(i)], a, i, k.parts);
+        this->copy(want, i, a, places[size_t(i)], k.parts),
+            this->copy(want_z, places[size_t(i)], a, i, k.parts);
       k.pack_v(n, high, a.data(), index.at(entries), y.data(), width);
       k.unpack_v(n, high, a.data(), z.data(), index.at(entries), width);
       EXPECT_EQ(y, want) << "index";
@@ -104,7 +117,8 @@ TYPED_TEST(Pack, NegativeStridesWalkBackward) {
     for (const int width : {1, 2}) {
       const auto a = this->source(12, k.parts);
       std::vector<TypeParam> y(a.size()), z(a.size()), want(a.size()), want_z(a.size());
-      for (int i = 0; i < 4; ++i) this->copy(want, i, a, 11 - 3 * i, k.parts), this->copy(want_z, 11 - 3 * i, a, i, k.parts);
+      for (int i = 0; i < 4; ++i)
+        this->copy(want, i, a, 11 - 3 * i, k.parts), this->copy(want_z, 11 - 3 * i, a, i, k.parts);
       k.pack_i(4, 0, a.data() + 11 * k.parts, -3, -1, y.data(), width);
       k.unpack_i(4, 0, a.data(), z.data() + 11 * k.parts, -3, -1, width);
       EXPECT_EQ(y, want) << k.name;
@@ -115,7 +129,8 @@ TYPED_TEST(Pack, NegativeStridesWalkBackward) {
 // Nothing is touched for no element: null pointers would fault.
 TYPED_TEST(Pack, NoElements) {
   for (const auto& k : this->all())
-    for (const auto& [low, high, width] : {std::tuple(0, 0, 1), {0, 5, 1}, {-1, 0, 1}, {0, 0, 2}, {5, -1, 2}, {-1, -1, 2}}) {
+    for (const auto& [low, high, width] :
+         {std::tuple(0, 0, 1), {0, 5, 1}, {-1, 0, 1}, {0, 0, 2}, {5, -1, 2}, {-1, -1, 2}}) {
       if (width != 1 && this->is_stub(k)) continue;
       k.pack_i(low, high, nullptr, 1, 0, nullptr, width);
       k.pack_m(low, high, nullptr, nullptr, nullptr, width);

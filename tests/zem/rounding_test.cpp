@@ -10,7 +10,8 @@ namespace {
 
 const char* const names[] = {"Floor", "Ceil", "Trunc", "Round", "Rint", "NearbyInt", "Modf"};
 
-template <class T> class Rounding : public testing::Test {
+template <class T>
+class Rounding : public testing::Test {
  protected:
   StateGuard guard;
 
@@ -27,13 +28,17 @@ template <class T> class Rounding : public testing::Test {
   static std::vector<T> points() {
     std::vector<T> p;
     const auto around = [&p](T x) {
-      for (const T y : {std::nextafter(x, -inf<T>), x, std::nextafter(x, inf<T>)}) p.push_back(y), p.push_back(-y);
+      for (const T y : {std::nextafter(x, -inf<T>), x, std::nextafter(x, inf<T>)})
+        p.push_back(y), p.push_back(-y);
     };
     for (int i = 0; i <= 40; ++i) around(T(i) / 4);
     const int digits = std::numeric_limits<T>::digits;
     for (int e = digits - 4; e <= digits + 1; ++e)
-      for (const T fraction : {T(0), T(0.25), T(0.5), T(1), T(1.5)}) around(std::ldexp(T(1), e) + fraction);
-    for (const T x : {smallest_denormal<T>, smallest_normal<T>, largest<T>, T(0.1), T(1e6) + T(0.3)}) around(x);
+      for (const T fraction : {T(0), T(0.25), T(0.5), T(1), T(1.5)})
+        around(std::ldexp(T(1), e) + fraction);
+    for (const T x :
+         {smallest_denormal<T>, smallest_normal<T>, largest<T>, T(0.1), T(1e6) + T(0.3)})
+      around(x);
     for (T& x : p)
       if (std::isinf(x)) x = largest<T>;
     return p;
@@ -70,7 +75,8 @@ TYPED_TEST(Rounding, ExactWithTheSignOfTheArgument) {
         ASSERT_EQ(bits(r[i]), bits(want[i])) << call.slot->name(0) << "(" << std::hexfloat << a[i]
                                              << ") in mode " << rounding << ": " << r[i];
         if (call.outputs() == 2) {
-          ASSERT_EQ(bits(r2[i]), bits(std::copysign(a[i] - want[i], a[i]))) << call.slot->name(0) << "(" << a[i] << ")";
+          ASSERT_EQ(bits(r2[i]), bits(std::copysign(a[i] - want[i], a[i])))
+              << call.slot->name(0) << "(" << a[i] << ")";
         }
       }
     }
@@ -80,7 +86,11 @@ TYPED_TEST(Rounding, InfinitiesNansAndZeros) {
   using T = TypeParam;
   const T signalling = from_bits<T>(sizeof(T) == 8 ? 0xFFF0000000000001 : 0xFF800001);
   for (const char* name : names)
-    check_special<T>({name, 1, "", T(2.75), 0,
+    check_special<T>({name,
+                      1,
+                      "",
+                      T(2.75),
+                      0,
                       {{.a = inf<T>, .r = inf<T>, .r2 = 0},
                        {.a = -inf<T>, .r = -inf<T>, .r2 = -T(0)},
                        {.a = 0, .r = 0, .r2 = 0},

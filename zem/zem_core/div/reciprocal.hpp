@@ -8,7 +8,8 @@ namespace ork {
 
 // EP: the estimate, relative error below 1.5 * 2^-12. LA: one Newton step,
 // y' = y * (2 - b * y), relative error below 2^-23 + 3 * 2^-25.
-template <Level level> ORK_INLINE f32x4 reciprocal(f32x4 b) {
+template <Level level>
+ORK_INLINE f32x4 reciprocal(f32x4 b) {
   const f32x4 y = rcp_est(b);
   if constexpr (level == Level::ep) return y;
   return y * (splat(2.0f) - b * y);

@@ -34,7 +34,8 @@ struct InvCbrtHaS : Core<float> {
 
 // LA and EP: S T + (S T r) P(r) in single throughout, with 3 and 1 terms; those left out are
 // below 2^-26 and 2^-14.
-template <Level level> struct InvCbrtS : Core<float> {
+template <Level level>
+struct InvCbrtS : Core<float> {
   static constexpr auto& name = sinvcbrt_name;
   static constexpr bool inverse = true;
   static constexpr int vectors = 1;

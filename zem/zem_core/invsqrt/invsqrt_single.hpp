@@ -30,7 +30,8 @@ int _zemsInvSqrtSpec(const float* x, float* r);
 
 // LA: the hardware's 12-bit estimate and one Newton step, within 4 ulp. EP: the estimate, within
 // 2^-11. Rare: all but 2^-126 <= x <= 0x7F7FF001.
-template <Level level> struct InvSqrtS : Core<float> {
+template <Level level>
+struct InvSqrtS : Core<float> {
   static constexpr auto& name = sinvsqrt_name;
   static constexpr unsigned x87 = x87_double;
 

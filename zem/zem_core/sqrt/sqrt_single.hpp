@@ -10,7 +10,8 @@ namespace ork {
 // from pieces of s1 whose leading square is exact; within 0.51 ulp. LA: one Newton step, within
 // 3.2 ulp. EP: s, within 2^-11. Zeros pass, with y = 0. Rare: s is infinite or a NaN; at HA also
 // x below 2^-96, where pieces of the residual would be denormal.
-template <Level level> struct SqrtS : Core<float> {
+template <Level level>
+struct SqrtS : Core<float> {
   static constexpr char name[] = "vsSqrt";
   static constexpr int vectors = level == Level::la ? 4 : 2;
 
