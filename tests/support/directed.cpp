@@ -14,7 +14,8 @@
 
 namespace {
 
-template <class T> double error_of(T got, quad exact, bool relative) {
+template <class T>
+double error_of(T got, quad exact, bool relative) {
   using L = std::numeric_limits<T>;
   const quad difference = fabsq(quad(got) - exact);
   if (difference == 0) return 0;
@@ -24,7 +25,8 @@ template <class T> double error_of(T got, quad exact, bool relative) {
 }
 
 template <class T>
-void check(const char* function, const std::vector<T>& points, const std::vector<quad>& exact, const Limits& limits) {
+void check(const char* function, const std::vector<T>& points, const std::vector<quad>& exact,
+           const Limits& limits) {
   for (const Slot& slot : slots) {
     if (slot.type != (sizeof(T) == 8 ? 'd' : 's') || strcmp(slot.function, function) != 0) continue;
     const uint32_t mode = ork_zem_kernel_SetMode(ORK_ZEM_ERRMODE_IGNORE);
@@ -39,7 +41,8 @@ void check(const char* function, const std::vector<T>& points, const std::vector
         const double error = error_of(r[i], exact[i], limits.relative[level]);
         if (error > worst) worst = error, at = i;
       }
-      EXPECT_LE(worst, limits.bound[level]) << slot.name(level) << " at " << std::hexfloat << points[at] << ": " << r[at];
+      EXPECT_LE(worst, limits.bound[level])
+          << slot.name(level) << " at " << std::hexfloat << points[at] << ": " << r[at];
     }
     ork_zem_kernel_SetMode(mode);
     return;
@@ -49,27 +52,33 @@ void check(const char* function, const std::vector<T>& points, const std::vector
 
 }  // namespace
 
-template <class T> std::vector<T> neighbours(const std::vector<T>& centres, int each_side) {
+template <class T>
+std::vector<T> neighbours(const std::vector<T>& centres, int each_side) {
   std::vector<T> points;
   for (const T centre : centres)
-    for (int k = -each_side; k <= each_side; ++k) points.push_back(from_bits<T>(bits(centre) + uint64_t(int64_t(k))));
-  return points;
-}
-
-template <class T> std::vector<T> spread(double low, double high, int count) {
-  std::vector<T> points;
-  for (int i = 0; i < count; ++i) points.push_back(T(low + (high - low) * std::fmod(i * 0.6180339887498949, 1.0)));
+    for (int k = -each_side; k <= each_side; ++k)
+      points.push_back(from_bits<T>(bits(centre) + uint64_t(int64_t(k))));
   return points;
 }
 
 template <class T>
-void check_directed(const char* function, quad (*exact)(quad), const std::vector<T>& points, const Limits& limits) {
+std::vector<T> spread(double low, double high, int count) {
+  std::vector<T> points;
+  for (int i = 0; i < count; ++i)
+    points.push_back(T(low + (high - low) * std::fmod(i * 0.6180339887498949, 1.0)));
+  return points;
+}
+
+template <class T>
+void check_directed(const char* function, quad (*exact)(quad), const std::vector<T>& points,
+                    const Limits& limits) {
   std::vector<quad> values;
   for (const T x : points) values.push_back(exact(quad(x)));
   check(function, points, values, limits);
 }
 
-template <class T> void check_worst_cases(const char* function, const char* name, const Limits& limits) {
+template <class T>
+void check_worst_cases(const char* function, const char* name, const Limits& limits) {
   const std::string path = std::string(ORK_SOURCE_DIR) + "/../shared/data/worst_cases/binary" +
                            (sizeof(T) == 8 ? "64_" : "32_") + name + ".tsv";
   std::ifstream file(path);
@@ -93,10 +102,10 @@ template <class T> void check_worst_cases(const char* function, const char* name
   check(function, points, exact, limits);
 }
 
-#define INSTANTIATE(T)                                                                                    \
-  template std::vector<T> neighbours(const std::vector<T>&, int);                                         \
-  template std::vector<T> spread(double, double, int);                                                    \
-  template void check_directed(const char*, quad (*)(quad), const std::vector<T>&, const Limits&);        \
+#define INSTANTIATE(T)                                                                             \
+  template std::vector<T> neighbours(const std::vector<T>&, int);                                  \
+  template std::vector<T> spread(double, double, int);                                             \
+  template void check_directed(const char*, quad (*)(quad), const std::vector<T>&, const Limits&); \
   template void check_worst_cases<T>(const char*, const char*, const Limits&);
 INSTANTIATE(double)
 INSTANTIATE(float)

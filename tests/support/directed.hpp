@@ -16,12 +16,15 @@ struct Limits {
 };
 
 // The floats next to each of `centres`, `each_side` below and above.
-template <class T> std::vector<T> neighbours(const std::vector<T>& centres, int each_side);
+template <class T>
+std::vector<T> neighbours(const std::vector<T>& centres, int each_side);
 
 // `count` numbers spread evenly through [low, high].
-template <class T> std::vector<T> spread(double low, double high, int count);
+template <class T>
+std::vector<T> spread(double low, double high, int count);
 
-template <class T> std::vector<T> operator+(std::vector<T> a, const std::vector<T>& b) {
+template <class T>
+std::vector<T> operator+(std::vector<T> a, const std::vector<T>& b) {
   a.insert(a.end(), b.begin(), b.end());
   return a;
 }
@@ -34,4 +37,5 @@ void check_directed(const char* function, quad (*exact)(quad), const std::vector
 // Inputs of ../shared/data/worst_cases/binary{32,64}_NAME.tsv with results the function is
 // defined and finite at; the level's error in ulp against the published values. Skips the test
 // if the file is absent.
-template <class T> void check_worst_cases(const char* function, const char* name, const Limits& limits);
+template <class T>
+void check_worst_cases(const char* function, const char* name, const Limits& limits);
