@@ -80,7 +80,7 @@ def inverse_two_pi():
         v -= floor(v)
         n = int(floor(v * mpf(2) ** (30 * DIGITS)))
         digits = [(n >> (30 * (DIGITS - 1 - k))) & (2 ** 30 - 1) for k in range(DIGITS)]
-        out.append("{" + ", ".join(f"0x{d:08x}" for d in digits + [0, 0]) + "},")
+        out.append("{{" + ", ".join(f"0x{d:08x}" for d in digits + [0, 0]) + "}},")
     return "\n".join(out) + "\n"
 
 

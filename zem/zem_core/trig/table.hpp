@@ -14,7 +14,6 @@ extern const Row rows_pi32[64];  // a = j * pi/32
 // a = j * pi/64: 128 rows, then the first 32 again, so that row j + 32, the cosine's, needs
 // no second index.
 extern const Row rows_pi64[160];
-constexpr int quarter_period = 32 * sizeof(Row);
 
 // A row, or the rows of two lanes.
 template <class V> struct Angle {
