@@ -16,7 +16,7 @@ constexpr int large = 1040;  // from here on, reduced first: 2^17
 int biased_exponent(double x) { return (int)(as<uint64_t>(x) >> 52) & 0x7FF; }
 
 // What pi/32 exceeds its three parts by (rule): an ulp's fraction next to multiples of pi/2.
-constexpr double fourth_part = 6.3036587719937e-39;
+constexpr double fourth_part = 6.30365877242032e-39;
 
 // The product of two doubles with its rounding error (T. J. Dekker).
 Pair<double> product(double x, double y) {
