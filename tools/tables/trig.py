@@ -1,4 +1,4 @@
-"""Tables of the trigonometric functions: rows of sine and cosine, expansions of 4/pi and 1/(2 pi), and the tangent's fit."""
+"""Tables of the trigonometric functions: rows of sine and cosine, expansions of 4/pi and 1/(2 pi), and fits."""
 from mpmath import mp, mpf, pi, cos, sin, tan, sqrt, floor, ceil, log, lu_solve, matrix, nstr
 
 mp.prec = 1400
@@ -84,11 +84,10 @@ def inverse_two_pi():
     return "\n".join(out) + "\n"
 
 
-def tangent_fit(p_degree, q_degree, end):
-    """Minimax of the relative error of P(z)/Q(z) against tan(sqrt z)/sqrt z on (0, end), with
+def rational_fit(t, p_degree, q_degree, end):
+    """Minimax of the relative error of P(z)/Q(z) against t(z) on (0, end), with
     P(0) = Q(0) = 1, by Remez' exchange on P - t Q = E t Q, Q on the right from the step before."""
     n, grid = p_degree + q_degree, 200
-    t = lambda z: tan(sqrt(z)) / sqrt(z)
     points = [end * (1 - mp.cos(pi * i / grid)) / 2 + mpf(10) ** -12 for i in range(grid + 1)]
     values = [t(z) for z in points]
     at = [round(grid * i / n) for i in range(n + 1)]
@@ -121,24 +120,37 @@ def tangent_fit(p_degree, q_degree, end):
     return p, q, max(abs(e) for e in error)
 
 
+def fitted(name, letter, c, wide=()):
+    return [f"constexpr {'long double' if k in wide else 'double'} {name}_{letter}{k} = "
+            + (nstr(v, 25) + "L;" if k in wide else hex_double(v) + ";") for k, v in c]
+
+
 def tangent_coefficients():
     mp.prec = 160
-    out = []
-    for name, (p_degree, q_degree), tail, what in (
-            ("double_ha", (3, 4), "L", "double, HA: p1, q1, q2 for the x87 unit, the others in double"),
-            ("single_la", (1, 2), "", "single, LA"),
-            ("single_ep", (1, 1), "", "single, EP")):
-        p, q, error = tangent_fit(p_degree, q_degree, (pi / 4) ** 2 * (1 + mpf(2) ** -20))
-        out += [f"// {what}.",
-                f"// Relative error of the fit {nstr(error, 3)} = 2^{nstr(log(error, 2), 4)} (fit)."]
-        for letter, c in (("p", p), ("q", q)):
-            for k, v in enumerate(c):
-                wide = tail and (letter, k) in (("p", 0), ("q", 0), ("q", 1))
-                kind = "long double" if wide else "double"
-                text = nstr(v, 25) + "L" if wide else hex_double(v)
-                out.append(f"constexpr {kind} {name}_{letter}{k + 1} = {text};")
+    tangent = lambda z: tan(sqrt(z)) / sqrt(z)
+    p, q, error = rational_fit(tangent, 3, 4, (pi / 4) ** 2 * (1 + mpf(2) ** -20))
+    out = ["// Double, HA: tan r = r (1 + p1 z + ...) / (1 + q1 z + ...), z = r^2, |r| <= pi/4.",
+           f"// Relative error {nstr(error, 3)} = 2^{nstr(log(error, 2), 4)} (fit). p1, q1, q2 are for the x87 unit."]
+    out += fitted("double_ha", "p", list(enumerate(p, 1)), wide=(1,))
+    out += fitted("double_ha", "q", list(enumerate(q, 1)), wide=(1, 2))
+    square = pi ** 2 / 4
+    for name, degree, level in (("single_ha", 5, "HA"), ("single_la", 4, "LA"), ("single_ep", 2, "EP")):
+        p, _, error = rational_fit(lambda z: tangent(z) * (1 - z / square), degree, 0,
+                                   square * (1 - mpf(2) ** -40))
+        out += [f"// Single, {level}: tan r = r (p0 + p1 z + ...) / (p0 - z), z = r^2, |r| <= pi/2, p0 = pi^2/4.",
+                f"// Relative error {nstr(error, 3)} = 2^{nstr(log(error, 2), 4)} (fit)."]
+        out += fitted(name, "p", [(0, square)] + [(k, v * square) for k, v in enumerate(p, 1)])
     mp.prec = 1400
-    return ("// tan r = r (1 + p1 z + ...) / (1 + q1 z + ...), z = r^2, |r| <= pi/4.\n// " + COMMAND + "\n".join(out) + "\n")
+    return "// Fits of the tangent. " + COMMAND + "\n".join(out) + "\n"
+
+
+def sine_coefficients():
+    mp.prec = 160
+    p, _, error = rational_fit(lambda z: sin(sqrt(z)) / sqrt(z), 4, 0, (pi / 4) ** 2 * (1 + mpf(2) ** -20))
+    mp.prec = 1400
+    return ("// Single, HA: sin r = r (1 + s1 z + ...), z = r^2, |r| <= pi/4.\n"
+            f"// Relative error {nstr(error, 3)} = 2^{nstr(log(error, 2), 4)} (fit). " + COMMAND
+            + "\n".join(fitted("single_ha", "s", list(enumerate(p, 1)))) + "\n")
 
 
 def generate():
@@ -147,5 +159,6 @@ def generate():
         "zem/zem_core/trig/sincos_pi32.inc": sincos_rows(32, 64),
         "zem/zem_core/trig/sincos_pi64.inc": sincos_rows(64, 128, repeated=32),
         "zem/zem_core/trig/inverse_two_pi.inc": inverse_two_pi(),
+        "zem/zem_core/sincos/sine_fit.inc": sine_coefficients(),
         "zem/zem_core/tan/tangent_fits.inc": tangent_coefficients(),
     }

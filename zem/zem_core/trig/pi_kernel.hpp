@@ -14,24 +14,37 @@ template <class V> struct ModuloPi {
   V r, sign;
 };
 
-template <class C, class V> ORK_INLINE V subtract_parts(V r, V n) {
-#pragma GCC unroll 4
-  for (const auto part : C::parts) r -= n * splat(part);
-  return r;
+// With four parts, the last two are subtracted as a sum, and then its rounding error: one
+// rounding where r is large, and nothing lost where it is small.
+template <class C, class V> ORK_INLINE V subtract_parts(V ax, V n) {
+  const V r = ax - n * splat(C::parts[0]) - n * splat(C::parts[1]), third = n * splat(C::parts[2]);
+  if constexpr (sizeof C::parts == 3 * sizeof C::parts[0]) {
+    return r - third;
+  } else {
+    const V fourth = n * splat(C::parts[3]), sum = third + fourth;
+    return (r - sum) - ((third - sum) + fourth);
+  }
+}
+
+// r for sine and cosine of ax >= 0, and t with n in its low bits.
+template <class C, class V> ORK_INLINE V sine_remainder(V ax, V& t) {
+  t = ax * splat(C::inverse) + splat(C::shifter);
+  return subtract_parts<C>(ax, t - splat(C::shifter));
+}
+template <class C, class V> ORK_INLINE V cosine_remainder(V ax, V& t) {
+  t = (ax + splat(C::half_pi)) * splat(C::inverse) + splat(C::shifter);
+  return subtract_parts<C>(ax, (t - splat(C::shifter)) - splat(typename C::type(0.5)));
 }
 
 template <class C, class V> ORK_INLINE ModuloPi<V> reduce_sine(V x) {
-  const V ax = abs(x);
-  const V t = ax * splat(C::inverse) + splat(C::shifter), n = t - splat(C::shifter);
-  return {subtract_parts<C>(ax, n), flip(parity(t), sign_of(x))};
+  V t;
+  const V r = sine_remainder<C>(abs(x), t);
+  return {r, flip(parity(t), sign_of(x))};
 }
-
 template <class C, class V> ORK_INLINE ModuloPi<V> reduce_cosine(V x) {
-  using T = typename C::type;
-  const V ax = abs(x);
-  const V t = (ax + splat(C::half_pi)) * splat(C::inverse) + splat(C::shifter);
-  const V n = (t - splat(C::shifter)) - splat(T(0.5));
-  return {subtract_parts<C>(ax, n), parity(t)};
+  V t;
+  const V r = cosine_remainder<C>(abs(x), t);
+  return {r, parity(t)};
 }
 
 // c_0 + c_1 z + ...
@@ -66,6 +79,23 @@ struct PiLaD : PiEpD {
                                  2.7557316600552628e-06, -2.5051880273862881e-08, 1.6048095404959637e-10,
                                  -7.3733445331106646e-13};
 };
+
+// Single, LA: relative error of the polynomial 6e-9 (given). pi in parts of 8, 11 and 11 bits and
+// the rest (rule).
+struct PiLaS {
+  using type = float;
+  static constexpr float inverse = 0.318309873f, half_pi = 1.57079637f, shifter = 12582912.0f;  // 1.5 * 2^23
+  static constexpr float parts[] = {3.140625f, 0.00096750259f, 0x1.444p-23f, 5.1266883e-12f};
+  static constexpr float c[] = {-0.1666666f, 0.0083330665f, -0.00019809602f, 2.6057805e-06f};
+};
+
+// Single, EP: 1.509958e-07 is all that the first two parts leave.
+struct PiEpS : PiLaS {
+  static constexpr float parts[] = {3.140625f, 0.00096750259f, 1.509958e-07f};
+};
+
+// Single: 10000.
+constexpr uint32_t limit_10000 = 0x461C4000;
 
 // Double: sine below 2^24; cosine, whose n has a bit more, below 2^23.
 constexpr uint32_t sine_limit = 0x41700000, cosine_limit = 0x41600000;
