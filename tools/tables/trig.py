@@ -136,8 +136,8 @@ def tangent_coefficients():
     square = pi ** 2 / 4
     for name, degree, level in (("single_ha", 5, "HA"), ("single_la", 4, "LA"), ("single_ep", 2, "EP")):
         p, _, error = rational_fit(lambda z: tangent(z) * (1 - z / square), degree, 0,
-                                   square * (1 - mpf(2) ** -40))
-        out += [f"// Single, {level}: tan r = r (p0 + p1 z + ...) / (p0 - z), z = r^2, |r| <= pi/2, p0 = pi^2/4.",
+                                   square * mpf("1.0151"))
+        out += [f"// Single, {level}: tan r = r (p0 + p1 z + ...) / (p0 - z), z = r^2, |r| <= 1.0075 pi/2, p0 = pi^2/4.",
                 f"// Relative error {nstr(error, 3)} = 2^{nstr(log(error, 2), 4)} (fit)."]
         out += fitted(name, "p", [(0, square)] + [(k, v * square) for k, v in enumerate(p, 1)])
     mp.prec = 1400
