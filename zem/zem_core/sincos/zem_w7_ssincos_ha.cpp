@@ -1,5 +1,6 @@
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
+#include "sincos/quarters.hpp"
 #include "trig/scalar.hpp"
 #include "trig/single.hpp"
 
@@ -15,7 +16,6 @@ namespace ork::trig {
 struct SinCosHaS : Core<float, 1, 2> {
   static constexpr char name[] = "sSinCos_HA";
   static constexpr unsigned x87 = x87_double;
-  static constexpr uint32_t limit = 0x461C4000;
 
   ORK_INLINE void half(f64x2 x, f64x2& t, f64x2& s, f64x2& c) {
     const f64x2 shifter = splat(6755399441055744.0);  // 1.5 * 2^52
@@ -29,16 +29,14 @@ struct SinCosHaS : Core<float, 1, 2> {
                           z * (splat(-0.0013887316254360454) + z * splat(2.4433157058349041e-05))));
   }
   ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
-    rare |= at_least<limit>(abs(x));
+    rare |= at_least<limit_10000>(abs(x));
     const Widened w = widen(x);
     f64x2 t0, t1, s0, s1, c0, c1;
     half(w.low, t0, s0, c0);
     half(w.high, t1, s1, c1);
-    const f32x4 s = narrow(s0, s1), c = narrow(c0, c1);
-    const u32x4 n = as<u32x4>(low_words(t0, t1)), two = splat_u32(2);
-    const u32x4 swap = (as<u32x4>(s) ^ as<u32x4>(c)) & -(n & splat_u32(1));
-    cosine = as<f32x4>(as<u32x4>(c) ^ swap ^ (((n + splat_u32(1)) & two) << 30));
-    return as<f32x4>(as<u32x4>(s) ^ swap ^ ((n & two) << 30));
+    const Both both = turn_quarters(narrow(s0, s1), narrow(c0, c1), as<u32x4>(low_words(t0, t1)));
+    cosine = both.cosine;
+    return both.sine;
   }
   static int special(const float* x, float* r, float* r2) { return scalar_sincos(x, r, r2); }
 };

@@ -10,6 +10,8 @@ template <uint32_t limit, class V> ORK_INLINE u32x4 at_least(V ax) {
   return as<u32x4>(ax) + splat_u32(0x80000000u - limit);
 }
 
+constexpr uint32_t limit_10000 = 0x461C4000;  // single
+
 ORK_INLINE f64x2 sign_of(f64x2 x) { return and_bits(x, sign_f64x2); }
 ORK_INLINE f32x4 sign_of(f32x4 x) { return and_bits(x, sign_f32x4); }
 ORK_INLINE f64x2 flip(f64x2 x, f64x2 sign) { return xor_bits(x, as<u64x2>(sign)); }

@@ -94,9 +94,6 @@ struct PiEpS : PiLaS {
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 1.509958e-07f};
 };
 
-// Single: 10000.
-constexpr uint32_t limit_10000 = 0x461C4000;
-
 // Double: sine below 2^24; cosine, whose n has a bit more, below 2^23.
 constexpr uint32_t sine_limit = 0x41700000, cosine_limit = 0x41600000;
 

@@ -43,14 +43,19 @@ template <class V> struct Pair {
   V high, low;
 };
 
-// sin(a + z + low), low far below z's ulp; s_poly = sin z / z - 1, c_poly = cos z - 1. The
-// sum of the result's parts has an error below 2^-62; rounding it once gives 0.51 ulp.
+// s_hi + z (c_hi + c_lo) + tail: the product with c_hi is exact, both sums keep their errors. What
+// is added last is below 2^-5 of the result, so that its rounding once gives 0.51 ulp.
+template <class V> ORK_INLINE Pair<V> table_sum(const Angle<V>& a, V z, V tail, V s_low) {
+  const V first = z * a.c_hi, h = a.s_hi + first, h_error = (a.s_hi - h) + first;
+  const V second = z * a.c_lo, h2 = h + second, h2_error = (h - h2) + second;
+  return {h2, (tail + (h_error + h2_error)) + s_low};
+}
+
+// sin(a + z + low), low far below z's ulp; s_poly = sin z / z - 1, c_poly = cos z - 1.
 template <class V> ORK_INLINE Pair<V> table_sine(const Angle<V>& a, V z, V low, V s_poly, V c_poly) {
   const V c = a.c_hi + a.c_lo;
   const V s_low = (c - z * a.s_hi) * low + a.s_lo;
-  const V first = z * a.c_hi, h = a.s_hi + first, h_error = (a.s_hi - h) + first;
-  const V second = z * a.c_lo, h2 = h + second, h2_error = (h - h2) + second;
-  return {h2, ((s_poly * (z * c) + c_poly * a.s_hi) + (h_error + h2_error)) + s_low};
+  return table_sum(a, z, s_poly * (z * c) + c_poly * a.s_hi, s_low);
 }
 
 }  // namespace ork::trig
