@@ -36,7 +36,7 @@ def generate():
             [[mantissa(power(j, 128), "d")] for j in range(128)]),
         at + "split128_s.inc": split_s(),
         at + "mantissa128_s.inc": table(
-            "exp", "The 23 mantissa bits of 2^(j/128), j = 0..127, exponent field zero; not used.",
+            "exp", "The 23 mantissa bits of 2^(j/128), j = 0..127, exponent field zero.",
             [[mantissa(power(j, 128), "s"), "0"] for j in range(128)]),
         at + "tiny_s.inc": coefficients(
             "exp", "c1 to c6 of 1 + c1 f + ... + c6 f^6 for 2^f on [-0.5, 0.5].", tiny, "d", powers),

@@ -29,7 +29,8 @@ def generate():
     third = mpf(1) / 3
     f = lambda u: log(1 + u) if u else mpf(0)
     la = fit(f, range(3, 9), -third, third, "s",
-             {1: mpf(1), 2: mpf(-0.5), 9: given("0.138202384", "s")})
+             {1: mpf(1), 2: mpf(-0.5), 9: given("0.138202384", "s")},
+             scale=lambda u: min(abs(f(u)), f(u) + LN2))
     return {
         at + "rows_d_ha.inc": split("d", 10, 1023, given("0.69314718055829871", "d"),
                                     given("1.6465949582866463e-12", "d"), -36),
@@ -38,6 +39,6 @@ def generate():
             [[number(-log(mpf(c) / (1024 if c > 724 else 512)), "d")] for c in range(512, 1025)]),
         at + "rows_s_ha.inc": split("s", 8, 127, given("0.693145752", "s"), given("1.42859062e-06", "s"), -15),
         at + "poly_s_la.inc": coefficients(
-            "log1p", "q0 to q7 of u + u^2 (q0 + q1 u + ... + q7 u^7) for ln(1 + u) on [-1/3, 1/3]; q0 and q7\n"
-            "are given.", la, "s", range(2, 10)),
+            "log1p", "q0 to q7 of u + u^2 (q0 + q1 u + ... + q7 u^7) for ln(1 + u) on [-1/3, 1/3],\n"
+            "relative to the smaller of it and ln(2 + 2 u); q0 and q7 are given.", la, "s", range(2, 10)),
     }

@@ -5,6 +5,7 @@
 // with the scale 2^k. Fast range: |x| below 708.396 by its high word; beyond it _zemdSpecSc.
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
+#include "frame/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -22,16 +23,15 @@ struct ExpHa {
     t = x * 92.33248261689366 + exp_shifter;
     const f64x2 n = t - exp_shifter;
     const f64x2 r = x - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
-    return r + r * r * (0.49999999999945266 + r * (0.16666666666653376 +
-                                 r * (0.04166672515731616 + r * 0.008333343728805863)));
+    return r + r * r *
+                   horner(r, 0.49999999999945266, 0.16666666666653376, 0.04166672515731616,
+                          0.008333343728805863);
   }
   static f64x2 parts(f64x2 t, f64x2 p, f64x2& hi) {
     const u32x4 row = (as<u32x4>(t) & 63) << 4;
     const char* const table = (const char*)exp_split64_d;
-    const f64x2 row0 = *(const f64x2*)(table + row[0]);
-    const f64x2 row1 = *(const f64x2*)(table + _mm_extract_epi16((__m128i)row, 4));
-    hi = _mm_unpacklo_pd(row0, row1);
-    const f64x2 lo = _mm_unpackhi_pd(row0, row1);
+    f64x2 lo;
+    gather_pairs((const double*)(table + row[0]), (const double*)(table + word<4>(row)), hi, lo);
     return lo + (hi + lo) * p;
   }
   static f64x2 combine(f64x2 t, f64x2 p, f64x2 scale) {
@@ -48,9 +48,8 @@ struct ExpOneWord {
 
   static u64x2 mantissa(f64x2 t) {
     const u32x4 j = as<u32x4>(t) & 127;
-    const f64x2 low = _mm_load_sd((const double*)exp_mantissa128_d + j[0]);
-    return as<u64x2>(
-        (f64x2)_mm_loadh_pd(low, (const double*)exp_mantissa128_d + _mm_extract_epi16((__m128i)j, 4)));
+    const double* const table = (const double*)exp_mantissa128_d;
+    return as<u64x2>(gather(table + j[0], table + word<4>(j)));
   }
   static f64x2 parts(f64x2 t, f64x2 p, f64x2& hi) {
     hi = or_bits(splat(1.0), mantissa(t));
@@ -70,7 +69,7 @@ struct ExpLa : ExpOneWord {
     t = x * 184.66496523378731 + exp_shifter;
     const f64x2 n = t - exp_shifter;
     const f64x2 r = x - n * 0x1.62e42feep-8 - n * 1.4907929134926466e-12;
-    return r + r * r * (0.49999999999998135 + r * (0.16666671248624326 + r * 0.041666679394326736));
+    return r + r * r * horner(r, 0.49999999999998135, 0.16666671248624326, 0.041666679394326736);
   }
 };
 
@@ -87,15 +86,16 @@ struct ExpEp : ExpOneWord {
 };
 
 // One element beyond the fast range. x rises through the rows.
-template <class Level> int _zemdSpecSc(const double* a, double* out) {
-  const uint64_t image = as<uint64_t>(*a), magnitude = image & ~0ull >> 1;
-  if (magnitude > 0x7FF0000000000000) {
-    const uint64_t quiet = Level::nan_is_all_ones ? ~0ull : image | 0x0008000000000000;
+template <class Level>
+int _zemdSpecSc(const double* a, double* out) {
+  const uint64_t magnitude = ork::magnitude(a);
+  if (magnitude > infinity_bits<double>) {
+    const uint64_t quiet = Level::nan_is_all_ones ? ~0ull : image(a) | 0x0008000000000000;
     __builtin_memcpy(out, &quiet, sizeof quiet);
     return 0;
   }
-  if (magnitude == 0x7FF0000000000000) {
-    *out = image >> 63 ? 0.0 : *a;
+  if (magnitude == infinity_bits<double>) {
+    *out = sign(a) ? 0.0 : *a;
     return 0;
   }
   const double x = *a;
@@ -129,14 +129,15 @@ template <class Level> int _zemdSpecSc(const double* a, double* out) {
   return 0;
 }
 
-template <class Level> struct ExpD : Core<double> {
+template <class Level>
+struct ExpD : Core<double> {
   static constexpr char name[] = "vdExp";
   static f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 t;
     const f64x2 p = Level::reduce(x, t);
-    const u32x4 limit = splat_u32(0x4086232A), bias = u32x4{1023u << Level::log2_n, 0, 1023u << Level::log2_n, 0};
-    rare |= limit - as<u32x4>(abs(x));
-    const u64x2 k = (as<u64x2>(as<u32x4>(t) + bias)) << (52 - Level::log2_n);
+    rare |= 0x4086232A - as<u32x4>(abs(x));
+    const u32x4 bias = {1023u << Level::log2_n, 0, 1023u << Level::log2_n, 0};
+    const u64x2 k = as<u64x2>(as<u32x4>(t) + bias) << (52 - Level::log2_n);
     return Level::combine(t, p, as<f64x2>(k & splat_u64(0x7FF0000000000000)));
   }
   static int special(const double* x, double* r) { return _zemdSpecSc<Level>(x, r); }

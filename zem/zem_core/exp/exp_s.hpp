@@ -4,6 +4,7 @@
 // Fast range: |x| below 87.3365479; beyond it _ScalarExp. Constants: given.
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
+#include "frame/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -26,9 +27,11 @@ struct ExpLaS {
   }
 };
 
-template <class Level> int _ScalarExp(const float* a, float* out);
+template <class Level>
+int _ScalarExp(const float* a, float* out);
 
-template <class Level> struct ExpS : Core<float> {
+template <class Level>
+struct ExpS : Core<float> {
   static constexpr char name[] = "vsExp";
 
   // e^x / 2^down.
@@ -37,12 +40,11 @@ template <class Level> struct ExpS : Core<float> {
     const f32x4 n = t - 11534336.0f;
     const f32x4 r = x - n * 0.00541687012f - n * -1.65776908e-06f;
     const u32x4 scale = ((as<u32x4>(t) >> 7) + (127 - down)) << 23;
-    const __m128i j = (__m128i)(as<u32x4>(t) & 127);
-    const __m64* const rows = (const __m64*)Level::table;
-    const f32x4 none = {};
-    const f32x4 row01 = _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_cvtsi128_si32(j)), rows + _mm_extract_epi16(j, 2));
-    const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_extract_epi16(j, 4)), rows + _mm_extract_epi16(j, 6));
-    return Level::combine(r, _mm_shuffle_ps(row01, row23, 0x88), _mm_shuffle_ps(row01, row23, 0xDD), scale);
+    const u32x4 j = as<u32x4>(t) & 127;
+    const auto row = [](int i) { return (const float*)Level::table + 2 * i; };
+    f32x4 first, second;
+    gather_pairs(row(j[0]), row(word<2>(j)), row(word<4>(j)), row(word<6>(j)), first, second);
+    return Level::combine(r, first, second, scale);
   }
   static f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= 0x42AEAC4F - as<u32x4>(abs(x));
@@ -52,20 +54,14 @@ template <class Level> struct ExpS : Core<float> {
 };
 
 // One element beyond the fast range.
-template <class Level> int _ScalarExp(const float* a, float* out) {
-  uint32_t image;
-  __builtin_memcpy(&image, a, sizeof image);
-  const uint32_t magnitude = image & 0x7FFFFFFF;
-  if (magnitude > 0x7F800000) {
-    image |= 0x00400000;  // x + x
-    __builtin_memcpy(out, &image, sizeof image);
-    return 0;
-  }
-  if (magnitude == 0x7F800000) {
-    *out = image >> 31 ? 0.0f : *a;
-    return 0;
-  }
+template <class Level>
+int _ScalarExp(const float* a, float* out) {
   const float x = *a;
+  const uint32_t magnitude = ork::magnitude(a);
+  if (magnitude >= infinity_bits<float>) {
+    *out = magnitude > infinity_bits<float> ? x + x : sign(a) ? 0.0f : x;
+    return 0;
+  }
   if (x >= 88.72283935546875f) {
     volatile float huge = 0x1p127f;
     *out = huge * huge;

@@ -2,6 +2,7 @@
 // relative error 1.3e-4 on [-1/2, 1/2]; 2^n is added to the exponent field.
 // Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: given.
 #include "frame/chunk.hpp"
+#include "frame/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -10,14 +11,12 @@ namespace {
 constexpr float shifter = 12582912.0f;  // 1.5 * 2^23
 
 int vsexp_cout_rare(const float* a, float* out) {
-  uint32_t image;
-  __builtin_memcpy(&image, a, sizeof image);
-  if (image == 0xFF800000) {
+  if (sign(a) && magnitude(a) == infinity_bits<float>) {
     *out = 0.0f;
     return 0;
   }
   const float x = *a;
-  if ((image & 0x7FFFFFFF) >= 0x7F800000) {
+  if (magnitude(a) >= infinity_bits<float>) {
     *out = x * x;
     return 0;
   }
@@ -34,8 +33,8 @@ int vsexp_cout_rare(const float* a, float* out) {
   const float t = 1.442695f * x + shifter, n = t - shifter;
   const float r = x - n * 0.69314575f - n * 1.4286068e-6f;
   // Horner's form of e^r, degree 5.
-  const float p = 1.0000001f + r * (1.0000001f + r * (0.4999887f + r * (0.16666326f +
-                  r * (0.041917525f + r * 0.0083811125f))));
+  const float p =
+      horner(r, 1.0000001f, 1.0000001f, 0.4999887f, 0.16666326f, 0.041917525f, 0.0083811125f);
   const uint32_t k = as<uint32_t>(t);  // n in its low bits
   const auto scaled = [&](uint32_t field) { return p * as<float>(field << 24 >> 1); };
   if (x < -87.33654f) {
@@ -50,7 +49,8 @@ struct ExpEpS : Core<float> {
   static constexpr char name[] = "vsExp";
   static f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 u = x * 1.4426950216f, t = u + shifter, f = u - (t - shifter);
-    const f32x4 p = 1.0f + f * (0.6931782960891724f + f * (0.2420288622379303f + f * 0.055504005402326584f));
+    const f32x4 p =
+        horner(f, 1.0f, 0.6931782960891724f, 0.2420288622379303f, 0.055504005402326584f);
     rare |= 0x42AEAC4F - as<u32x4>(abs(x));
     return as<f32x4>(as<u32x4>(p) + (as<u32x4>(t) << 23));
   }

@@ -43,10 +43,10 @@ ORK_INLINE f64x2 expm1_scale(f64x2 n, f64x2& s_lo) {
   const u64x2 exponent = as<u64x2>(image & u32x4{0x3FF800, 0, 0x3FF800, 0}) << 41;
   const u32x4 row = image & 0x7F0;
   const char* const table = (const char*)expm1_split128_d;
-  const f64x2 row0 = *(const f64x2*)(table + row[0]);
-  const f64x2 row1 = *(const f64x2*)(table + _mm_extract_epi16((__m128i)row, 4));
-  s_lo = (f64x2)_mm_unpackhi_pd(row0, row1) * as<f64x2>(exponent);
-  return or_bits(_mm_unpacklo_pd(row0, row1), exponent);
+  f64x2 high, low;
+  gather_pairs((const double*)(table + row[0]), (const double*)(table + word<4>(row)), high, low);
+  s_lo = low * as<f64x2>(exponent);
+  return or_bits(high, exponent);
 }
 
 // Puts back the sign of a zero; all other results have the sign of x by themselves.
@@ -54,7 +54,8 @@ ORK_INLINE f64x2 with_sign_of(f64x2 x, f64x2 y) { return or_bits(y, as<u64x2>(x)
 ORK_INLINE f32x4 with_sign_of(f32x4 x, f32x4 y) { return or_bits(y, as<u32x4>(x) & sign_f32x4); }
 
 // The last steps at HA: S (1 + u_hi + v) - 1, S = S_hi + S_lo, S_hi u_hi exact.
-template <class V> ORK_INLINE V expm1_sum(V s_hi, V s_lo, V u_hi, V v) {
+template <class V>
+ORK_INLINE V expm1_sum(V s_hi, V s_lo, V u_hi, V v) {
   using T = std::remove_cvref_t<decltype(V{}[0])>;
   const V minus_one = splat(T(-1));
   const V w = u_hi + v;

@@ -1,6 +1,7 @@
 // Expm1 of one element beyond the fast range: -1 below, e^x above, where e^x - 1 rounds to it.
 #include "exp/tables.hpp"
 #include "expm1/expm1.hpp"
+#include "frame/image.hpp"
 
 namespace ork {
 namespace {
@@ -10,8 +11,9 @@ namespace {
 double exp_of_large(double x) {
   const double t = x * 92.33248261689366 + 6755399441055744.0, n = t - 6755399441055744.0;
   const double r = x - n * 0.010830424696223417 - n * 2.572804622327669e-14;
-  const double p = r + r * r * (0.5 + r * (0.1666666666665788 + r * (0.04166666666677052 +
-                   r * (0.008333341995140497 + r * 0.0013888870459233254))));
+  const double p = r + r * r *
+                           horner(r, 0.5, 0.1666666666665788, 0.04166666666677052,
+                                  0.008333341995140497, 0.0013888870459233254);
   const uint32_t image = (uint32_t)as<uint64_t>(t);
   const double* const row = exp_split64_d[image & 63];
   const double v = row[0] + (row[1] + (row[0] + row[1]) * p);
@@ -20,17 +22,14 @@ double exp_of_large(double x) {
   return v * as<double>(exponent << 52);
 }
 
-template <class T> int rare(const T* a, T* out, T limit, T largest) {
-  bits_of<T> image;
-  __builtin_memcpy(&image, a, sizeof image);
-  constexpr bits_of<T> sign = (bits_of<T>)1 << (8 * sizeof(T) - 1);
-  const bits_of<T> infinity = as<bits_of<T>>((T)__builtin_inf());
-  if (image & sign && (image & ~sign) <= infinity) {
+template <class T>
+int rare(const T* a, T* out, T limit, T largest) {
+  if (sign(a) && magnitude(a) <= infinity_bits<T>) {
     *out = T(-1);
     return 0;
   }
   const T x = *a;
-  if ((image & ~sign) >= infinity) {
+  if (magnitude(a) >= infinity_bits<T>) {
     *out = x * x;
     return 0;
   }

@@ -10,7 +10,8 @@ namespace ork {
 
 inline int vsln_cout_rare(const float* a, float* out) { return in_double(ln_rare, *a, out); }
 
-template <class Level> struct LnS : Core<float> {
+template <class Level>
+struct LnS : Core<float> {
   static constexpr char name[] = "vsLn";
   static f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);

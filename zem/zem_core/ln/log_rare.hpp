@@ -9,7 +9,8 @@
 namespace ork {
 
 // A base: c0, l1, l2; `split` rounds m so that m_hi c is exact; rows {c, L_hi, L_lo}; p(u).
-template <class Base> int log_rare(double y, double* out) {
+template <class Base>
+int log_rare(double y, double* out) {
   volatile double zero = 0.0;
   uint64_t image = as<uint64_t>(y);
   const uint64_t magnitude = image & ~0ull >> 1;
@@ -50,7 +51,8 @@ template <class Base> int log_rare(double y, double* out) {
 int ln_rare(double y, double* out);
 
 // The same for singles, rounded once.
-template <class F> ORK_INLINE int in_double(F f, double y, float* out) {
+template <class F>
+ORK_INLINE int in_double(F f, double y, float* out) {
   double wide;
   const int status = f(y, &wide);
   *out = (float)wide;

@@ -15,8 +15,9 @@ ORK_INLINE f32x4 log_reduce(u32x4 image, uint32_t low, i32x4& k) {
 }
 ORK_INLINE f32x4 to_float(i32x4 k) { return _mm_cvtepi32_ps((__m128i)k); }
 
-// c[0] + x (c[1] + x (...)).
-template <int count> ORK_INLINE f32x4 horner(f32x4 x, const float (&c)[count]) {
+// The coefficients of a generated file.
+template <int count>
+ORK_INLINE f32x4 horner(f32x4 x, const float (&c)[count]) {
   f32x4 y = splat(c[count - 1]);
 #pragma GCC unroll 16
   for (int i = count - 2; i >= 0; --i) y = c[i] + x * y;

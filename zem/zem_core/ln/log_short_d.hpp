@@ -17,7 +17,7 @@ struct ShortD {
   }
   // Row of the first and the second lane in a table that begins with c = 512.
   int row0() const { return as<i32x4>(t)[0] - 512; }
-  int row1() const { return _mm_extract_epi16(as<__m128i>(t), 4) - 512; }
+  int row1() const { return word<4>(t) - 512; }
 };
 
 // The biased exponent less `offset`.
@@ -30,7 +30,7 @@ ORK_INLINE f64x2 exponent_less(f64x2 s, double offset) {
 ORK_INLINE f64x2 short_sum(const ShortD& f, f64x2 s, const double* table, double log_2, f64x2 p) {
   const f64x2 upper = and_bits(splat(1.0), (u64x2)(f.c > 724.0));
   const f64x2 k = exponent_less(s, 1022.0) - upper;
-  const f64x2 t = _mm_loadh_pd(_mm_load_sd(table + f.row0()), table + f.row1());
+  const f64x2 t = gather(table + f.row0(), table + f.row1());
   return k * log_2 + (t + p);
 }
 

@@ -5,8 +5,8 @@ namespace {
 
 // p of degree 8.
 struct La {
-  static constexpr float q[] = {-0.5f, 0.333365649f, -0.250046641f, 0.198225036f, -0.164624572f,
-                                0.169648811f, -0.151772052f};
+  static constexpr float q[] = {-0.5f,         0.333365649f, -0.250046641f, 0.198225036f,
+                                -0.164624572f, 0.169648811f, -0.151772052f};
   static f32x4 sum(f32x4 p, f32x4 k) { return p + k * 0.693147182f; }
 };
 

@@ -19,8 +19,9 @@ struct Log10LaD : Core<double> {
     const ShortD f(x);
     const f64x2 m_hi = and_bits(f.m, splat_u64(0xFFFFFFFFFFFFFC00)), m_lo = f.m - m_hi;
     const f64x2 v = (m_hi * f.c - 1.0) + m_lo * f.c, v2 = v * v;
-    const f64x2 p = 0.43429448190325182 * v + v2 * ((-0.21714724095157728 + 0.14476482730097556 * v) +
-                                         v2 * (-0.10857375315018218 + 0.086859055590810946 * v));
+    const f64x2 p =
+        0.43429448190325182 * v + v2 * ((-0.21714724095157728 + 0.14476482730097556 * v) +
+                                        v2 * (-0.10857375315018218 + 0.086859055590810946 * v));
     return short_sum(f, x, table, 0.3010299956639812, p);
   }
   static int special(const double* a, double* out) { return vdlog10_cout_rare(a, out); }

@@ -24,16 +24,13 @@ struct Log10HaS : Core<float> {
     const f32x4 r = (m_hi * c - 0.43359375f) + m_lo * c;
     const f32x4 k = _mm_cvtepi32_ps((__m128i)((image >> 23) - 127));
 
-    const auto at = [&](int row) { return (const __m64*)rows + (row - first_row); };
-    const __m128i index = as<__m128i>(c);
-    const f32x4 none = {};
-    const f32x4 row01 = _mm_loadh_pi(_mm_loadl_pi(none, at(_mm_extract_epi16(index, 1))), at(_mm_extract_epi16(index, 3)));
-    const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, at(_mm_extract_epi16(index, 5))), at(_mm_extract_epi16(index, 7)));
-    const f32x4 l_hi = _mm_shuffle_ps(row01, row23, 0x88), l_lo = _mm_shuffle_ps(row01, row23, 0xDD);
+    const auto row = [](int image) { return (const float*)rows + 2 * (image - first_row); };
+    f32x4 l_hi, l_lo;
+    gather_pairs(row(word<1>(c)), row(word<3>(c)), row(word<5>(c)), row(word<7>(c)), l_hi, l_lo);
 
     const f32x4 a = k * 0.30103302f + l_hi, b = k * -3.02435365e-06f + l_lo;
     const f32x4 s = a + r, e = r - (s - a);  // |a| > |r|, or a = 0
-    const f32x4 q = r * (0.00161610241f + r * (-1.15502596f + r * 1.77590978f));
+    const f32x4 q = r * horner(r, 0.00161610241f, -1.15502596f, 1.77590978f);
     return s + (e + (b + q));
   }
   static int special(const float* a, float* out) { return vslog10_cout_rare(a, out); }

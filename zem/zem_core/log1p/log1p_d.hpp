@@ -25,7 +25,8 @@ alignas(16) inline constexpr double log1p_rows_d_la[] = {
 
 inline int vdlog1p_cout_rare(const double* a, double* out) { return ln_rare(*a + 1.0, out); }
 
-template <class Level> struct Log1pD : Core<double> {
+template <class Level>
+struct Log1pD : Core<double> {
   static constexpr char name[] = "vdLog1p";
   static f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= as<u32x4>((f64x2)_mm_cmplt_pd(x, splat(-0.99999999999999989))) |

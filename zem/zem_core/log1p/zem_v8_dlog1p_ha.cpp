@@ -10,12 +10,12 @@ struct Log1pHa {
 #include "log1p/rows_d_ha.inc"
   };
   static f64x2 sum(const ShortD& f, f64x2 s, f64x2 r, f64x2 e2) {
-    const f64x2 row0 = *(const f64x2*)rows[f.row0()], row1 = *(const f64x2*)rows[f.row1()];
+    f64x2 l_hi, l_lo;
+    gather_pairs(rows[f.row0()], rows[f.row1()], l_hi, l_lo);
     const f64x2 k = exponent_less(s, 0.0);
-    const f64x2 a = (f64x2)_mm_unpacklo_pd(row0, row1) + k * 0.69314718055829871;
-    const f64x2 b = (f64x2)_mm_unpackhi_pd(row0, row1) + k * 1.6465949582866463e-12;
+    const f64x2 a = l_hi + k * 0.69314718055829871, b = l_lo + k * 1.6465949582866463e-12;
     const f64x2 v = r + e2, v_error = e2 - (v - r);  // r = 0 or e2 below it where it counts
-    const f64x2 y = a + v, y_error = v - (y - a);        // a = 0 or above v
+    const f64x2 y = a + v, y_error = v - (y - a);    // a = 0 or above v
     return y + (y_error + ((b + v_error) + log1p_degree5(v)));
   }
 };

@@ -22,14 +22,12 @@ struct Log1pHaS : Log1pS {
     const f32x4 scale = as<f32x4>(0x7B000000 - (image & 0x7F800000));
     const f32x4 e2 = e * (scale * c);
 
-    const auto at = [&](int c_value) { return (const __m64*)rows + (c_value - 128); };
-    const __m128i index = as<__m128i>(t);  // c in the low half of each lane
-    const f32x4 none = {};
-    const f32x4 row01 = _mm_loadh_pi(_mm_loadl_pi(none, at(_mm_extract_epi16(index, 0))), at(_mm_extract_epi16(index, 2)));
-    const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, at(_mm_extract_epi16(index, 4))), at(_mm_extract_epi16(index, 6)));
+    // c in the low half of each lane of t.
+    const auto row = [](int c_value) { return (const float*)rows + 2 * (c_value - 128); };
+    f32x4 l_hi, l_lo;
+    gather_pairs(row(word<0>(t)), row(word<2>(t)), row(word<4>(t)), row(word<6>(t)), l_hi, l_lo);
     const f32x4 k = _mm_cvtepi32_ps((__m128i)(image >> 23));
-    const f32x4 a = (f32x4)_mm_shuffle_ps(row01, row23, 0x88) + k * 0.693145752f;
-    const f32x4 b = (f32x4)_mm_shuffle_ps(row01, row23, 0xDD) + k * 1.42859062e-06f;
+    const f32x4 a = l_hi + k * 0.693145752f, b = l_lo + k * 1.42859062e-06f;
 
     const f32x4 v = r + e2, v_error = e2 - (v - r);  // r = 0 or e2 below it where it counts
     const f32x4 y = a + v, y_error = v - (y - a);    // a = 0 or above v
