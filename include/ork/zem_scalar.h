@@ -28,8 +28,7 @@ void _dSinCos(double x, double* sine, double* cosine);
 void ork_zem_kernel_dSin_SC(const double* a, double* r, int index, const char* name);
 void ork_zem_kernel_dCos_SC(const double* a, double* r, int index, const char* name);
 void ork_zem_kernel_dTan_SC(const double* a, double* r, int index, const char* name);
-void ork_zem_kernel_dSinCos_SC(const double* a, double* r, double* r2, int index,
-                               const char* name);
+void ork_zem_kernel_dSinCos_SC(const double* a, double* r, double* r2, int index, const char* name);
 
 /* The same with the name of their level: "dSin_HA", "dSin_LA", "dSin_A11" and so on. All
  * levels compute alike. */

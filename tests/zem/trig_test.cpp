@@ -24,25 +24,59 @@ struct Function {
   const char* reports_s[3];
   double la_d, ha_d, la_s, ha_s;
 };
-const Function functions[] = {
-    {"Sin", sinq, nullptr, {"vdSin", "vdSin", "vdSin"}, {"sSin_LA", "sSin_HA", "sSin_A11"}, 3.4, 0.6, 2, 0.85},
-    {"Cos", cosq, nullptr, {"vdCos", "vdCos", "vdCos"}, {"sCos_LA", "sCos_HA", "sCos_A11"}, 3.4, 0.6, 2, 0.85},
-    {"SinCos", sinq, cosq, {"dSinCos_LA", "vdSinCos", "vdSinCos"},
-     {"sSinCos_LA", "sSinCos_HA", "sSinCos_A11"}, 2, 0.6, 2, 0.55},
-    {"Tan", tanq, nullptr, {"dTan_LA", "dTan_HA", "dTan_A11"}, {"sTan_LA", "sTan_HA", "sTan_A11"}, 2.8, 0.6, 2, 0.55}};
+const Function functions[] = {{"Sin",
+                               sinq,
+                               nullptr,
+                               {"vdSin", "vdSin", "vdSin"},
+                               {"sSin_LA", "sSin_HA", "sSin_A11"},
+                               3.4,
+                               0.6,
+                               2,
+                               0.85},
+                              {"Cos",
+                               cosq,
+                               nullptr,
+                               {"vdCos", "vdCos", "vdCos"},
+                               {"sCos_LA", "sCos_HA", "sCos_A11"},
+                               3.4,
+                               0.6,
+                               2,
+                               0.85},
+                              {"SinCos",
+                               sinq,
+                               cosq,
+                               {"dSinCos_LA", "vdSinCos", "vdSinCos"},
+                               {"sSinCos_LA", "sSinCos_HA", "sSinCos_A11"},
+                               2,
+                               0.6,
+                               2,
+                               0.55},
+                              {"Tan",
+                               tanq,
+                               nullptr,
+                               {"dTan_LA", "dTan_HA", "dTan_A11"},
+                               {"sTan_LA", "sTan_HA", "sTan_A11"},
+                               2.8,
+                               0.6,
+                               2,
+                               0.55}};
 
-template <class T> const char* report_name(const Function& f, int level) {
+template <class T>
+const char* report_name(const Function& f, int level) {
   return sizeof(T) == 8 ? f.reports_d[level] : f.reports_s[level];
 }
 
-template <class T> Call<T> kernel(const char* function, int level) {
+template <class T>
+Call<T> kernel(const char* function, int level) {
   for (const Slot& slot : slots)
-    if (slot.type == (sizeof(T) == 8 ? 'd' : 's') && strcmp(slot.function, function) == 0) return {&slot, level};
+    if (slot.type == (sizeof(T) == 8 ? 'd' : 's') && strcmp(slot.function, function) == 0)
+      return {&slot, level};
   ADD_FAILURE() << function;
   return {};
 }
 
-template <class T> class Trig : public testing::Test {};
+template <class T>
+class Trig : public testing::Test {};
 using Types = testing::Types<double, float>;
 TYPED_TEST_SUITE(Trig, Types);
 
@@ -56,19 +90,23 @@ TYPED_TEST(Trig, SpecialValues) {
       table.cases = {{.a = inf<T>, .r = nan, .status = ZEM_STATUS_DOMAIN, .r2 = nan},
                      {.a = -inf<T>, .r = nan, .status = ZEM_STATUS_DOMAIN, .r2 = nan},
                      {.a = nan, .r = nan, .r2 = nan},
-                     {.a = from_bits<T>(sizeof(T) == 8 ? 0x7FF0000000000001 : 0x7F800001), .r = nan, .r2 = nan}};
+                     {.a = from_bits<T>(sizeof(T) == 8 ? 0x7FF0000000000001 : 0x7F800001),
+                      .r = nan,
+                      .r2 = nan}};
       // cos 0 is exact at HA; the others promise their bound only.
       if (!both && (!cosine || level == 1))
         for (const T x : {T(0), T(-0.0), tiny, -tiny})
           table.cases.push_back({.a = x, .r = cosine ? T(1) : x});
       if (both && level == 1)
-        for (const T x : {T(0), T(-0.0), tiny, -tiny}) table.cases.push_back({.a = x, .r = x, .r2 = T(1)});
+        for (const T x : {T(0), T(-0.0), tiny, -tiny})
+          table.cases.push_back({.a = x, .r = x, .r2 = T(1)});
       check_special<T>(table);
     }
 }
 
 // Error of `got` in ulp of its type, or relative.
-template <class T> double error_of(T got, quad exact, bool relative) {
+template <class T>
+double error_of(T got, quad exact, bool relative) {
   using L = std::numeric_limits<T>;
   const quad difference = fabsq(quad(got) - exact);
   if (difference == 0) return 0;
@@ -78,7 +116,8 @@ template <class T> double error_of(T got, quad exact, bool relative) {
 
 // Every kernel of `f` at the points; exact[k] are the values of its k-th result.
 template <class T>
-void check_points(const Function& f, const std::vector<T>& points, const std::vector<quad> exact[2]) {
+void check_points(const Function& f, const std::vector<T>& points,
+                  const std::vector<quad> exact[2]) {
   const uint32_t mode = ork_zem_kernel_SetMode(ORK_ZEM_ERRMODE_IGNORE);
   for (int level = 0; level < 3; ++level) {
     const Call<T> call = kernel<T>(f.name, level);
@@ -94,8 +133,8 @@ void check_points(const Function& f, const std::vector<T>& points, const std::ve
         const double error = error_of(r[k][i], exact[k][i], level == 2);
         if (!(error <= worst)) worst = error, at = i;
       }
-      EXPECT_LE(worst, bounds[level]) << call.slot->name(level) << " result " << k << " at " << std::hexfloat
-                                      << points[at] << ": " << r[k][at];
+      EXPECT_LE(worst, bounds[level]) << call.slot->name(level) << " result " << k << " at "
+                                      << std::hexfloat << points[at] << ": " << r[k][at];
     }
   }
   ork_zem_kernel_SetMode(mode);
@@ -106,14 +145,16 @@ void check_points(const Function& f, const std::vector<T>& points, const std::ve
 TYPED_TEST(Trig, BordersAndMultiplesOfHalfPi) {
   using T = TypeParam;
   std::vector<T> centres;
-  for (const double x : {0x1p-252, 0x1p-27, 0.1, 1.0, 90112.0, 10000.0, 9999.0, 10001.0, 128000.0, 0x1p17, 1e7, 0x1p22,
-                         0x1p23, 0x1p24, 0x1p29, 0x1p30, 1e10, 1e22, 3.4e38})
+  for (const double x : {0x1p-252, 0x1p-27, 0.1, 1.0, 90112.0, 10000.0, 9999.0, 10001.0, 128000.0,
+                         0x1p17, 1e7, 0x1p22, 0x1p23, 0x1p24, 0x1p29, 0x1p30, 1e10, 1e22, 3.4e38})
     centres.push_back(T(x));
-  for (int k = 1; k < 2000; k = k < 20 ? k + 1 : k + 37) centres.push_back(T(double(k) * 1.5707963267948966));
+  for (int k = 1; k < 2000; k = k < 20 ? k + 1 : k + 37)
+    centres.push_back(T(double(k) * 1.5707963267948966));
   if (sizeof(T) == 8) {
-    for (const double x : {0x1.6c6cbc45dc8dep+5, 0x1.67e57cdd4dc54p+15, 0x1.635e3d74befcap+15, 0x1.65a1dd290660fp+16,
-                           0x1.9eb7148f354d6p+22, 0x1.d3ecce1f28274p+22, 0x1.d3ecce1f28274p+23, 0x1.b951f1572eba5p+23,
-                           0x1.6ac5b262ca1ffp+849, 1.7976931348623157e308})
+    for (const double x :
+         {0x1.6c6cbc45dc8dep+5, 0x1.67e57cdd4dc54p+15, 0x1.635e3d74befcap+15, 0x1.65a1dd290660fp+16,
+          0x1.9eb7148f354d6p+22, 0x1.d3ecce1f28274p+22, 0x1.d3ecce1f28274p+23,
+          0x1.b951f1572eba5p+23, 0x1.6ac5b262ca1ffp+849, 1.7976931348623157e308})
       centres.push_back(T(x));
     for (int e = 30; e < 1024; e += 7) centres.push_back(T(std::ldexp(1.0, e)));
   } else {
@@ -164,7 +205,7 @@ TYPED_TEST(Trig, PublishedHardCases) {
 TYPED_TEST(Trig, MixedSizes) {
   using T = TypeParam;
   constexpr int n = 150;
-  const T pattern[] = {T(0.5),  T(-3e7), T(1e10), T(2), T(95000), inf<T>, T(-1e5), T(3e38),
+  const T pattern[] = {T(0.5),  T(-3e7), T(1e10), T(2), T(95000),     inf<T>,  T(-1e5), T(3e38),
                        T(-0.0), T(9e6),  T(1.5),  T(7), quiet_nan<T>, T(-2e4), T(0.1)};
   for (const Function& f : functions)
     for (int level = 0; level < 3; ++level) {

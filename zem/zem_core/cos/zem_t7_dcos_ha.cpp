@@ -4,7 +4,7 @@
 
 namespace ork::trig {
 
-// Cosine, double, HA: by table, see table_kernel.hpp. Bound 0.55 ulp.
+// Cosine, double, HA: by table, see table_kernel.hpp. Bound 0.60 ulp.
 struct CosHaD : Core<double> {
   static constexpr char name[] = "vdCos";
   static constexpr unsigned x87 = x87_double;

@@ -4,7 +4,7 @@
 
 namespace ork::trig {
 
-// Sine, double, HA: by table, see table_kernel.hpp. Bound 0.55 ulp.
+// Sine, double, HA: by table, see table_kernel.hpp. Bound 0.60 ulp.
 struct SinHaD : Core<double> {
   static constexpr char name[] = "vdSin";
   static constexpr unsigned x87 = x87_double;

@@ -14,7 +14,8 @@ struct SinCosHaD : Core<double, 1, 2> {
     const Reduced reduced = reduce_pi64(ax);
     const Polynomials p = taylor(reduced.z);
     const f64x2 z = reduced.z, low = reduced.low;
-    const Angle<f64x2> a = gather(rows_pi64, reduced.rows), b = gather(rows_pi64 + quarter_turn, reduced.rows);
+    const Angle<f64x2> a = gather(rows_pi64, reduced.rows),
+                       b = gather(rows_pi64 + quarter_turn, reduced.rows);
     const f64x2 zs = z * a.s_hi, zc = z * b.s_hi;
     const Pair<f64x2> c = table_sum(b, z, p.c * b.s_hi - p.s * zs, b.s_lo - (a.s_hi + zc) * low);
     const Pair<f64x2> s = table_sum(a, z, p.c * a.s_hi + p.s * zc, a.s_lo + (b.s_hi - zs) * low);

@@ -12,7 +12,7 @@ struct SinCosEpS : Core<float, 1, 2> {
   static constexpr unsigned x87 = x87_double;
   ORK_INLINE f32x4 sine(const ModuloPi<f32x4>& x) {
     const f32x4 z = x.r * x.r;
-    return flip(x.r * (splat(0.99988532f) + z * (splat(-0.1659205f) + z * splat(0.0075766016f))), x.sign);
+    return flip(x.r * horner(z, 0.99988532f, -0.1659205f, 0.0075766016f), x.sign);
   }
   ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
     rare |= at_least<limit_10000>(abs(x));

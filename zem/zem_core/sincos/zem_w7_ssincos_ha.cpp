@@ -21,12 +21,11 @@ struct SinCosHaS : Core<float, 1, 2> {
     const f64x2 shifter = splat(6755399441055744.0);  // 1.5 * 2^52
     t = x * splat(0.63661977236758138) + shifter;
     const f64x2 n = t - shifter;
-    const f64x2 r = x - n * splat(1.5707963267923333) - n * splat(2.5633441515945189e-12), z = r * r;
+    const f64x2 r = x - n * splat(1.5707963267923333) - n * splat(2.5633441515945189e-12),
+                z = r * r;
     // A zero keeps its sign through the product.
-    s = r * (splat(1.0) + z * (splat(single_ha_s1) + z * (splat(single_ha_s2) +
-                          z * (splat(single_ha_s3) + z * splat(single_ha_s4)))));
-    c = splat(1.0) + z * (splat(-0.5) + z * (splat(0.041666645682975567) +
-                          z * (splat(-0.0013887316254360454) + z * splat(2.4433157058349041e-05))));
+    s = r * horner(z, 1.0, single_ha_s1, single_ha_s2, single_ha_s3, single_ha_s4);
+    c = horner(z, 1.0, -0.5, 0.041666645682975567, -0.0013887316254360454, 2.4433157058349041e-05);
   }
   ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
     rare |= at_least<limit_10000>(abs(x));

@@ -19,12 +19,14 @@ struct SinCosLaS : Core<float, 1, 2> {
     const f32x4 t = ax * splat(0.636619747f) + shifter, n = t - shifter;
     const f32x4 r2 = ax - n * splat(1.5703125f) - n * splat(0.000483751297f);
     // The last two parts as a sum, and then its rounding error.
-    const f32x4 third = n * splat(0x1.444p-24f), fourth = n * splat(2.5633441e-12f), sum = third + fourth;
+    const f32x4 third = n * splat(0x1.444p-24f), fourth = n * splat(2.5633441e-12f),
+                sum = third + fourth;
     const f32x4 r = (r2 - sum) - ((third - sum) + fourth), z = r * r;
-    const f32x4 s = r + r * z * (splat(-0.16666654612881793f) +
-                                 z * (splat(0.0083321607615217657f) + z * splat(-0.00019515283190447318f)));
-    const f32x4 c = splat(1.0f) + z * (splat(-0.5f) + z * (splat(0.041666645682975567f) +
-                                       z * (splat(-0.0013887316254360454f) + z * splat(2.4433157058349041e-05f))));
+    const f32x4 s =
+        r +
+        r * z * horner(z, -0.16666654612881793f, 0.0083321607615217657f, -0.00019515283190447318f);
+    const f32x4 c = horner(z, 1.0f, -0.5f, 0.041666645682975567f, -0.0013887316254360454f,
+                           2.4433157058349041e-05f);
     const Both both = turn_quarters(s, c, as<u32x4>(t));
     cosine = both.cosine;
     return flip(both.sine, sign_of(x));

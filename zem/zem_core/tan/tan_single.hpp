@@ -14,7 +14,8 @@ namespace ork::trig {
 constexpr uint32_t limit_128000_single = 0x47FA0000;
 
 // p[0] is pi^2/4.
-template <int degree> ORK_INLINE f64x2 tangent_half(f64x2 x, f64x2 n, const double (&p)[degree + 1]) {
+template <int degree>
+ORK_INLINE f64x2 tangent_half(f64x2 x, f64x2 n, const double (&p)[degree + 1]) {
   const f64x2 r = x - n * splat(3.1415926535846666) - n * splat(5.1266883031890378e-12), z = r * r;
   f64x2 sum = splat(p[degree]);
 #pragma GCC unroll 8
@@ -23,7 +24,8 @@ template <int degree> ORK_INLINE f64x2 tangent_half(f64x2 x, f64x2 n, const doub
 }
 
 // n comes from a product in single: |r| may pass pi/2 by 0.7 percent, which the fits allow for.
-template <int degree> ORK_INLINE f32x4 tangent_single(f32x4 x, u32x4& rare, const double (&p)[degree + 1]) {
+template <int degree>
+ORK_INLINE f32x4 tangent_single(f32x4 x, u32x4& rare, const double (&p)[degree + 1]) {
   rare |= at_least<limit_128000_single>(abs(x));
   const __m128i n = _mm_cvtps_epi32(x * splat(0.318309873f));
   const Widened w = widen(x);

@@ -16,10 +16,8 @@ struct TanEpD : Core<double> {
     const f64x2 r = ax - n * splat(1.5707962512969971) - n * splat(7.5497894158615964e-08) -
                     n * splat(5.390302858158119e-15);
     const f64x2 z = r * r;
-    const f64x2 p = splat(1.1559034178886809) +
-                    z * (splat(-0.12872306814578047) + z * splat(0.0012427749419586368));
-    const f64x2 q = splat(1.1559034178631502) +
-                    z * (splat(-0.51402420551256156) + z * splat(0.018463698006558116));
+    const f64x2 p = horner(z, 1.1559034178886809, -0.12872306814578047, 0.0012427749419586368);
+    const f64x2 q = horner(z, 1.1559034178631502, -0.51402420551256156, 0.018463698006558116);
     return tangent_ratio(x, t, r * p, q);
   }
   static int special(const double* x, double* r) { return scalar<_dTan>(x, r); }

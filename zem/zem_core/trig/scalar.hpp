@@ -11,14 +11,16 @@ ORK_INLINE int status_of(double x) {
   return __builtin_isinf(x) ? ZEM_STATUS_DOMAIN : ZEM_STATUS_NONE;
 }
 
-template <double (*f)(double), class T> inline int scalar(const T* x, T* r) {
+template <double (*f)(double), class T>
+inline int scalar(const T* x, T* r) {
   const X87Guard<x87_double> x87;
   const double value = *x;
   *r = (T)f(value);
   return status_of(value);
 }
 
-template <class T> inline int scalar_sincos(const T* x, T* r, T* r2) {
+template <class T>
+inline int scalar_sincos(const T* x, T* r, T* r2) {
   const X87Guard<x87_double> x87;
   const double value = *x;
   double sine, cosine;

@@ -8,7 +8,9 @@ struct Widened {
   f64x2 low, high;
 };
 ORK_INLINE Widened widen(f32x4 x) { return {_mm_cvtps_pd(x), _mm_cvtps_pd(_mm_movehl_ps(x, x))}; }
-ORK_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high)); }
+ORK_INLINE f32x4 narrow(f64x2 low, f64x2 high) {
+  return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high));
+}
 
 // The low words of four doubles: of t = n + 1.5 * 2^52, the integers n.
 ORK_INLINE f32x4 low_words(f64x2 low, f64x2 high) {

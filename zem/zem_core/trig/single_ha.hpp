@@ -13,8 +13,7 @@ namespace ork::trig {
 ORK_INLINE f64x2 sine_single_ha(f64x2 x, f64x2 n) {
   const f64x2 r = x - n * splat(3.1415926535846666) - n * splat(5.1266883031890378e-12);
   const f64x2 z = r * r;
-  return r * (splat(1.0000000019999999) +
-              z * (splat(-0.166666589) + z * (splat(0.008333075) + z * (splat(-0.000198107) + z * splat(2.608e-06)))));
+  return r * horner(z, 1.0000000019999999, -0.166666589, 0.008333075, -0.000198107, 2.608e-06);
 }
 
 }  // namespace ork::trig

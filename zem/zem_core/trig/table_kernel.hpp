@@ -31,9 +31,8 @@ struct Polynomials {
 };
 ORK_INLINE Polynomials taylor(f64x2 z) {
   const f64x2 z2 = z * z;
-  return {z2 * (splat(-0.16666666666666666) +
-                z2 * (splat(0.008333333333333333) - z2 * splat(0.0001984126984126984))),
-          z2 * (splat(-0.5) + z2 * (splat(0.041666666666666664) - z2 * splat(0.001388888888888889)))};
+  return {z2 * horner(z2, -0.16666666666666666, 0.008333333333333333, -0.0001984126984126984),
+          z2 * horner(z2, -0.5, 0.041666666666666664, -0.001388888888888889)};
 }
 
 ORK_INLINE f64x2 sine_ha(const Reduced& x, const Polynomials& p, int turn) {
