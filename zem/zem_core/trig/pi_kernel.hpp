@@ -90,14 +90,14 @@ struct PiLaD : PiEpD {
                                  -7.3733445331106646e-13};
 };
 
-// Single, LA: relative error of the polynomial 6e-9 (given). pi in parts of 8, 11 and 11 bits and
-// the rest (rule).
+// Single, LA: error of the polynomial below 0.1 ulp; the last two coefficients are fitted with the
+// others as floats. pi in parts of 8, 11 and 11 bits and the rest (rule).
 struct PiLaS {
   using type = float;
   static constexpr float inverse = 0.318309873f, half_pi = 1.57079637f,
                          shifter = 12582912.0f;  // 1.5 * 2^23
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 0x1.444p-23f, 5.1266883e-12f};
-  static constexpr float c[] = {-0.1666666f, 0.0083330665f, -0.00019809602f, 2.6057805e-06f};
+  static constexpr float c[] = {-0.1666666f, 0.0083330665f, -0.000198095309f, 2.60557431e-06f};
 };
 
 // Single, EP: 1.509958e-07 is all that the first two parts leave.
