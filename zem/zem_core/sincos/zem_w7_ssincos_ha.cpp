@@ -6,7 +6,7 @@
 
 namespace ork::trig {
 
-#include "sincos/sine_fit.inc"
+#include "trig/sine_fits.inc"
 
 // Sine and cosine, single, HA, in double: x = n pi/2 + r, |r| <= pi/4,
 //   sin r = r (1 + s_1 r^2 + ... + s_4 r^8), relative error 5.1e-12 (fit)
@@ -24,7 +24,7 @@ struct SinCosHaS : Core<float, 1, 2> {
     const f64x2 r = x - n * splat(1.5707963267923333) - n * splat(2.5633441515945189e-12),
                 z = r * r;
     // A zero keeps its sign through the product.
-    s = r * horner(z, 1.0, single_ha_s1, single_ha_s2, single_ha_s3, single_ha_s4);
+    s = r * horner(z, 1.0, quarter_s1, quarter_s2, quarter_s3, quarter_s4);
     c = horner(z, 1.0, -0.5, 0.041666645682975567, -0.0013887316254360454, 2.4433157058349041e-05);
   }
   ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {

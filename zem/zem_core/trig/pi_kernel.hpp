@@ -90,19 +90,23 @@ struct PiLaD : PiEpD {
                                  -7.3733445331106646e-13};
 };
 
-// Single, LA: error of the polynomial below 0.1 ulp; the last two coefficients are fitted with the
-// others as floats. pi in parts of 8, 11 and 11 bits and the rest (rule).
+#include "trig/sine_fits.inc"
+
+// Single, LA: error of the polynomial below 0.1 ulp (fit). pi in parts of 8, 11 and 11 bits and the
+// rest (rule).
 struct PiLaS {
   using type = float;
   static constexpr float inverse = 0.318309873f, half_pi = 1.57079637f,
                          shifter = 12582912.0f;  // 1.5 * 2^23
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 0x1.444p-23f, 5.1266883e-12f};
-  static constexpr float c[] = {-0.1666666f, 0.0083330665f, -0.000198095309f, 2.60557431e-06f};
+  static constexpr float c[] = {sine_s1, sine_s2, sine_s3, sine_s4};
 };
 
-// Single, EP: 1.509958e-07 is all that the first two parts leave.
+// Single, EP: relative error of the polynomial 6e-9 (given); 1.509958e-07 is all that the first
+// two parts leave.
 struct PiEpS : PiLaS {
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 1.509958e-07f};
+  static constexpr float c[] = {-0.1666666f, 0.0083330665f, -0.00019809602f, 2.6057805e-06f};
 };
 
 // Double: sine below 2^24; cosine, whose n has a bit more, below 2^23.
