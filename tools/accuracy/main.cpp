@@ -17,6 +17,7 @@
 #include "accuracy/points.hpp"
 #include "accuracy/reference.hpp"
 #include "accuracy/report.hpp"
+#include "accuracy/sift.hpp"
 #include "registry/claims.hpp"
 #include "registry/kernels.hpp"
 
@@ -61,19 +62,12 @@ const Slot* double_twin(const Slot& slot) {
   return nullptr;
 }
 
-// 2^(23 - e) for a magnitude in [2^e, 2^(e+1)), e at least -126: what turns a difference into
-// ulp of single precision.
-double ulps_per_unit(double magnitude) {
-  const int e = std::max(int(std::bit_cast<uint64_t>(magnitude) >> 52) - 1023, -126);
-  return std::bit_cast<double>(uint64_t(1023 + 23 - e) << 52);
-}
-
 // The same for all 2^32 arguments, in minutes: the double HA kernel, some 2^-29 ulp of single
 // off, sifts; what it finds worse than the worst so far is measured against the reference.
 void sift_block(const Reference& reference, const Slot& slot, const Slot& twin, std::vector<Measured>& kernels,
                 const float* a, int n) {
-  static thread_local double wide[block], near[2][block];
-  static thread_local float r[2][block];
+  alignas(16) static thread_local double wide[block], near[2][block];
+  alignas(16) static thread_local float r[2][block];
   constexpr double overflow = 0x1.ffffffp127;  // from here on an infinity is right
   const int outputs = slot.form == Form::two ? 2 : 1;
   for (int i = 0; i < n; ++i) wide[i] = a[i];
@@ -81,15 +75,17 @@ void sift_block(const Reference& reference, const Slot& slot, const Slot& twin, 
   for (Measured& m : kernels) {
     Call<float>{&slot, m.level}(n, a, a, r[0], r[1]);
     for (int k = 0; k < outputs; ++k)
-      for (int i = 0; i < n; ++i) {
-        const double got = r[k][i], exact = near[k][i], magnitude = std::fabs(exact);
-        if (got == exact || (got != got && exact != exact)) continue;
-        if (magnitude >= overflow && got == (exact > 0 ? INFINITY : -INFINITY)) continue;
-        const double unit = m.claim.relative ? 1 / std::max(magnitude, 0x1p-126) : ulps_per_unit(magnitude);
-        if (std::fabs(got - exact) * unit <= m.worst.error) continue;
-        const long double truth = Wide<float>::call(reference, k, a[i], 0);
-        const double error = error_of(r[k][i], truth, m.claim.relative);
-        if (error > m.worst.error) m.worst = {error, double(a[i]), 0, got, double(truth), m.worst.points};
+      for (int pair = 0; pair < n; pair += 2) {
+        const int suspects = worse_pair(r[k] + pair, near[k] + pair, m.worst.error, m.claim.relative);
+        for (int i = pair; i < pair + 2; ++i) {
+          if (!(suspects >> (i - pair) & 1)) continue;
+          const double got = r[k][i], exact = near[k][i];
+          if (got == exact || (got != got && exact != exact)) continue;
+          if (std::fabs(exact) >= overflow && got == (exact > 0 ? INFINITY : -INFINITY)) continue;
+          const long double truth = Wide<float>::call(reference, k, a[i], 0);
+          const double error = error_of(r[k][i], truth, m.claim.relative);
+          if (error > m.worst.error) m.worst = {error, double(a[i]), 0, got, double(truth), m.worst.points};
+        }
       }
     m.worst.points += n;
   }
