@@ -1,8 +1,8 @@
 // MT19937: the Mersenne Twister of period 2^19937 - 1.
-#include "rua_sub_kernel/mt19937/mersenne_twister.hpp"
-
 #include "frame/export.hpp"
+#include "rua_sub_kernel/mt19937/mersenne_twister.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
+#include "rua_sub_kernel/skip_ahead/skip_ahead.hpp"
 
 using namespace ork::rua;
 
@@ -25,6 +25,34 @@ int32_t generate(RuaStream* stream, int32_t n, Output out) {
   return RUA_STATUS_OK;
 }
 
+constexpr uint16_t kExponents[] = {
+#include "rua_sub_kernel/mt19937/mt19937_poly.inc"
+};
+constexpr SparsePolynomial kCharacteristic{kExponents, sizeof kExponents / sizeof kExponents[0]};
+
+struct Step {
+  static constexpr uint32_t kUnit = 1;
+  static void step(uint32_t* w, uint32_t k) {
+    const auto at = [w](uint32_t i) { return w[i < kN ? i : i - kN]; };
+    const uint32_t next = at(k + 1), y = (w[k] & ~kLower) | (next & kLower);
+    w[k] = at(k + kM) ^ y >> 1 ^ (next & 1 ? kMatrixA : 0);
+  }
+  static void round(uint32_t (&w)[kN]) { rewrite_block<kN, kM, kLower>(w, kMatrixA); }
+};
+
+int32_t skip(Mt19937& s, int64_t n) {
+  if (n < 0) return RUA_STATUS_NO_SKIPAHEAD;
+  s.index = int32_t(std::min(uint32_t(s.index), kN));  // matters for a damaged state only
+  const int64_t left = int64_t{kN} - s.index;          // of the block
+  if (n <= left) {
+    s.index += int32_t(n);
+    return RUA_STATUS_OK;
+  }
+  const int32_t status = skip_ahead<Step>(s.mt, uint64_t(n - left), kCharacteristic);
+  if (status == RUA_STATUS_OK) s.index = kN;
+  return status;
+}
+
 }  // namespace
 
 ORK_EXPORT int32_t __ruaBRngMT19937InitStream(int32_t method, RuaStream* stream, int32_t n,
@@ -38,7 +66,7 @@ ORK_EXPORT int32_t __ruaBRngMT19937InitStream(int32_t method, RuaStream* stream,
     case kLeapfrog:
       return RUA_STATUS_NO_LEAPFROG;
     case kSkipAhead:
-      return RUA_STATUS_NO_SKIPAHEAD;
+      return skip(s, int64_t(join(params[0], params[1])));
     default:
       return RUA_STATUS_BAD_METHOD;
   }

@@ -6,6 +6,7 @@
 #include "frame/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/service/words.hpp"
+#include "rua_sub_kernel/skip_ahead/skip_ahead.hpp"
 
 using namespace ork::rua;
 
@@ -58,17 +59,20 @@ void seed(Sfmt19937& s, int32_t n, const uint32_t* params) {
 
 // B[i] <- B[i] ^ B[i] << 8 (128 bits) ^ B[i + 122] >> 11 & mask ^ B[i - 2] >> 8 (128 bits)
 //         ^ B[i - 1] << 18
-void rewrite_block(uint32_t (&w)[kN]) {
+inline __m128i renew(__m128i a, __m128i b, __m128i c, __m128i d) {
   const __m128i mask = _mm_setr_epi32(int32_t(0xDFFFFFEF), int32_t(0xDDFECB7F),
                                       int32_t(0xBFFAFFFF), int32_t(0xBFFFFFF6));
+  __m128i z = _mm_xor_si128(a, _mm_slli_si128(a, 1));
+  z = _mm_xor_si128(z, _mm_and_si128(_mm_srli_epi32(b, 11), mask));
+  z = _mm_xor_si128(z, _mm_srli_si128(c, 1));
+  return _mm_xor_si128(z, _mm_slli_epi32(d, 18));
+}
+
+void rewrite_block(uint32_t (&w)[kN]) {
   __m128i c = load4(w + kN - 8), d = load4(w + kN - 4);
   const auto stretch = [&](uint32_t i, uint32_t end, uint32_t ahead) {
     for (; i < end; i += 4) {
-      const __m128i a = load4(w + i), b = load4(w + (i + ahead));
-      __m128i z = _mm_xor_si128(a, _mm_slli_si128(a, 1));
-      z = _mm_xor_si128(z, _mm_and_si128(_mm_srli_epi32(b, 11), mask));
-      z = _mm_xor_si128(z, _mm_srli_si128(c, 1));
-      z = _mm_xor_si128(z, _mm_slli_epi32(d, 18));
+      const __m128i z = renew(load4(w + i), load4(w + (i + ahead)), c, d);
       store4(w + i, z);
       c = d;
       d = z;
@@ -76,6 +80,55 @@ void rewrite_block(uint32_t (&w)[kN]) {
   };
   stretch(0, kN - kAhead, kAhead);
   stretch(kN - kAhead, kN, kAhead - kN);  // i + kAhead - kN, modulo 2^32
+}
+
+constexpr uint16_t kExponents[] = {
+#include "rua_sub_kernel/sfmt19937/sfmt19937_poly.inc"
+};
+constexpr SparsePolynomial kCharacteristic{kExponents, sizeof kExponents / sizeof kExponents[0]};
+
+struct Step {
+  static constexpr uint32_t kUnit = 4;
+  static void step(uint32_t* w, uint32_t k) {
+    const auto at = [w](uint32_t i) { return load4(w + (i < kN ? i : i - kN)); };
+    store4(w + k, renew(load4(w + k), at(k + kAhead), at(k + kN - 8), at(k + kN - 4)));
+  }
+  static void round(uint32_t (&w)[kN]) { rewrite_block(w); }
+};
+
+// Only a state that was not made here has places out of bounds.
+void bring_into_bounds(Sfmt19937& s) {
+  s.index = int32_t(std::min(uint32_t(s.index), kN) & ~3u);
+  s.restEnd = std::clamp(s.restEnd, 0, 3);
+  s.restNext = std::clamp(s.restNext, 0, s.restEnd);
+}
+
+// Leaves the words of the block that ends at `index`, from place `from` of it on, to be delivered.
+void keep_rest(Sfmt19937& s, uint32_t from) {
+  s.restNext = s.restEnd = 0;
+  for (uint32_t i = from; i < 4; ++i) s.rest[s.restEnd++] = s.sfmt[s.index - 4 + i];
+}
+
+int32_t skip(Sfmt19937& s, int64_t n) {
+  if (n < 0) return RUA_STATUS_NO_SKIPAHEAD;
+  bring_into_bounds(s);
+  const int64_t rest = s.restEnd - s.restNext;
+  if (n <= rest) {
+    s.restNext += int32_t(n);
+    return RUA_STATUS_OK;
+  }
+  const uint64_t end = uint64_t(s.index) + uint64_t(n - rest);  // the first place not passed over
+  if (end <= kN) {
+    s.index = int32_t(end + 3) & ~3;
+  } else {
+    const uint64_t blocks = (end - kN + 3) / 4;
+    const int32_t status = skip_ahead<Step>(s.sfmt, blocks, kCharacteristic);
+    if (status != RUA_STATUS_OK) return status;
+    s.index = kN;
+  }
+  s.restNext = s.restEnd;
+  if (end % 4 != 0) keep_rest(s, uint32_t(end % 4));
+  return RUA_STATUS_OK;
 }
 
 // The word as a signed number: word t + c, c being the middle of the interval.
@@ -112,11 +165,9 @@ struct Floats {
 template <class Output>
 int32_t generate(RuaStream* stream, int32_t n, Output out) {
   Sfmt19937& s = state<Sfmt19937>(stream);
-  // Bounds matter only for a state that was not made here.
-  s.restEnd = std::clamp(s.restEnd, 0, 3);
-  s.restNext = std::clamp(s.restNext, 0, s.restEnd);
+  bring_into_bounds(s);
   for (; n > 0 && s.restNext < s.restEnd; --n) out.put(s.rest[s.restNext++]);
-  uint32_t k = std::min(uint32_t(s.index), kN) & ~3u;
+  uint32_t k = uint32_t(s.index);
   while (n > 0) {
     if (k == kN) {
       rewrite_block(s.sfmt);
@@ -125,12 +176,11 @@ int32_t generate(RuaStream* stream, int32_t n, Output out) {
     const uint32_t end = k + std::min(uint32_t(n), kN - k);
     n -= end - k;
     for (; k + 4 <= end; k += 4) out.put4(load4(s.sfmt + k));
+    s.index = int32_t(k);
     if (k == end) continue;
-    while (k < end) out.put(s.sfmt[k++]);
-    s.restNext = s.restEnd = 0;
-    while (k % 4 != 0) s.rest[s.restEnd++] = s.sfmt[k++];
+    for (s.index += 4; k < end; ++k) out.put(s.sfmt[k]);
+    keep_rest(s, k % 4);
   }
-  s.index = int32_t(k);
   return RUA_STATUS_OK;
 }
 
@@ -145,7 +195,7 @@ ORK_EXPORT int32_t __ruaBRngSFMT19937InitStream(int32_t method, RuaStream* strea
     case kLeapfrog:
       return RUA_STATUS_NO_LEAPFROG;
     case kSkipAhead:
-      return RUA_STATUS_NO_SKIPAHEAD;
+      return skip(state<Sfmt19937>(stream), int64_t(join(params[0], params[1])));
     default:
       return RUA_STATUS_BAD_METHOD;
   }

@@ -63,8 +63,8 @@ uint32_t power(uint32_t base, uint64_t exponent, uint32_t m) {
 // a x mod m. The quotient is not an integer (m is prime), so it is 1/m away from one at least,
 // and rounding does not matter to its floor.
 uint32_t multiply(uint32_t a, uint32_t x, uint32_t m) {
-  const auto q = int32_t(double(a) * double(x) / double(m));
-  return a * x - uint32_t(q) * m;
+  const __m128d q = _mm_set_sd(double(a) * double(x) / double(m));
+  return a * x - uint32_t(_mm_cvttsd_si32(q)) * m;
 }
 
 void seed(Wh& s, const Member& member, int32_t n, const uint32_t* params) {
