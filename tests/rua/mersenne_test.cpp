@@ -20,7 +20,7 @@ TEST_F(Mersenne, Mt19937PublishedOutput) {
 }
 
 TEST_F(Mersenne, Sfmt19937PublishedOutput) {
-  std::ifstream in(std::string(ORK_SOURCE_DIR) + "/../shared/data/sfmt19937_known_answers.tsv");
+  std::ifstream in(ORK_SOURCE_DIR "/../shared/data/sfmt19937_known_answers.tsv");
   if (!in) GTEST_SKIP() << "published outputs are not there";
   Stream s(RUA_BRNG_SFMT19937, {0x1234, 0x5678, 0x9abc, 0xdef0});
   const auto z = s.integers(1000);
