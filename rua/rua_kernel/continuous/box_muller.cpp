@@ -14,8 +14,7 @@ int32_t box_muller(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
     m = n < kBlock ? n : kBlock;
     const int32_t status = uniform(stream, 2 * m, u, 0, 1);
     if (status < 0) return status;
-    split(m, u, magnitude, angle);
-    each(m, angle, [](auto x) { return x * kTwoPi<R>; });
+    split(m, u, magnitude, angle, [](auto x) { return x * kTwoPi<R>; });
     apply(Tables<R>::sin, m, angle);
     R* const radius = u;
     radii(m, magnitude, radius);

@@ -58,8 +58,7 @@ inline int32_t whole_pairs(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
     m = n < kBlock ? n : kBlock;
     const int32_t status = uniform(stream, 2 * m, u, 0, 1);
     if (status < 0) return status;
-    split(m, u, magnitude, sine);
-    each(m, sine, [](auto x) { return x * kTwoPi<R>; });
+    split(m, u, magnitude, sine, [](auto x) { return x * kTwoPi<R>; });
     sin_cos(m, sine, cosine);
     R* const radius = u;
     radii(m, magnitude, radius);

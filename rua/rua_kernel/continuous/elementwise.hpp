@@ -77,20 +77,20 @@ ORK_INLINE f64x2 odds(f64x2 a, f64x2 b) { return _mm_unpackhi_pd(a, b); }
 ORK_INLINE f32x4 evens(f32x4 a, f32x4 b) { return _mm_shuffle_ps(a, b, 0x88); }
 ORK_INLINE f32x4 odds(f32x4 a, f32x4 b) { return _mm_shuffle_ps(a, b, 0xDD); }
 
-// first[i], second[i] <- pairs[2 i], pairs[2 i + 1]. One of them may be `pairs` itself.
-template <class R>
-inline void split(int32_t n, const R* pairs, R* first, R* second) {
+// first[i], second[i] <- pairs[2 i], f(pairs[2 i + 1]). One of them may be `pairs` itself.
+template <class R, class F>
+ORK_INLINE void split(int32_t n, const R* pairs, R* first, R* second, F f) {
   constexpr int w = simd<R>::width;
   int32_t i = 0;
   for (; n - i >= w; i += w) {
     const vec_of<R> a = load(pairs + 2 * i), b = load(pairs + 2 * i + w);
     store(first + i, evens(a, b));
-    store(second + i, odds(a, b));
+    store(second + i, f(odds(a, b)));
   }
   for (; i < n; ++i) {
     const R a = pairs[2 * i], b = pairs[2 * i + 1];
     first[i] = a;
-    second[i] = b;
+    second[i] = f(b);
   }
 }
 

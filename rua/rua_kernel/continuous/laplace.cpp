@@ -33,7 +33,7 @@ inline int32_t generate(RuaStream* stream, int32_t n, R* r, R a, R beta) {
     const int32_t status = uniform(stream, 2 * m, u, 0, 1);
     if (status < 0) return status;
     R* selector = u;
-    split(m, u, r, selector);
+    split(m, u, r, selector, [](auto x) { return x; });
     apply(Tables<R>::ln, m, r);
     sign_and_scale(m, selector, r, a, beta);
   }
