@@ -20,10 +20,10 @@ struct HypotEpD : Core<double, 2> {
   }
   static int special(const double* a, const double* b, double* r) {
     return hypot_scalar(a, b, r, [](double x, double y) {
-      const bool large = __builtin_fabs(x) > 1;
-      const double up = large ? 0x1p-600 : 0x1p600, down = large ? 0x1p600 : 0x1p-600;
-      const double p = x * up, q = y * up;
-      return sqrt(splat(p * p + q * q))[0] * down;
+      const double larger = __builtin_fabs(x);
+      const double scale = larger > 0x1p500 ? 0x1p-600 : larger < 0x1p-400 ? 0x1p600 : 1.0;
+      const double p = x * scale, q = y * scale;
+      return sqrt(splat(p * p + q * q))[0] / scale;
     });
   }
 };

@@ -32,7 +32,8 @@ ORK_INLINE bool pow3o2_is_positive(const T* x, T* r, int& status) {
   return false;
 }
 
-// Double. HA: T in two parts, P to degree 7; within 0.53 ulp. LA: T in one word, a fit of
+// Double. HA: T in two parts, P to degree 7; within 0.53 ulp where
+// the low part is normal. LA: T in one word, a fit of
 // degree 5. EP: the first 3 terms, relative error 2^-29.
 // Fast: 2^-680 <= x < 2^681. special: the rest; above it the result is x^2, infinity.
 template <Level level>
@@ -43,6 +44,12 @@ struct Pow3o2D : Core<double> {
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const u32x4 image = as<u32x4>(x);
     rare |= (image - 0x15700000) | (0x6A7FFFFF - image);
+    f64x2 low;
+    const f64x2 high = parts(x, low);
+    return high + low;
+  }
+  // The result as a sum: the scaled T and the rest.
+  ORK_INLINE f64x2 parts(f64x2 x, f64x2& rest) {
     // 32 exponent + j. The exponent less 1 is odd where the exponent is even.
     const u32x4 index = as<u32x4>(as<u64x2>(x) >> 47);
     const u32x4 row = (index ^ 32) & 63;
@@ -62,7 +69,8 @@ struct Pow3o2D : Core<double> {
           (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
       const f64x2 p =
           r * horner(r, 1.5, 0.375, -0.0625, 0.0234375, k[0], k[1], k[2], k[3]);
-      return s * high + s * (low + high * p);
+      rest = s * (low + high * p);
+      return s * high;
     }
     f64x2 value, reciprocal;
     gather_pairs(&pow3o2_pairs[row0].t, &pow3o2_pairs[row1].t, value, reciprocal);
@@ -71,9 +79,11 @@ struct Pow3o2D : Core<double> {
       constexpr double k[] = {
 #include "pow3o2/series_la.inc"
       };
-      return t + (t * r) * horner(r, k[0], k[1], k[2], k[3], k[4], k[5]);
+      rest = (t * r) * horner(r, k[0], k[1], k[2], k[3], k[4], k[5]);
+    } else {
+      rest = (t * r) * horner(r, 1.5, 0.375, -0.0625);
     }
-    return t + (t * r) * horner(r, 1.5, 0.375, -0.0625);
+    return t;
   }
   static int special(const double* x, double* r) {
     int status;
@@ -82,8 +92,12 @@ struct Pow3o2D : Core<double> {
     if (high < 0x132FF000 || high >= 0x6A800000) {
       *r = *x * *x;
     } else {
-      u32x4 rare{};
-      *r = eval(splat(*x * 0x1p60), rare)[0] * 8.077935669463161e-28;  // 2^-90
+      // Below 2^-932 the sum is rounded where the last bit of a denormal will be, at 2^-984.
+      f64x2 low;
+      const double high = parts(splat(*x * 0x1p60), low)[0];
+      const double grid = high + low[0] < 0x1p-932 ? 0x1p-932 : 0.0;
+      const double sum = grid + high, rest = (high - (sum - grid)) + low[0];
+      *r = (sum + rest - grid) * 8.077935669463161e-28;  // 2^-90
     }
     return ZEM_STATUS_NONE;
   }
