@@ -45,11 +45,17 @@ ORK_INLINE PowPair pow_log2(f64x2 a, double down = 0) {
 
   f64x2 h_high, h_low;
   gather_pairs(pow_logarithms[i0], pow_logarithms[i1], h_high, h_low);
-  const f64x2 whole = k + h_high, sum = whole + w, sum_low = w - (sum - whole);
-  const f64x2 tail =
-      w * horner(w, 9.5979350332335112e-08, -0.3465736568077919, 0.16015105075297303,
-                 -0.083256194960726712, 0.046167041872023737, -0.026667131649815552);
-  const f64x2 rest = tail + (h_low + (w_low + sum_low)), high = sum + rest;
+  const f64x2 whole = k + h_high, first = whole + w, first_low = w - (first - whole);
+  // The quadratic term's main part is an exact product: at b = 2^20 its rounding would show.
+  constexpr double c2 = -0.3465736568077919;
+  constexpr double c2_high = __builtin_bit_cast(double, __builtin_bit_cast(uint64_t, c2) & 0xFFFFFFFC00000000);
+  const f64x2 top = and_bits(w, splat_u64(0xFFFFFFF000000000));  // 17 bits
+  const f64x2 square = (top * c2_high) * top, sum = first + square;
+  const f64x2 sum_low = square - (sum - first);
+  const f64x2 tail = ((w - top) + w_low) * (w + top) * c2_high +
+                     w * horner(w, 9.5979350332335112e-08, c2 - c2_high, 0.16015105075297303,
+                                -0.083256194960726712, 0.046167041872023737, -0.026667131649815552);
+  const f64x2 rest = tail + (h_low + (w_low + (first_low + sum_low))), high = sum + rest;
   return {high, rest - (high - sum)};
 }
 
