@@ -1,7 +1,7 @@
 """Tables of Pow: 1/m with its logarithm to base 2, and powers of two; polynomials of sPow."""
 from mpmath import floor, log, mp, mpf, sign
 
-from _numbers import coefficients, fit, given, number, rounded, table
+from _numbers import coefficients, fit, given, mantissa, number, rounded, table
 
 LOG2E = given("1.4426949024200439", "d")  # high part, 23 bits
 
@@ -54,6 +54,9 @@ def generate():
         at + "logarithms_d.inc": table(
             "pow", "H_i = log2(L/c_i), less 1 from i = 512 on: the high word of the image, and the rest.", logarithms(c)),
         at + "powers_d.inc": table("pow", "2^(j/128), j = 0..127: nearest double and the rest.", powers()),
+        at + "mantissa2048_d.inc": table(
+            "pow", "The 52 mantissa bits of 2^(j/2048), j = 0..2047; exponent field zero.",
+            [[mantissa(mpf(2)**(mpf(j) / 2048), "d")] for j in range(2048)]),
         at + "rows_s.inc": table(
             "pow", "c_i = 1/(1 + i/128) to 24 bits, i = 0..128, and log2(1/c_i), less 1 from i = 64 on.", short_rows()),
         at + "log_s.inc": coefficients(
