@@ -21,13 +21,14 @@ ORK_INLINE f32x4 cbrt_in_double(const CbrtReducedS& x, const CbrtPair<double>* t
 
 // Single cube root, worked out in double: the double scheme with 4 (HA), 3 (LA) and 1 (EP) terms;
 // those left out are below 2^-35, 2^-28 and 2^-15. Fast: normal x.
-template <Level level> struct CbrtS : Core<float> {
+template <Level level>
+struct CbrtS : Core<float> {
   static constexpr char name[] = "vsCbrt";
   static constexpr bool inverse = false;
   static constexpr int vectors = 1;
   static constexpr int terms = level == Level::ha ? 4 : level == Level::la ? 3 : 1;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);
     return cbrt_in_double<terms>(CbrtReducedS::of<inverse>(x), cbrt_pairs, cbrt_series);
   }

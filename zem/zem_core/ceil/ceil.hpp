@@ -4,7 +4,8 @@
 namespace ork {
 
 // Rounds up. A zero difference is +0 in this mode: negative x above -1 need their sign back.
-template <class T> struct Ceil : WholeCore<T> {
+template <class T>
+struct Ceil : WholeCore<T> {
   using typename WholeCore<T>::vec;
   using typename WholeCore<T>::ivec;
   static constexpr unsigned rounding = 0x4000;

@@ -5,8 +5,9 @@
 namespace ork {
 
 // Single division at LA and EP: the reciprocal of b, times a. LA within 4 ulp, EP within 2^-11.
-template <Level level> struct DivFast : Core<float, 2> {
-  static constexpr auto& name = div_name<float>;
+template <Level level>
+struct DivFast : Core<float, 2> {
+  static constexpr char name[] = "vsDiv";
   static f32x4 eval(f32x4 a, f32x4 b, u32x4& rare) {
     rare |= out_of_reach(b);
     return reciprocal<level>(b) * a;

@@ -11,7 +11,7 @@ namespace ork {
 namespace {
 
 struct DivLa : Core<double, 2> {
-  static constexpr auto& name = div_name<double>;
+  static constexpr char name[] = "vdDiv";
   static constexpr Csr csr = Csr::untouched;
   static constexpr unsigned x87 = x87_extended;
 };

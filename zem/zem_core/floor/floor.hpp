@@ -4,7 +4,8 @@
 namespace ork {
 
 // Rounds down. A zero difference is -0 in this mode: the AND leaves the sign only to negative x.
-template <class T> struct Floor : WholeCore<T> {
+template <class T>
+struct Floor : WholeCore<T> {
   using typename WholeCore<T>::vec;
   using typename WholeCore<T>::ivec;
   static constexpr unsigned rounding = 0x2000;

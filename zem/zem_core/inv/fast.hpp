@@ -5,8 +5,9 @@
 namespace ork {
 
 // Single reciprocal at LA and EP. LA within 3 ulp, EP within 2^-11.
-template <Level level> struct InvFast : Core<float> {
-  static constexpr auto& name = inv_name<float>;
+template <Level level>
+struct InvFast : Core<float> {
+  static constexpr char name[] = "vsInv";
   static f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= out_of_reach(x);
     return reciprocal<level>(x);

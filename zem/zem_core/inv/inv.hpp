@@ -3,13 +3,11 @@
 
 namespace ork {
 
-template <class T> inline constexpr char inv_name[] = "vdInv";
-template <> inline constexpr char inv_name<float>[] = "vsInv";
-
 // HA, and LA in double. 1 / x; rare are the zeros.
-template <class T> struct InvHa : Core<T> {
+template <class T>
+struct InvHa : Core<T> {
   using vec = vec_of<T>;
-  static constexpr auto& name = inv_name<T>;
+  static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'I', 'n', 'v', 0};
   static vec eval(vec x, u32x4& rare) {
     rare |= as<u32x4>(x == splat(T(0)));
     return splat(T(1)) / x;

@@ -25,7 +25,7 @@ struct InvCbrtHaS : Core<float> {
   static constexpr bool inverse = true;
   static constexpr int vectors = 1;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);
     return cbrt_in_double<4>(CbrtReducedS::of<inverse>(x), invcbrt_pairs, invcbrt_series);
   }
@@ -34,12 +34,14 @@ struct InvCbrtHaS : Core<float> {
 
 // LA and EP: S T + (S T r) P(r) in single throughout, with 3 and 1 terms; those left out are
 // below 2^-26 and 2^-14.
-template <Level level> struct InvCbrtS : Core<float> {
+template <Level level>
+struct InvCbrtS : Core<float> {
   static constexpr auto& name = sinvcbrt_name;
   static constexpr bool inverse = true;
+  static constexpr int vectors = 1;
   static constexpr int terms = level == Level::la ? 3 : 1;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);
     const auto [difference, s, row] = CbrtReducedS::of<inverse>(x);
     const auto two_rows = [](unsigned i, unsigned k) {

@@ -8,11 +8,11 @@ namespace ork {
 // Double reciprocal square root, y0 (1 + c(e)), e = x y0^2 - 1.
 // HA: x split at 21 bits, so that e is exact to 2^-60; within 0.51 ulp. LA: within 2 ulp.
 // Fast: positive normal x. A denormal is brought into range by 2^54, its result back by 2^27.
-template <Level level> struct InvSqrtD : Core<double> {
+template <Level level>
+struct InvSqrtD : Core<double> {
   static constexpr char name[] = "vdInvSqrt";
-  static constexpr int vectors = level == Level::ha ? 2 : 4;
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= not_positive_normal(x);
     const f64x2 y0 = rsqrt_seed(x), s = y0 * y0;
     f64x2 e;

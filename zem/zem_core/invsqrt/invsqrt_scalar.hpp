@@ -5,15 +5,16 @@
 namespace ork {
 
 // All elements but positive finite ones. False if x is none of these.
-template <class T> bool invsqrt_edge(const T* x, T* r, int* status) {
+template <class T>
+bool invsqrt_edge(const T* x, T* r, int* status) {
   const bits_of<T> a = magnitude(x);
   *status = ZEM_STATUS_NONE;
   bits_of<T> y;
-  if (a == 0) {
+  if (*x == 0) {  // also a denormal that counts as zero
     y = infinity_bits<T> | sign(x);
     *status = ZEM_STATUS_SINGULARITY;
   } else if (a > infinity_bits<T>) {
-    *r = *x * T(1);
+    *r = *x + *x;  // quiet
     return true;
   } else if (sign(x)) {
     y = domain_nan<T>;

@@ -12,7 +12,7 @@ struct InvSqrtHaS : Core<float> {
   static constexpr auto& name = sinvsqrt_name;
   static f64x2 in_double(f64x2 x) { return splat(1.0) / sqrt(x); }
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= ~as<u32x4>(x > splat(0.0f));
     const f64x2 low = in_double(_mm_cvtps_pd(x));
     const f64x2 high = in_double(_mm_cvtps_pd(_mm_movehl_ps(x, x)));
@@ -30,11 +30,12 @@ int _zemsInvSqrtSpec(const float* x, float* r);
 
 // LA: the hardware's 12-bit estimate and one Newton step, within 4 ulp. EP: the estimate, within
 // 2^-11. Rare: all but 2^-126 <= x <= 0x7F7FF001.
-template <Level level> struct InvSqrtS : Core<float> {
+template <Level level>
+struct InvSqrtS : Core<float> {
   static constexpr auto& name = sinvsqrt_name;
   static constexpr unsigned x87 = x87_double;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= as<u32x4>(as<i32x4>(as<u32x4>(x) + splat_u32(0x7F800000)) >
                       as<i32x4>(splat_u32(0xFEFFF001)));
     const f32x4 y = rsqrt_est(x);

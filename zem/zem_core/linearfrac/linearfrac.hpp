@@ -13,7 +13,8 @@
 
 namespace ork {
 
-template <class T> struct LinearFrac : Core<T> {
+template <class T>
+struct LinearFrac : Core<T> {
   using vec = vec_of<T>;
   static constexpr Csr csr = sizeof(T) == 8 ? Csr::cleared : Csr::from_mode;
   static constexpr int width = simd<T>::width, block = 4 * width;
@@ -26,14 +27,19 @@ template <class T> struct LinearFrac : Core<T> {
 
   T scale_a, shift_a, scale_b, shift_b;
 
-  template <class V> ORK_INLINE V linear(V x, T scale, T shift) {
-    if constexpr (sizeof(V) == sizeof(T)) return scale * x + shift;
-    else return splat(scale) * x + splat(shift);
+  template <class V>
+  ORK_INLINE V linear(V x, T scale, T shift) {
+    if constexpr (sizeof(V) == sizeof(T))
+      return scale * x + shift;
+    else
+      return splat(scale) * x + splat(shift);
   }
 
   // The numerator is the constant shift_a if scale_a is 0.
-  template <bool constant> ORK_INLINE T element(const LinearFrac& s, T a, T b) {
-    return (constant ? s.shift_a : linear(a, s.scale_a, s.shift_a)) / linear(b, s.scale_b, s.shift_b);
+  template <bool constant>
+  ORK_INLINE T element(const LinearFrac& s, T a, T b) {
+    return (constant ? s.shift_a : linear(a, s.scale_a, s.shift_a)) /
+           linear(b, s.scale_b, s.shift_b);
   }
 
   template <bool constant>

@@ -4,10 +4,11 @@
 namespace ork {
 
 // Integer part and fraction, both with the sign of x. The difference is exact.
-template <class T> struct Modf : WholeCore<T, 2> {
+template <class T>
+struct Modf : WholeCore<T, 2> {
   using Base = WholeCore<T, 2>;
-  using typename Base::vec;
   using typename Base::ivec;
+  using typename Base::vec;
   static constexpr unsigned rounding = 0x6000;  // toward zero
 
   static vec eval(vec x, vec& fraction, u32x4& rare) {

@@ -1,6 +1,6 @@
 #pragma once
-// Gather, and what scatter shares with it. No arithmetic: elements move as their bytes, in ascending order, so that
-// the later of two writes to one place wins.
+// Gather, and what scatter shares with it. No arithmetic: elements move as their bytes, in
+// ascending order, so that the later of two writes to one place wins.
 //
 // With width 1 the count is the signed low word, and strides and the entries of masks and indices
 // are 32 bits wide. With any other width they are 64 bits wide, the count and the stride as word
@@ -15,7 +15,8 @@
 namespace ork {
 
 // Arrays of elements of `parts` numbers: 1, or 2 for the complex types.
-template <class T, unsigned parts> struct Mover {
+template <class T, unsigned parts>
+struct Mover {
   T* to;
   const T* from;
 
@@ -25,7 +26,8 @@ template <class T, unsigned parts> struct Mover {
 };
 
 // step(i) for i = 0 .. n - 1; the type of i, int32_t or int64_t, is that of entries.
-template <class Step> ORK_INLINE void each(int32_t n_low, int32_t n_high, int width, Step step) {
+template <class Step>
+ORK_INLINE void each(int32_t n_low, int32_t n_high, int width, Step step) {
   if (width == 1) {
     for (int32_t i = 0; i < n_low; ++i) step(i);
   } else {
@@ -35,7 +37,8 @@ template <class Step> ORK_INLINE void each(int32_t n_low, int32_t n_high, int wi
 }
 
 // Entry i of a mask or index array.
-template <class N> ORK_INLINE N entry(const void* array, N i) {
+template <class N>
+ORK_INLINE N entry(const void* array, N i) {
   N x;
   memcpy(&x, (const N*)array + (uint32_t)i, sizeof x);
   return x;
@@ -48,7 +51,8 @@ ORK_INLINE void pack_i(int32_t n_low, int32_t n_high, const T* a, int32_t stride
 }
 
 template <class T, unsigned parts>
-ORK_INLINE void pack_m(int32_t n_low, int32_t n_high, const T* a, const void* mask, T* y, int width) {
+ORK_INLINE void pack_m(int32_t n_low, int32_t n_high, const T* a, const void* mask, T* y,
+                       int width) {
   const Mover<T, parts> move{y, a};
   uint32_t j = 0;
   each(n_low, n_high, width, [=, &j](auto i) {
@@ -57,7 +61,8 @@ ORK_INLINE void pack_m(int32_t n_low, int32_t n_high, const T* a, const void* ma
 }
 
 template <class T, unsigned parts>
-ORK_INLINE void pack_v(int32_t n_low, int32_t n_high, const T* a, const void* index, T* y, int width) {
+ORK_INLINE void pack_v(int32_t n_low, int32_t n_high, const T* a, const void* index, T* y,
+                       int width) {
   const Mover<T, parts> move{y, a};
   each(n_low, n_high, width, [=](auto i) { move((uint32_t)i, (uint32_t)entry(index, i)); });
 }

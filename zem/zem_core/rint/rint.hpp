@@ -5,7 +5,8 @@ namespace ork {
 
 // Rounds in the caller's mode: Rint and NearbyInt. A zero difference has the sign that the
 // mode gives it, so the sign of x replaces it.
-template <class T> struct Rint : WholeCore<T> {
+template <class T>
+struct Rint : WholeCore<T> {
   using typename WholeCore<T>::vec;
   using typename WholeCore<T>::ivec;
   static constexpr Csr csr = Csr::untouched;

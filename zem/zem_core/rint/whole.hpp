@@ -7,20 +7,24 @@
 
 namespace ork {
 
-template <class T> struct Whole;
-template <> struct Whole<double> {
+template <class T>
+struct Whole;
+template <>
+struct Whole<double> {
   static constexpr f64x2 big = {0x1p52, 0x1p52};
   static constexpr u64x2 sign = sign_f64x2;
   static constexpr i32x4 below = {-1, 0x432FFFFF, -1, 0x432FFFFF};  // high word of the last below
 };
-template <> struct Whole<float> {
+template <>
+struct Whole<float> {
   static constexpr f32x4 big = {0x1p23f, 0x1p23f, 0x1p23f, 0x1p23f};
   static constexpr u32x4 sign = sign_f32x4;
   static constexpr i32x4 below = {0x4AFFFFFF, 0x4AFFFFFF, 0x4AFFFFFF, 0x4AFFFFFF};
 };
 
 // The base of the cores: rare lanes are those at or above `big`, infinities and NaNs.
-template <class T, int Outputs = 1> struct WholeCore : Core<T, 1, Outputs>, Whole<T> {
+template <class T, int Outputs = 1>
+struct WholeCore : Core<T, 1, Outputs>, Whole<T> {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   static constexpr char name[] = "";  // no element is ever reported

@@ -5,7 +5,8 @@ namespace ork {
 
 // Rounds to nearest, ties away from zero: to even first, then the ties that went down are
 // raised. The difference of the two is exact.
-template <class T> struct Round : WholeCore<T> {
+template <class T>
+struct Round : WholeCore<T> {
   using typename WholeCore<T>::vec;
   using typename WholeCore<T>::ivec;
 

@@ -24,7 +24,8 @@ ORK_INLINE f64x2 rsqrt_seed(f64x2 x) {
 
 // c(e) = (1 + e)^(-1/2) - 1 to degree 5 (HA), 4 (LA), 2 (EP); the terms left out are below
 // 2^-64, 2^-54 and 2^-32.
-template <Level level> ORK_INLINE f64x2 rsqrt_series(f64x2 e) {
+template <Level level>
+ORK_INLINE f64x2 rsqrt_series(f64x2 e) {
   if constexpr (level == Level::ep) return e * (splat(-0.5) + e * splat(0.375));
   f64x2 c = splat(0.2734375);
   if constexpr (level == Level::ha) c = c + e * splat(-0.24609375);

@@ -9,11 +9,11 @@ namespace ork {
 // HA: x = hi + lo split at 21 bits, so that e is exact to 2^-60; the exact product hi y0 is added
 // last. Within 0.51 ulp. LA: within 2 ulp. EP: the series to degree 2, relative error 2^-31.
 // Fast: positive normal x, and at HA and LA zeros, whose seed is 0.
-template <Level level> struct SqrtD : Core<double> {
+template <Level level>
+struct SqrtD : Core<double> {
   static constexpr char name[] = "vdSqrt";
-  static constexpr int vectors = level == Level::ha ? 2 : 4;
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 y0 = rsqrt_seed(x);
     if constexpr (level == Level::ep) {
       rare |= not_positive_normal(x);

@@ -6,19 +6,23 @@
 namespace ork {
 
 // C's formula on one element.
-template <class C> ORK_INLINE typename C::type on_one(typename C::type x) {
+template <class C>
+ORK_INLINE typename C::type on_one(typename C::type x) {
   u32x4 rare{};
   return C{}.eval(splat(x), rare)[0];
 }
 
 // A denormal, or a tiny number, is brought into range by 2^54 and its root back by 2^-27.
-template <class C> int sqrt_scalar(const typename C::type* x, typename C::type* r) {
+template <class C>
+int sqrt_scalar(const typename C::type* x, typename C::type* r) {
   using T = typename C::type;
   const bits_of<T> a = magnitude(x);
-  if (a == 0 || image(x) == infinity_bits<T>) {
-    __builtin_memcpy(r, x, sizeof(T));
+  if (*x == 0) {  // also a denormal that counts as zero
+    *r = as<T>(sign(x));
+  } else if (image(x) == infinity_bits<T>) {
+    *r = *x;
   } else if (a > infinity_bits<T>) {
-    *r = *x * T(1);
+    *r = *x + *x;  // quiet
   } else if (sign(x)) {
     const bits_of<T> nan = domain_nan<T>;
     __builtin_memcpy(r, &nan, sizeof(T));

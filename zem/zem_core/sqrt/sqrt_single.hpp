@@ -10,15 +10,16 @@ namespace ork {
 // from pieces of s1 whose leading square is exact; within 0.51 ulp. LA: one Newton step, within
 // 3.2 ulp. EP: s, within 2^-11. Zeros pass, with y = 0. Rare: s is infinite or a NaN; at HA also
 // x below 2^-96, where pieces of the residual would be denormal.
-template <Level level> struct SqrtS : Core<float> {
+template <Level level>
+struct SqrtS : Core<float> {
   static constexpr char name[] = "vsSqrt";
   static constexpr int vectors = level == Level::la ? 4 : 2;
 
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const u32x4 nonzero = as<u32x4>(x != splat(0.0f));
     const f32x4 y = and_bits(rsqrt_est(x), nonzero);
     const f32x4 s = x * y;
-    rare |= as<u32x4>(as<i32x4>(abs(s)) > as<i32x4>(splat_u32(0x7F7FFFFF)));
+    rare |= as<u32x4>(abs(s)) + splat_u32(0x00800000);  // carries into the sign
     if constexpr (level == Level::ep) {
       return s;
     } else if constexpr (level == Level::la) {

@@ -4,7 +4,8 @@
 namespace ork {
 
 // Rounds toward zero.
-template <class T> struct Trunc : WholeCore<T> {
+template <class T>
+struct Trunc : WholeCore<T> {
   using typename WholeCore<T>::vec;
   using typename WholeCore<T>::ivec;
   static constexpr unsigned rounding = 0x6000;
