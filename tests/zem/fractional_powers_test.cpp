@@ -83,8 +83,7 @@ TYPED_TEST(FractionalPowers, TwoThirds) {
 // Down to results that are denormal.
 TYPED_TEST(FractionalPowers, ThreeHalves) {
   using T = TypeParam;
-  auto points = spread<T>(1, 4, 3000) +
-                (wide<T> ? this->knots(-714, 680) : this->knots(-98, 85)) +
+  auto points = spread<T>(1, 4, 3000) + (wide<T> ? this->knots(-714, 680) : this->knots(-98, 85)) +
                 neighbours<T>({std::ldexp(T(1), wide<T> ? -680 : -82)}, 20);
   if (!wide<T>) points = points + neighbours<T>({std::ldexp(T(1), 84)}, 20);
   check_directed<T>(

@@ -36,8 +36,9 @@ class Hypots : public testing::Test {
           continue;
         }
         const quad ulp = std::max(std::nextafter(nearest, inf<T>) - nearest, smallest_denormal<T>);
-        const quad bound = ha ? 0.51 * ulp : !ep ? 1.0 * ulp
-                           : (wide<T> ? 0x1p-31 : 0x1p-12) * exact + 0.51 * ulp;
+        const quad bound = ha    ? 0.51 * ulp
+                           : !ep ? 1.0 * ulp
+                                 : (wide<T> ? 0x1p-31 : 0x1p-12) * exact + 0.51 * ulp;
         EXPECT_LE(double(fabsq(got - exact) / bound), 1.0)
             << call.slot->name(call.level) << "(" << a << ", " << b << ") gives " << got;
       }

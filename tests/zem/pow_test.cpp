@@ -38,13 +38,15 @@ class Powers : public testing::Test {
     call(1, &a, &b, &r, &r);
     const quad exact = powq(a, b);
     const T nearest = T(exact);
-    const std::string where = call.slot->name(call.level) + "(" + std::to_string(a) + ", " + std::to_string(b) + ")";
+    const std::string where =
+        call.slot->name(call.level) + "(" + std::to_string(a) + ", " + std::to_string(b) + ")";
     if (std::isinf(nearest) || std::isinf(r)) {
       // An overflow may begin half an ulp early or late.
       EXPECT_TRUE(r == nearest || fabsq(exact) > largest<T> / 2) << where << " gives " << r;
       return;
     }
-    const quad ulp = std::max(T(std::fabs(std::nextafter(nearest, inf<T>) - nearest)), smallest_denormal<T>);
+    const quad ulp =
+        std::max(T(std::fabs(std::nextafter(nearest, inf<T>) - nearest)), smallest_denormal<T>);
     const quad bound = is_ha(call) ? (wide<T> ? 0.6Q : 0.51Q) * ulp
                                    : fabsq(exact) * (wide<T> ? 0x1p-22 : 0x1p-12) + ulp;
     EXPECT_LE(double(fabsq(r - exact) / bound), 1.0) << where << " gives " << r;
@@ -57,9 +59,35 @@ TYPED_TEST_SUITE(Powers, Types);
 TYPED_TEST(Powers, SpecialValuesInAllCombinations) {
   using T = TypeParam;
   const T nan = quiet_nan<T>, dn = smallest_denormal<T>;
-  const T values[] = {0,      -T(0),  1,  -1,  inf<T>, -inf<T>, nan, -nan, this->signalling, dn, -dn, largest<T>,
-                      -largest<T>, 2, -2, 3,   -3,      T(0.25), T(-0.25), T(2.5), T(-2.5), this->huge_even,
-                      -this->huge_even, this->largest_odd, -this->largest_odd, T(0.75), T(-0.75), 4, -8};
+  const T values[] = {0,
+                      -T(0),
+                      1,
+                      -1,
+                      inf<T>,
+                      -inf<T>,
+                      nan,
+                      -nan,
+                      this->signalling,
+                      dn,
+                      -dn,
+                      largest<T>,
+                      -largest<T>,
+                      2,
+                      -2,
+                      3,
+                      -3,
+                      T(0.25),
+                      T(-0.25),
+                      T(2.5),
+                      T(-2.5),
+                      this->huge_even,
+                      -this->huge_even,
+                      this->largest_odd,
+                      -this->largest_odd,
+                      T(0.75),
+                      T(-0.75),
+                      4,
+                      -8};
   for (const std::string function : {"Pow", "Powx"})
     for (const auto& call : kernels<T>(function))
       for (const T a : values)
@@ -69,17 +97,19 @@ TYPED_TEST(Powers, SpecialValuesInAllCombinations) {
           T expected = std::pow(a, b);
           if (std::isnan(a) && b == 0) expected = 1;  // signalling NaNs as well
           if (std::isnan(b) && a == 1) expected = 1;
-          const int status = (a == 0 && b < 0) ||
-                                     (a < 0 && std::isfinite(a) && std::isfinite(b) && b != std::trunc(b))
+          const int status = (a == 0 && b < 0) || (a < 0 && std::isfinite(a) && std::isfinite(b) &&
+                                                   b != std::trunc(b))
                                  ? ZEM_STATUS_DOMAIN
                                  : 0;
           const T x[3] = {T(1.5), a, T(1.5)}, y[3] = {b, b, b};
           T r[3];
           const auto events = record_events([&] { call(3, x, y, r, r); });
-          SCOPED_TRACE(call.slot->name(call.level) + "(" + std::to_string(a) + ", " + std::to_string(b) + ")");
+          SCOPED_TRACE(call.slot->name(call.level) + "(" + std::to_string(a) + ", " +
+                       std::to_string(b) + ")");
           if (std::isnan(expected)) {
             EXPECT_TRUE(std::isnan(r[1])) << r[1];
-          } else if (this->is_ha(call) || expected == 0 || std::isinf(expected) || std::fabs(expected) == 1) {
+          } else if (this->is_ha(call) || expected == 0 || std::isinf(expected) ||
+                     std::fabs(expected) == 1) {
             EXPECT_EQ(bits(r[1]), bits(expected)) << r[1] << " for " << expected;
           }
           ASSERT_EQ(events.size(), size_t(status != 0));
@@ -110,20 +140,28 @@ TYPED_TEST(Powers, CallbackReplacesInEveryLane) {
 // Bit for bit what the other function's HA kernel gives, statuses and names included.
 TYPED_TEST(Powers, ExponentsOfOtherFunctions) {
   using T = TypeParam;
-  const std::pair<double, const char*> rows[] = {
-      {2.0, "Sqr"},          {0.5, "Sqrt"},
-      {-0.5, "InvSqrt"},     {-1.0, "Inv"},
-      {0.3333333333333333, "Cbrt"},   {-0.3333333333333333, "InvCbrt"},
-      {0.6666666666666666, "Pow2o3"}, {1.5, "Pow3o2"}};
-  std::vector<T> x = {0, -T(0), -1, inf<T>, -inf<T>, quiet_nan<T>, smallest_denormal<T>, largest<T>};
+  const std::pair<double, const char*> rows[] = {{2.0, "Sqr"},
+                                                 {0.5, "Sqrt"},
+                                                 {-0.5, "InvSqrt"},
+                                                 {-1.0, "Inv"},
+                                                 {0.3333333333333333, "Cbrt"},
+                                                 {-0.3333333333333333, "InvCbrt"},
+                                                 {0.6666666666666666, "Pow2o3"},
+                                                 {1.5, "Pow3o2"}};
+  std::vector<T> x = {0,         -T(0), -1, inf<T>, -inf<T>, quiet_nan<T>, smallest_denormal<T>,
+                      largest<T>};
   for (int i = 0; i < 1000; ++i) x.push_back(T(std::exp(0.1 * i - 50)));
   const int n = int(x.size());
   const Slot* powx = kernels<T>("Powx")[0].slot;
   for (const auto& [exponent, function] : rows) {
     const Slot* other = kernels<T>(function)[0].slot;
     std::vector<T> r(x.size()), want(x.size()), b(x.size(), T(exponent));
-    const auto events = record_events([&] { Call<T>{powx, 1}(n, x.data(), b.data(), r.data(), r.data()); });
-    const auto wanted = record_events([&] { Call<T>{other, 1}(n, x.data(), x.data(), want.data(), want.data()); });
+    const auto events = record_events([&] {
+      Call<T>{powx, 1}(n, x.data(), b.data(), r.data(), r.data());
+    });
+    const auto wanted = record_events([&] {
+      Call<T>{other, 1}(n, x.data(), x.data(), want.data(), want.data());
+    });
     for (int i = 0; i < n; ++i) EXPECT_EQ(bits(r[i]), bits(want[i])) << function << " of " << x[i];
     ASSERT_EQ(events.size(), wanted.size()) << function;
     for (size_t i = 0; i < events.size(); ++i) {
@@ -139,7 +177,8 @@ TYPED_TEST(Powers, Errors) {
   using T = TypeParam;
   const double top = wide<T> ? 1024 : 128, bottom = wide<T> ? -1075 : -150;
   std::vector<T> bases = neighbours<T>({T(1), T(1.5), T(1.4995), T(2), largest<T>}, 3) +
-                         spread<T>(0, 10, 40) + std::vector<T>{smallest_denormal<T>, smallest_normal<T> / 3};
+                         spread<T>(0, 10, 40) +
+                         std::vector<T>{smallest_denormal<T>, smallest_normal<T> / 3};
   for (int i = 0; i < 40; ++i) bases.push_back(T(1 + (i + 0.5) / 1024 + 1e-4));
   for (const auto& call : kernels<T>("Pow"))
     for (const T a : bases) {
@@ -150,8 +189,10 @@ TYPED_TEST(Powers, Errors) {
         const T b = T((bottom + (top - bottom) * i / 40) / l);
         if (std::isfinite(b)) this->check(call, a, b);
       }
-      for (const double q : {1e-300, 1e-20, -1e-9, top - 1e-3, bottom + 1e-3, bottom + 52.3, 999.9, -999.9, 1000.1})
-        if (const T b = T(q / l); std::isfinite(b) && q < top && q > bottom) this->check(call, a, b);
+      for (const double q :
+           {1e-300, 1e-20, -1e-9, top - 1e-3, bottom + 1e-3, bottom + 52.3, 999.9, -999.9, 1000.1})
+        if (const T b = T(q / l); std::isfinite(b) && q < top && q > bottom)
+          this->check(call, a, b);
     }
 }
 

@@ -48,7 +48,8 @@ ORK_INLINE PowPair pow_log2(f64x2 a, double down = 0) {
   const f64x2 whole = k + h_high, first = whole + w, first_low = w - (first - whole);
   // The quadratic term's main part is an exact product: at b = 2^20 its rounding would show.
   constexpr double c2 = -0.3465736568077919;
-  constexpr double c2_high = __builtin_bit_cast(double, __builtin_bit_cast(uint64_t, c2) & 0xFFFFFFFC00000000);
+  constexpr double c2_high =
+      __builtin_bit_cast(double, __builtin_bit_cast(uint64_t, c2) & 0xFFFFFFFC00000000);
   const f64x2 top = and_bits(w, splat_u64(0xFFFFFFF000000000));  // 17 bits
   const f64x2 square = (top * c2_high) * top, sum = first + square;
   const f64x2 sum_low = square - (sum - first);
@@ -70,9 +71,9 @@ ORK_INLINE PowPair pow_exp2(PowPair q, f64x2& t) {
   constexpr double shifter = 52776558133248.0;  // 1.5 * 2^45: the unit is 1/128
   t = q.high + shifter;
   const f64x2 f = (q.high - (t - shifter)) + q.low, g = f * f;
-  const f64x2 p = f * 0.69314718055994529 +
-                  g * ((0.24022650695910069 + f * 0.055504108664821576) +
-                       g * (0.0096181291076284769 + f * 0.0013333558146428443));
+  const f64x2 p =
+      f * 0.69314718055994529 + g * ((0.24022650695910069 + f * 0.055504108664821576) +
+                                     g * (0.0096181291076284769 + f * 0.0013333558146428443));
   const u32x4 j = as<u32x4>(t) & 127;
   PowPair r;
   gather_pairs(pow_powers[j[0]], pow_powers[word<4>(j)], r.high, r.low);

@@ -2,7 +2,8 @@
 // Pow, double, EP: e^(b ln a). ln a = K ln 2 - ln(c/1024) + ln(1 + r) with the short factor of
 // Log1p, degree 3; e^q = 2^n 2^(j/2048) e^f, |f| <= ln 2/4096. The absolute error of ln a,
 // 2^-41, counts b times.
-// Fast: normal a > 0, |q| < 708.4. vdpow_cout_rare: the others. Constants: given, but ln 2/2048: rule.
+// Fast: normal a > 0, |q| < 708.4. vdpow_cout_rare: the others. Constants: given, but ln 2/2048:
+// rule.
 #include "ln/log_short_d.hpp"
 #include "pow/pow_d.hpp"
 

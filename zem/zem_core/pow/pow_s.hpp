@@ -36,15 +36,15 @@ ORK_INLINE f64x2 pow_in_double(f64x2 a, f64x2 b, f64x2& q) {
   f64x2 c, h;
   gather_pairs(pow_rows_single[ork::word<2>(row)], pow_rows_single[ork::word<6>(row)], c, h);
   const f64x2 r = m * c - 1.0;
-  const f64x2 p =
-      r * (level == Level::ep ? horner(r, l[0], l[1], l[2]) : horner(r, l[0], l[1], l[2], l[3], l[4]));
+  const f64x2 p = r * (level == Level::ep ? horner(r, l[0], l[1], l[2])
+                                          : horner(r, l[0], l[1], l[2], l[3], l[4]));
   q = b * ((k + h) + p);
 
   constexpr double shifter = 52776558133248.0;  // 1.5 * 2^45: the unit is 1/128
   const f64x2 t = q + shifter, f = q - (t - shifter);
   const u32x4 j = as<u32x4>(t) & 127;
-  const f64x2 fraction =
-      gather((const double*)exp_mantissa128_d + j[0], (const double*)exp_mantissa128_d + ork::word<4>(j));
+  const f64x2 fraction = gather((const double*)exp_mantissa128_d + j[0],
+                                (const double*)exp_mantissa128_d + ork::word<4>(j));
   const u64x2 scale = as<u64x2>(as<u32x4>(t) + u32x4{1023 << 7, 0, 1023 << 7, 0}) << 45;
   const f64x2 s = or_bits(fraction, scale & splat_u64(0x7FF0000000000000));
   if constexpr (level == Level::ep) return s + s * (f * e[0]);

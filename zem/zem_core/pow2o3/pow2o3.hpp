@@ -1,6 +1,6 @@
 #pragma once
-// x^(2/3) = (x^2)^(1/3), the sign dropped. With the cube root's reduction |x| = 2^(3(q - q0) + rem) m,
-// m = c_j (1 + r), c_j = 1 + (2j + 1)/64, |r| <= 2^-6: S T (1 + r P(r)), T = (c_j 2^rem)^(2/3),
+// x^(2/3) = (x^2)^(1/3), the sign dropped. With the cube root's reduction |x| = 2^(3(q - q0) + rem)
+// m, m = c_j (1 + r), c_j = 1 + (2j + 1)/64, |r| <= 2^-6: S T (1 + r P(r)), T = (c_j 2^rem)^(2/3),
 // S = 2^(2(q - q0)). Fast: normal x.
 #include "cbrt/reduce.hpp"
 #include "frame/level.hpp"
@@ -46,14 +46,12 @@ struct Pow2o3D : Core<double> {
     const u64x2 q = as<u64x2>(index.q);
     const f64x2 s = as<f64x2>((q + q + splat_u64(1023 - 682)) << 52);
     const f64x2 m = or_bits(and_bits(x, splat_u64(0x000FFFFFFFFFFFFF)), as<u64x2>(splat(1.0)));
-    const f64x2 c =
-        or_bits(and_bits(x, splat_u64(0x000F800000000000)), as<u64x2>(splat(1.015625)));
+    const f64x2 c = or_bits(and_bits(x, splat_u64(0x000F800000000000)), as<u64x2>(splat(1.015625)));
     const unsigned row0 = index.get<0>(index.row), row1 = index.get<4>(index.row);
     if constexpr (level == Level::ha) {
       f64x2 high, low;
       gather_pairs(pow2o3_rows[row0], pow2o3_rows[row1], high, low);
-      const f64x2 r =
-          (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
+      const f64x2 r = (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
       const f64x2 t = s * high;
       // Given.
       const f64x2 p = horner(r, 0.66666666666666663, -0.11111111111113359, 0.049382716049477096,

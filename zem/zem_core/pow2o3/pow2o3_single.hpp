@@ -19,8 +19,8 @@ struct Pow2o3S : Core<float> {
     f64x2 t, reciprocal;
     gather_pairs(&pow2o3_pairs[i].t, &pow2o3_pairs[k].t, t, reciprocal);
     const f64x2 r = difference * reciprocal;
-    return t + (t * r) * horner(r, 0.66666666666666663, -0.11111111111113359,
-                                0.049382716049477096, -0.028806583804519968);
+    return t + (t * r) * horner(r, 0.66666666666666663, -0.11111111111113359, 0.049382716049477096,
+                                -0.028806583804519968);
   }
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= not_normal(x);

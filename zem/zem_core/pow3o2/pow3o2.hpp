@@ -19,7 +19,7 @@ template <class T>
 ORK_INLINE bool pow3o2_is_positive(const T* x, T* r, int& status) {
   status = ZEM_STATUS_NONE;
   if (magnitude(x) > infinity_bits<T>) {
-    *r = *x + *x;  // the input, quiet
+    *r = *x + *x;        // the input, quiet
   } else if (*x == 0) {  // also a denormal that counts as zero
     *r = 0;
   } else if (sign(x)) {
@@ -56,8 +56,7 @@ struct Pow3o2D : Core<double> {
     const u64x2 q = as<u64x2>((index - u32x4{32, 0, 32, 0}) >> 6);
     const f64x2 s = as<f64x2>((q + q + q - splat_u64(510)) << 52);
     const f64x2 m = or_bits(and_bits(x, splat_u64(0x000FFFFFFFFFFFFF)), as<u64x2>(splat(1.0)));
-    const f64x2 c =
-        or_bits(and_bits(x, splat_u64(0x000F800000000000)), as<u64x2>(splat(1.015625)));
+    const f64x2 c = or_bits(and_bits(x, splat_u64(0x000F800000000000)), as<u64x2>(splat(1.015625)));
     const unsigned row0 = row[0], row1 = word<4>(row);
     if constexpr (level == Level::ha) {
       constexpr double k[] = {
@@ -65,10 +64,8 @@ struct Pow3o2D : Core<double> {
       };
       f64x2 high, low;
       gather_pairs(pow3o2_rows[row0], pow3o2_rows[row1], high, low);
-      const f64x2 r =
-          (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
-      const f64x2 p =
-          r * horner(r, 1.5, 0.375, -0.0625, 0.0234375, k[0], k[1], k[2], k[3]);
+      const f64x2 r = (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
+      const f64x2 p = r * horner(r, 1.5, 0.375, -0.0625, 0.0234375, k[0], k[1], k[2], k[3]);
       rest = s * (low + high * p);
       return s * high;
     }

@@ -35,8 +35,8 @@ struct Pow3o2S : Core<float> {
     const unsigned row0 = row[0], row1 = word<2>(row), row2 = word<4>(row), row3 = word<6>(row);
     if constexpr (level == Level::ha) {
       const __m128i high_word = as<__m128i>((exponent + (1023 - 189)) << 20), none = {};
-      const f32x4 low = _mm_cvtpd_ps(half(_mm_cvtps_pd(difference),
-                                          as<f64x2>(_mm_unpacklo_epi32(none, high_word)), row0, row1));
+      const f32x4 low = _mm_cvtpd_ps(half(
+          _mm_cvtps_pd(difference), as<f64x2>(_mm_unpacklo_epi32(none, high_word)), row0, row1));
       const f32x4 high =
           _mm_cvtpd_ps(half(_mm_cvtps_pd(_mm_movehl_ps(difference, difference)),
                             as<f64x2>(_mm_unpackhi_epi32(none, high_word)), row2, row3));
