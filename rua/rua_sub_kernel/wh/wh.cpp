@@ -79,27 +79,27 @@ __m128i wide(uint32_t even, uint32_t odd) {
   return _mm_set_epi32(0, int32_t(odd), 0, int32_t(even));
 }
 
-// One part in the lanes of a vector. x <- a x mod m with the quotient x floor(2^32 a / m) / 2^32:
-// it is short of a/m x by less than x/2^32 + 1, so that x stays below m + m/2^7.
+// One part in the lanes of a vector. The quotient of a x mod m is x ceil(2^32 a / m) / 2^32, which
+// is too large by less than 2^-8: rarely it gives 1 too much, and a negative x.
 struct Part {
   __m128i a, ratio, m;
 
   Part() = default;
   Part(uint32_t a_, uint32_t m_) : a(wide(a_, a_)), m(wide(m_, m_)) {
-    const auto r = uint32_t((uint64_t{a_} << 32) / m_);
+    const auto r = uint32_t(((uint64_t{a_} << 32) + m_ - 1) / m_);
     ratio = wide(r, r);
   }
   __m128i step(__m128i x) const {
     const __m128i q = _mm_shuffle_epi32(_mm_mul_epu32(x, ratio), 0xF5);
     return _mm_sub_epi64(_mm_mul_epu32(x, a), _mm_mul_epu32(q, m));
   }
-  // 2^52 + (x mod m), x in the low words: x - m is a large word where x is below m.
-  __m128d biased(__m128i x) const {
-    const __m128d two52 = _mm_set1_pd(0x1p52);
-    return _mm_min_pd(_mm_or_pd(_mm_castsi128_pd(x), two52),
-                      _mm_or_pd(_mm_castsi128_pd(_mm_sub_epi32(x, m)), two52));
+  __m128i lift(__m128i x) const {
+    return _mm_add_epi64(x, _mm_and_si128(_mm_shuffle_epi32(x, 0xF5), m));
   }
 };
+
+// 2^52 + x, exactly, for words in the low halves of the lanes.
+__m128d biased(__m128i x) { return _mm_or_pd(_mm_castsi128_pd(x), _mm_set1_pd(0x1p52)); }
 
 // Forms take the four parts of two numbers, each as 2^52 + x.
 struct Integers {
@@ -182,21 +182,24 @@ int32_t generate(RuaStream* stream, int32_t n, Output out) {
     }
     const auto put2 = [&](__m128i(&x)[4]) __attribute__((always_inline)) {
 #pragma GCC unroll 4
-      for (int p = 0; p < 4; ++p) number[p] = part[p].biased(x[p]);
+      for (int p = 0; p < 4; ++p) number[p] = biased(x[p]);
       out.put2(number);
 #pragma GCC unroll 4
       for (int p = 0; p < 4; ++p) x[p] = part[p].step(x[p]);
+      const __m128i any = _mm_or_si128(_mm_or_si128(x[0], x[1]), _mm_or_si128(x[2], x[3]));
+      if (__builtin_expect(_mm_movemask_pd(_mm_castsi128_pd(any)) != 0, 0))
+#pragma GCC unroll 4
+        for (int p = 0; p < 4; ++p) x[p] = part[p].lift(x[p]);
     };
     for (; n >= 4; n -= 4) {
       put2(even);
       put2(odd);
     }
-    for (int p = 0; p < 4; ++p)
-      s.x[p] = uint32_t(_mm_cvtsi128_si32(_mm_castpd_si128(part[p].biased(even[p]))));
+    for (int p = 0; p < 4; ++p) s.x[p] = uint32_t(_mm_cvtsi128_si32(even[p]));
   }
   for (; n > 0; --n) {
     for (int p = 0; p < 4; ++p) {
-      number[p] = _mm_or_pd(_mm_castsi128_pd(wide(s.x[p], 0)), _mm_set1_pd(0x1p52));
+      number[p] = biased(wide(s.x[p], 0));
       s.x[p] = multiply(s.a[p], s.x[p], m[p]);
     }
     out.put(number);
