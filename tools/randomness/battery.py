@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """Runs dieharder on the generators and writes docs/randomness.md.
 
-    tools/randomness/battery.py [GENERATOR ...]      needs dieharder and the program random_words (cmake --build build
-                                                     --target random_words; RANDOM_WORDS names another)
+    tools/randomness/battery.py [GENERATOR ...]
+
+It needs dieharder and the program random_words (cmake --build build --target random_words);
+RANDOM_WORDS names another one.
 
 A generator's results are kept in build/randomness/NAME.txt; those that are there are not run
 again. Tests that dieharder itself calls suspect are left out.
@@ -26,10 +28,11 @@ tests = [(0, ""), (2, "-p 20"), (3, "-p 20"), (4, "-p 20"), (8, "-p 20"), (9, "-
 
 # Failures that theory predicts.
 known = {
-    "R250": "Each word is the exclusive or of two earlier ones, which every test that looks at words "
-            "103 and 250 apart, or at the rank of a bit matrix from many words, can show.",
-    "MCG31M1": "The modulus has 31 bits: the numbers fall on a grid of 2^31 points, so that the last "
-               "bit of a 32-bit word is not random, and a whole period is used up within a test.",
+    "R250": "Each word is the exclusive or of the words 103 and 250 before it, bit by bit: a "
+            "three-point correlation. From a seed of one word the ring is filled by a generator "
+            "modulo 2^32, whose low bits have short periods, and each bit goes on by itself.",
+    "MCG31M1": "The modulus has 31 bits, so that the last of the 32 bits of a word repeats the "
+               "first: tests that use all bits of a word see it.",
 }
 
 

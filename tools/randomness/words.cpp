@@ -13,11 +13,16 @@ namespace {
 constexpr struct {
   const char* name;
   int32_t id;
-} kGenerators[] = {{"MCG31M1", RUA_BRNG_MCG31M1},     {"R250", RUA_BRNG_R250},
-                   {"MRG32K3A", RUA_BRNG_MRG32K3A},   {"MCG59", RUA_BRNG_MCG59},
-                   {"WH", RUA_BRNG_WH},               {"WH_100", RUA_BRNG_WH + 100},
-                   {"MT19937", RUA_BRNG_MT19937},     {"MT2203", RUA_BRNG_MT2203},
-                   {"MT2203_3000", RUA_BRNG_MT2203 + 3000}, {"SFMT19937", RUA_BRNG_SFMT19937}};
+} kGenerators[] = {{"MCG31M1", RUA_BRNG_MCG31M1},
+                   {"R250", RUA_BRNG_R250},
+                   {"MRG32K3A", RUA_BRNG_MRG32K3A},
+                   {"MCG59", RUA_BRNG_MCG59},
+                   {"WH", RUA_BRNG_WH},
+                   {"WH_100", RUA_BRNG_WH + 100},
+                   {"MT19937", RUA_BRNG_MT19937},
+                   {"MT2203", RUA_BRNG_MT2203},
+                   {"MT2203_3000", RUA_BRNG_MT2203 + 3000},
+                   {"SFMT19937", RUA_BRNG_SFMT19937}};
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -26,7 +31,8 @@ int main(int argc, char** argv) {
     const uint32_t seed = argc > 2 ? std::strtoul(argv[2], nullptr, 0) : 20240229;
     RuaStream* stream = nullptr;
     RuaBrngProperties row;
-    if (__ruaNewStreamEx(&stream, g.id, 1, &seed) != 0 || __ruaGetBrngProperties(g.id, &row) != 0) return 1;
+    if (__ruaNewStreamEx(&stream, g.id, 1, &seed) != 0 || __ruaGetBrngProperties(g.id, &row) != 0)
+      return 1;
     static double r[4096];
     static uint32_t word[4096];
     do {

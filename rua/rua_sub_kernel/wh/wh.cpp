@@ -110,10 +110,10 @@ struct Integers {
       return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(u), _mm_castpd_ps(v), 0x88));
     };
     const __m128i p12 = low(x[0], x[1]), p34 = low(x[2], x[3]);
-    const __m128i first = _mm_unpacklo_epi64(_mm_shuffle_epi32(p12, 0xD8),
-                                             _mm_shuffle_epi32(p34, 0xD8));
-    const __m128i second = _mm_unpackhi_epi64(_mm_shuffle_epi32(p12, 0xD8),
-                                              _mm_shuffle_epi32(p34, 0xD8));
+    const __m128i first =
+        _mm_unpacklo_epi64(_mm_shuffle_epi32(p12, 0xD8), _mm_shuffle_epi32(p34, 0xD8));
+    const __m128i second =
+        _mm_unpackhi_epi64(_mm_shuffle_epi32(p12, 0xD8), _mm_shuffle_epi32(p34, 0xD8));
     _mm_storeu_si128(reinterpret_cast<__m128i*>(r), first);
     _mm_storeu_si128(reinterpret_cast<__m128i*>(r + 4), second);
     r += 8;
@@ -126,7 +126,8 @@ struct Integers {
 struct Reals {
   __m128d reciprocal[4], width, a;
 
-  Reals(const RuaStream* stream, double a_, double b) : width(_mm_set1_pd(b - a_)), a(_mm_set1_pd(a_)) {
+  Reals(const RuaStream* stream, double a_, double b)
+      : width(_mm_set1_pd(b - a_)), a(_mm_set1_pd(a_)) {
     const auto& row = kBelow[family_member(stream)];
     for (int p = 0; p < 4; ++p) reciprocal[p] = _mm_set1_pd(row[p]);
   }
@@ -144,8 +145,7 @@ struct Reals {
 struct Doubles : Reals {
   double* r;
 
-  Doubles(const RuaStream* stream, double* r_, double a_, double b)
-      : Reals(stream, a_, b), r(r_) {}
+  Doubles(const RuaStream* stream, double* r_, double a_, double b) : Reals(stream, a_, b), r(r_) {}
   void put(const __m128d (&x)[4]) { _mm_store_sd(r++, real(x)); }
   void put2(const __m128d (&x)[4]) {
     _mm_storeu_pd(r, real(x));
@@ -156,8 +156,7 @@ struct Doubles : Reals {
 struct Floats : Reals {
   float* r;
 
-  Floats(const RuaStream* stream, float* r_, double a_, double b)
-      : Reals(stream, a_, b), r(r_) {}
+  Floats(const RuaStream* stream, float* r_, double a_, double b) : Reals(stream, a_, b), r(r_) {}
   void put(const __m128d (&x)[4]) { _mm_store_ss(r++, _mm_cvtpd_ps(real(x))); }
   void put2(const __m128d (&x)[4]) {
     _mm_storel_pi(reinterpret_cast<__m64*>(r), _mm_cvtpd_ps(real(x)));
