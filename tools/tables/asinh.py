@@ -24,7 +24,13 @@ def generate():
     near = list(range(1, 9))
     one = [2, 3, 4]
     tail, powers = log1p_tail(-mpf(2)**-21, mpf(2)**-8, 6, "d")
-    files = {
+    short, short_powers = log1p_tail(-mpf(2)**-21, mpf(2)**-8, 3, "d")
+    ep, ep_powers = log1p_tail(-mpf(1) / 3, mpf(1) / 3, 4, "s")
+    return {
+        at + "tail_s_ep.inc": coefficients("asinh", "c1 to c4 of ln(1 + v) = v + v (c1 v + ... + c4 v^4), |v| <= 1/3.",
+                                           ep, "s", ep_powers),
+        at + "tail_s_ha.inc": coefficients("asinh", "c1 to c3 of ln(1 + r) = r + r (c1 r + c2 r^2 + c3 r^3), -2^-21 <= r <= 2^-8.",
+                                           short, "d", short_powers),
         at + "rows_d.inc": table("asinh", "T_hi, T_lo, c with T = -ln c, c = 1/(1 + j/256) to 22 bits, j = 0..255.", log_rows()),
         at + "tail_d_la.inc": coefficients("asinh", "c1 to c6 of ln(1 + r) = r + r (c1 r + ... + c6 r^6), -2^-21 <= r <= 2^-8.",
                                            tail, "d", powers),
@@ -37,4 +43,3 @@ def generate():
             fit(lambda t: acosh(1 + t) / sqrt(2 * t), one, 0, "0.00048876", "d",
                 {0: mpf(1), 1: given("-0.083333333332859", "d")}, points=80), "d", one),
     }
-    return files
