@@ -152,9 +152,11 @@ void ork_lapack_sspevd(const char* jobz, const char* uplo, const int* n, float* 
  * Row i of the matrix is dl[i - 1], d[i], du[i]: dl and du hold n - 1 reals, d holds n. */
 
 /* Solves for nrhs right sides, the columns of b, by elimination with row interchanges
- * wherever the element below the pivot is the larger one. b holds the solution; dl, d and
- * du are overwritten. info = i > 0: pivot i is exactly 0, the matrix is singular; all
- * arrays are then partly overwritten. */
+ * wherever the element below the pivot is the larger one. One right side with a matrix
+ * dominated by its diagonal is eliminated from both ends at once, which takes half the
+ * time. b holds the solution; dl, d and du are overwritten. info = i > 0: pivot i is exactly
+ * 0, the matrix is singular (from both ends: 0 or so small that its reciprocal overflows);
+ * all arrays are then partly overwritten. */
 void ddtsvb_4dfl(const int* n, const int* nrhs, double* dl, double* d, double* du, double* b,
                  const int* ldb, int* info);
 void sdtsvb_4dfl(const int* n, const int* nrhs, float* dl, float* d, float* du, float* b,

@@ -45,6 +45,67 @@ int solve_pivoting(int n, int nrhs, R* dl, R* d, R* du, R* b, int ldb) {
   return 0;
 }
 
+// Whether elimination without interchanges is safe from both ends: every row between the
+// first and the last is dominated by its diagonal, and so are the two rows beside the ends
+// when the end rows, whatever they hold, have been eliminated from them.
+template <class R>
+bool dominated(int n, const R* dl, const R* d, const R* du) {
+  bool yes = true;
+  for (int i = 1; i + 1 < n; ++i)
+    yes &= std::fabs(d[i]) >= std::fabs(dl[i - 1]) + std::fabs(du[i]);
+  const int m = n - 2;
+  return yes && std::fabs(dl[0]) <= std::fabs(d[0]) && std::fabs(du[m]) <= std::fabs(d[m + 1]) &&
+         std::fabs(d[1] - dl[0] * du[0] / d[0]) >= std::fabs(du[1]) &&
+         std::fabs(d[m] - du[m] * dl[m] / d[m + 1]) >= std::fabs(dl[m - 1]);
+}
+
+// Elimination from both ends at once, which meet in the middle: two recurrences of half the
+// length side by side, where a step of either waits for a division. One right side, n > 3.
+template <class R>
+int solve_from_both_ends(int n, R* dl, R* d, R* du, R* b) {
+  const int half = n / 2;  // rows above it are eliminated downwards, the others upwards
+  int bad = 0;             // 1 + the row whose pivot has no reciprocal
+  const auto down = [&](int i) {
+    const R r = R(1) / d[i];
+    if (std::isinf(r)) bad = i + 1;
+    d[i + 1] -= dl[i] * du[i] * r;
+    b[i] *= r, du[i] *= r;
+    b[i + 1] -= dl[i] * b[i];
+  };
+  const auto up = [&](int i) {
+    const R r = R(1) / d[i];
+    if (std::isinf(r)) bad = i + 1;
+    d[i - 1] -= du[i - 1] * dl[i - 1] * r;
+    b[i] *= r, dl[i - 1] *= r;
+    b[i - 1] -= du[i - 1] * b[i];
+  };
+  for (int i = 0; i + 1 < half; ++i) {
+    down(i), up(n - 1 - i);
+    if (bad != 0) return bad;
+  }
+  const int top = half - 1;
+  const bool odd = n - half > half;  // the lower part has a row more
+  if (odd) up(half + 1);
+  down(top);
+  if (bad == 0 && d[half] == R(0)) bad = half + 1;
+  if (bad != 0) return bad;
+  b[half] /= d[half];
+  b[top] -= du[top] * b[half];
+  R above = b[top], below = b[half];
+  if (odd) below = b[half + 1] -= dl[half] * below;
+  for (int i = top - 1, k = n - 1 - i; i >= 0; --i, ++k) {
+    above = b[i] -= du[i] * above;
+    below = b[k] -= dl[k - 1] * below;
+  }
+  return 0;
+}
+
+template <class R>
+int solve(int n, int nrhs, R* dl, R* d, R* du, R* b, int ldb) {
+  return nrhs == 1 && n > 3 && dominated(n, dl, d, du) ? solve_from_both_ends(n, dl, d, du, b)
+                                                       : solve_pivoting(n, nrhs, dl, d, du, b, ldb);
+}
+
 // L D U with unit bidiagonal L and U: afterwards dl and du hold these two's off-diagonals
 // and d the reciprocals of D, so that the solver does not divide and each step of its two
 // recurrences is one multiplication and one subtraction.
@@ -95,7 +156,7 @@ using namespace ork::dense;
   ORK_OUTER void t##dtsvb_4dfl(const int* n, const int* nrhs, R* dl, R* d, R* du, R* b,        \
                                const int* ldb, int* info) {                                    \
     *info = *n < 0 ? -1 : *nrhs < 0 ? -2 : !ld_ok(*ldb, *n) ? -7 : 0;                          \
-    if (*info == 0) *info = solve_pivoting(*n, *nrhs, dl, d, du, b, *ldb);                     \
+    if (*info == 0) *info = solve(*n, *nrhs, dl, d, du, b, *ldb);                     \
   }                                                                                            \
   ORK_OUTER void t##dttrfb_4dfl(const int* n, R* dl, R* d, R* du, int* info) {                 \
     *info = *n < 0 ? -1 : factor(*n, dl, d, du);                                               \

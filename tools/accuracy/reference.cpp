@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "accuracy/inverse_error.hpp"
+
 // The same names at both widths, so that a row states its function once.
 #define BOTH(name)                                   \
   static quad name(quad x) { return name##q(x); }    \
@@ -19,6 +21,13 @@ BOTH(sinh) BOTH(cosh) BOTH(tanh) BOTH(asinh) BOTH(acosh) BOTH(atanh)
 BOTH(erf) BOTH(erfc) BOTH(lgamma) BOTH(tgamma)
 BOTH(floor) BOTH(ceil) BOTH(trunc) BOTH(round) BOTH(rint) BOTH(fabs)
 BOTH2(pow) BOTH2(hypot) BOTH2(atan2)
+
+// A term of LinearFrac as IEEE arithmetic gives it in the kernel's type: near its zero the
+// rounding of the product is all that is left, and no fault of the quotient.
+static quad linear(quad x, double scale, double shift) { return double(x) * scale + shift; }
+static long double linear(long double x, double scale, double shift) {
+  return float(x) * float(scale) + float(shift);
+}
 
 #define ONE(name, expression)                                        \
   {#name, [](quad x, quad y) -> quad { (void)y; return expression; }, \
@@ -47,7 +56,7 @@ static const Reference rows[] = {
     ONE(Cbrt, cbrt(x)),
     ONE(InvCbrt, 1 / cbrt(x)),
     // The scales and shifts that the registry's calls pass.
-    ONE(LinearFrac, (x * 3 / 2 + decltype(x)(0.25)) / (y * 3 / 4 + 3)),
+    ONE(LinearFrac, linear(x, 1.5, 0.25) / linear(y, 0.75, 3)),
     ONE(Sin, sin(x)),
     ONE(Cos, cos(x)),
     ONE(Tan, tan(x)),
@@ -69,6 +78,10 @@ static const Reference rows[] = {
     ONE(Atanh, atanh(x)),
     ONE(Erf, erf(x)),
     ONE(Erfc, erfc(x)),
+    ONE(ErfInv, erfinv(x)),
+    ONE(ErfcInv, erfcinv(x)),
+    ONE(CdfNorm, cdfnorm(x)),
+    ONE(CdfNormInv, cdfnorminv(x)),
     ONE(LGamma, lgamma(x)),
     ONE(TGamma, tgamma(x)),
     ONE(Floor, floor(x)),

@@ -56,8 +56,9 @@ def table(command, rule, rows):
     return "\n".join(head + [(", ".join(row) if len(row) == 1 else "{" + ", ".join(row) + "}") + "," for row in rows]) + "\n"
 
 
-def fit(f, powers, low, high, t, fixed=None, points=160, rounds=60):
-    """Minimax coefficients c_n of sum c_n x^n for f on [low, high] in relative error.
+def fit(f, powers, low, high, t, fixed=None, scale=None, points=160, rounds=60):
+    """Minimax coefficients c_n of sum c_n x^n for f on [low, high]: error relative to f, or to
+    scale(x) where given.
 
     `fixed` maps powers to given coefficients. The coefficients are rounded to type t lowest
     power first, and those left are fitted anew after each. Lawson's iteration: least squares,
@@ -66,16 +67,17 @@ def fit(f, powers, low, high, t, fixed=None, points=160, rounds=60):
     saved, mp.prec = mp.prec, 100
     xs = [(low + high) / 2 + (high - low) / 2 * cos(pi * (2 * i + 1) / (2 * points)) for i in range(points)]
     fs = [f(x) for x in xs]
+    sizes = [scale(x) for x in xs] if scale else fs
     known = dict(fixed or {})
-    scale = max(abs(low), abs(high))
+    unit = max(abs(low), abs(high))
 
     def errors():
-        return [sum(c * x**n for n, c in known.items()) / y - 1 for x, y in zip(xs, fs)]
+        return [(sum(c * x**n for n, c in known.items()) - y) / s for x, y, s in zip(xs, fs, sizes)]
 
     for position in range(len(powers)):
         free = powers[position:]
         target = errors()
-        basis = [[(x / scale)**n / y for n in free] for x, y in zip(xs, fs)]
+        basis = [[(x / unit)**n / s for n in free] for x, s in zip(xs, sizes)]
         weights = [mpf(1)] * points
         for _ in range(rounds if position == 0 else rounds // 2):
             normal = matrix(len(free), len(free))
@@ -92,7 +94,7 @@ def fit(f, powers, low, high, t, fixed=None, points=160, rounds=60):
             size = [abs(e + sum(s * a for s, a in zip(solution, row))) for row, e in zip(basis, target)]
             total = sum(w * s for w, s in zip(weights, size))
             weights = [w * s / total for w, s in zip(weights, size)]
-        known[free[0]] = rounded(solution[0] / scale**free[0], width[t])
+        known[free[0]] = rounded(solution[0] / unit**free[0], width[t])
     worst = max(abs(e) for e in errors())
     mp.prec = saved
     return known, worst

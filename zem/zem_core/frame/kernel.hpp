@@ -10,6 +10,10 @@
 //   int special(const T* x, T* r) const;              one rare element: writes *r, returns
 //                                                     its status
 //
+// A unary core whose rare lanes are mostly ordinary values may have a second vector path:
+// eval_rest(x, r, rare) returns r with the lanes replaced that eval called rare, and calls
+// rare in its turn what is for `special`.
+//
 // With two inputs: eval(a, b, rare) and special(a, b, r). With two outputs: eval(x, second,
 // rare), special(x, r, r2). Scalars of a call are members of the core. Lanes are independent:
 // the bits of an element do not depend on its place. `special` takes pointers so that a
@@ -64,6 +68,9 @@ template <class C> requires(C::csr == Csr::untouched) struct Control<C> {
   X87Guard<C::x87> x87;
 };
 
+template <class C>
+concept has_rest = requires(const C core, typename C::vec x, u32x4 rare) { core.eval_rest(x, x, rare); };
+
 // One vector of every input in, one of every output out.
 template <class C> struct Lanes {
   using T = typename C::type;
@@ -85,6 +92,10 @@ template <class C> struct Lanes {
       out[0] = core.eval(in[0], out[1], rare);
     else
       out[0] = core.eval(in[0], rare);
+  }
+  // The core's second vector path, if it has one. `rare` is what remains.
+  __attribute__((always_inline)) void eval_rest(const C& core, u32x4& rare) {
+    out[0] = core.eval_rest(in[0], out[0], rare);
   }
 };
 
@@ -135,6 +146,8 @@ __attribute__((noinline, cold)) void finish(const C& core, const OperandsOf<C>& 
       lanes.load_part(o, i, active);
     u32x4 rare{};
     lanes.eval(core, rare);
+    if constexpr (has_rest<C>)
+      if (sign_mask<T>(rare) != 0) lanes.eval_rest(core, rare = u32x4{});
     const int mask = sign_mask<T>(rare) & ((1 << active) - 1);
     if (mask == 0 && active == width) {
       lanes.store(o, i);
@@ -171,7 +184,14 @@ ORK_INLINE bool block_is_clean(const C& core, const OperandsOf<C>& o, int i) {
     lanes[v].load(o, i + v * width);
     lanes[v].eval(core, rare);
   }
-  if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) return false;
+  if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) {
+    if constexpr (!has_rest<C>) return false;
+    else {
+      rare = u32x4{};
+      for (int v = 0; v < C::vectors; ++v) lanes[v].eval_rest(core, rare);
+      if (sign_mask<T>(rare) != 0) return false;
+    }
+  }
 #pragma GCC unroll 8
   for (int v = 0; v < C::vectors; ++v) lanes[v].store(o, i + v * width);
   return true;

@@ -61,6 +61,28 @@ ORK_INLINE f32x4 load_part(const float* p, int count) {
   return x;
 }
 
+// Table look-up: one number from each place, and rows of two, first members and second apart.
+ORK_INLINE f64x2 gather(const double* p0, const double* p1) {
+  return _mm_loadh_pd(_mm_load_sd(p0), p1);
+}
+ORK_INLINE void gather_pairs(const double* p0, const double* p1, f64x2& first, f64x2& second) {
+  const f64x2 row0 = load_aligned(p0), row1 = load_aligned(p1);
+  first = _mm_unpacklo_pd(row0, row1);
+  second = _mm_unpackhi_pd(row0, row1);
+}
+ORK_INLINE void gather_pairs(const float* p0, const float* p1, const float* p2, const float* p3,
+                             f32x4& first, f32x4& second) {
+  const f32x4 none = {};
+  const f32x4 row01 = _mm_loadh_pi(_mm_loadl_pi(none, (const __m64*)p0), (const __m64*)p1);
+  const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, (const __m64*)p2), (const __m64*)p3);
+  first = _mm_shuffle_ps(row01, row23, 0x88);
+  second = _mm_shuffle_ps(row01, row23, 0xDD);
+}
+// 16-bit word `place` of a vector, 0 to 7.
+template <int place, class V> ORK_INLINE int word(V x) {
+  return _mm_extract_epi16(as<__m128i>(x), place);
+}
+
 // Bit operations on floating-point vectors.
 ORK_INLINE f64x2 and_bits(f64x2 x, u64x2 m) { return as<f64x2>(as<u64x2>(x) & m); }
 ORK_INLINE f32x4 and_bits(f32x4 x, u32x4 m) { return as<f32x4>(as<u32x4>(x) & m); }
@@ -73,6 +95,13 @@ inline constexpr u64x2 sign_f64x2 = {0x8000000000000000, 0x8000000000000000};
 inline constexpr u32x4 sign_f32x4 = {0x80000000, 0x80000000, 0x80000000, 0x80000000};
 ORK_INLINE f64x2 abs(f64x2 x) { return and_bits(x, ~sign_f64x2); }
 ORK_INLINE f32x4 abs(f32x4 x) { return and_bits(x, ~sign_f32x4); }
+
+// c0 + x (c1 + x (c2 + ...)), in that order of operations; of vectors or scalars.
+template <class V, class T> ORK_INLINE V horner(V x, T c0, T c1) { return c0 + x * c1; }
+template <class V, class T, class... Ts>
+ORK_INLINE V horner(V x, T c0, T c1, Ts... rest) {
+  return c0 + x * horner(x, c1, rest...);
+}
 
 ORK_INLINE f64x2 sqrt(f64x2 x) { return _mm_sqrt_pd(x); }
 ORK_INLINE f32x4 sqrt(f32x4 x) { return _mm_sqrt_ps(x); }

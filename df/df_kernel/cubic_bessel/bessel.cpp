@@ -1,0 +1,60 @@
+// Bessel cubic spline: the slope at a breakpoint is that of the parabola through it and its
+// two neighbours.
+#include "cubic_local/local.hpp"
+
+namespace df {
+
+// Slope of that parabola, given the cells on both sides.
+template <class V>
+V parabola_slope(V h_before, V t_before, V h_after, V t_after) {
+  return (h_after * t_before + h_before * t_after) / (h_before + h_after);
+}
+
+struct Bessel {
+  static constexpr int run = 8, reach = 1, least_nx = 4;
+  static constexpr bool may_be_unset = false;
+
+  static int check(const Task*) { return ORK_DF_OK; }
+  template <class T, class Grid>
+  static void slopes(const Task*, const Window<T>& s, int first, int last) {
+    sweep<T>(first, last + 1, [&]<class V>(int i) {
+      const V before = get<V>(s.t + i - 1), after = get<V>(s.t + i);
+      if constexpr (Grid::uniform)
+        put(s.d + i, (before + after) * T(0.5));
+      else
+        put(s.d + i, parabola_slope(get<V>(s.h + i - 1), before, get<V>(s.h + i), after));
+    });
+  }
+  template <class T>
+  static T closed(const Task*, const End<T>& left, const End<T>& right) {
+    return parabola_slope(right.h0, right.t0, left.h0, left.t0);
+  }
+};
+
+template <class T>
+inline constexpr LocalKernel* _v1DCSBesselYColsNoUniformGrid = local_cubic<T, Bessel, YCols, NoUniformGrid>;
+template <class T>
+inline constexpr LocalKernel* _v1DCSBesselYColsUniformGrid = local_cubic<T, Bessel, YCols, UniformGrid>;
+template <class T>
+inline constexpr LocalKernel* _v1DCSBesselYRowsNoUniformGrid = local_cubic<T, Bessel, YRows, NoUniformGrid>;
+template <class T>
+inline constexpr LocalKernel* _v1DCSBesselYRowsUniformGrid = local_cubic<T, Bessel, YRows, UniformGrid>;
+
+template <class T>
+inline constexpr LocalKernel* bessel_dispatch[] = {
+    _v1DCSBesselYColsNoUniformGrid<T>,
+    _v1DCSBesselYColsUniformGrid<T>,
+    _v1DCSBesselYRowsNoUniformGrid<T>,
+    _v1DCSBesselYRowsUniformGrid<T>,
+};
+
+}  // namespace df
+
+ORK_EXPORT int ork_df_kernel_dDFBesselCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
+                                                     const ork_threader* threader) {
+  return df::construct_local<df::Bessel>(df::bessel_dispatch<double>, task, method, threader);
+}
+ORK_EXPORT int ork_df_kernel_sDFBesselCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
+                                                     const ork_threader* threader) {
+  return df::construct_local<df::Bessel>(df::bessel_dispatch<float>, task, method, threader);
+}

@@ -1,0 +1,295 @@
+// The interpolation entry: checks the request, and takes one of three roads: a single site, a
+// few sites, or blocks of 64 sites over threads.
+#include "interp1d/interpolate.hpp"
+
+#include <string.h>
+
+namespace df {
+
+template <class T>
+int interpolate_block(const Interpolation<T>& job, int first, int n, int32_t& state,
+                      BlockWork<T>& work, T* values) {
+  const T* site = job.site + first;
+  if (job.total_sites != 0) {
+    generate_sites(job.site, job.total_sites, first, n, work.site);
+    site = work.site;
+  }
+  // Kinds without derivatives leave those outputs alone; here they are 0.
+  if (job.kind >= step_left_kind && job.kind != look_up_kind)
+    for (int f = 0; f < job.fit.ny; ++f)
+      for (int j = 0; j < n; ++j)
+        for (int k = 0; k < job.request.count; ++k) *job.output(f, first).at(j, k) = T(0);
+  if (job.has_callbacks())
+    return interpolate_groups(job, first, n, site, state, work.located, values);
+
+  int32_t* cell = work.cell;
+  if (job.take_cells) {
+    for (int j = 0; j < n; ++j) cell[j] = job.given_cell(first + j);
+  } else {
+    const int status = find_dispatch<T>[job.method](job.search, n, site, state, cell);
+    if (status < 0) return status;
+  }
+  if (job.store_cells)
+    for (int j = 0; j < n; ++j) job.put_cell(first + j, cell[j]);
+
+  const Evaluator<T>& eval = evaluator<T>(job.kind);
+  int status = eval.locate(job.fit, n, site, cell, work.located);
+  for (int f = 0; f < job.fit.ny && status == ORK_DF_OK; ++f)
+    status = eval.fill(job.fit, job.request, n, work.located, f, job.output(f, first));
+  return status;
+}
+
+namespace {
+
+constexpr int task_blocks = 5;  // blocks of a task of the first level
+constexpr int least_for_threads = 513;
+constexpr int least_for_blocks = 32;
+constexpr int values_in_block = 2048;
+constexpr size_t block_bytes = 18256;
+
+template <class T>
+struct Launch {
+  const Interpolation<T>& job;
+  int first, blocks;  // first site of the level, blocks of each task
+  T* values;          // a slice for each thread
+  size_t slice;
+  int status;
+
+  // Each task starts the sorted search anew, so that results do not depend on threads.
+  int run(int item, int thread, BlockWork<T>& work) const {
+    int32_t state = 0;
+    const int start = first + item * blocks * block;
+    for (int b = 0; b < blocks; ++b) {
+      const int code = interpolate_block(job, start + b * block, block, state, work,
+                                         values + static_cast<size_t>(thread) * slice);
+      if (code < 0) return code;
+    }
+    return ORK_DF_OK;
+  }
+  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
+                                                            void* context) {
+    auto& launch = *static_cast<Launch*>(context);
+    BlockWork<T> work;
+    const int code = launch.run(item, thread, work);
+    if (code < 0) __atomic_store_n(&launch.status, code, __ATOMIC_RELAXED);
+  }
+};
+
+template <class T>
+int interpolate_blocks(const Interpolation<T>& job, const ork_threader* threader) {
+  // The calling thread's arrays and, when they fit, the slices of all threads.
+  struct Room {
+    BlockWork<T> work;
+    T values[values_in_block];
+  };
+  static_assert(sizeof(Room) <= block_bytes);
+  Scratch<char> room_block(block_bytes);
+  if (!room_block) return ORK_DF_NO_MEMORY;
+  Room& room = *reinterpret_cast<Room*>(room_block.get());
+
+  const int limit = job.nsite >= least_for_threads ? thread_limit(threader) : 1;
+  const int count[2] = {job.nsite / (task_blocks * block),
+                        job.nsite % (task_blocks * block) / block};
+  const int widest = count[0] > count[1] ? count[0] : count[1];
+  const int threads = limit < widest ? limit : widest > 0 ? widest : 1;
+
+  Launch<T> launch = {job, 0, task_blocks, room.values, 0, ORK_DF_OK};
+  uint64_t needed = 0;
+  if (job.has_callbacks()) {
+    const uint64_t slice = uint64_t{block} * job.fit.ny * job.request.count;
+    launch.slice = static_cast<size_t>(slice);
+    needed = slice * threads;
+  }
+  const auto run = [&](T* values) -> int {
+    launch.values = values;
+    for (int level = 0; level < 2; ++level) {
+      if (limit > 1 && count[level] > 0) {
+        const int used = threads < count[level] ? threads : count[level];
+        threader->parallel_for(count[level], used, &launch, Launch<T>::body);
+        if (launch.status < 0) return launch.status;
+      } else {
+        for (int item = 0; item < count[level]; ++item) {
+          const int code = launch.run(item, 0, room.work);
+          if (code < 0) return code;
+        }
+      }
+      launch.first += count[level] * launch.blocks * block;
+      launch.blocks = 1;
+    }
+    const int rest = job.nsite - launch.first;
+    int32_t state = 0;
+    return rest > 0 ? interpolate_block(job, launch.first, rest, state, room.work, values)
+                    : ORK_DF_OK;
+  };
+  if (needed <= values_in_block) return run(room.values);
+  Scratch<T> slices(needed);
+  return slices ? run(slices.get()) : ORK_DF_NO_MEMORY;
+}
+
+// Fewer than 32 sites: one block, and no memory but for large callback results.
+template <class T>
+int interpolate_few(const Interpolation<T>& job) {
+  constexpr int on_stack = 1024;
+  BlockWork<T> work;
+  int32_t state = 0;
+  const uint64_t needed =
+      job.has_callbacks() ? uint64_t(job.nsite) * job.fit.ny * job.request.count : 0;
+  if (needed <= on_stack) {
+    T values[on_stack];
+    return interpolate_block(job, 0, job.nsite, state, work, values);
+  }
+  Scratch<T> values(needed);
+  return values ? interpolate_block(job, 0, job.nsite, state, work, values.get())
+                : ORK_DF_NO_MEMORY;
+}
+
+// One site, one function. Here the right end itself belongs to the right callback, and the
+// callback's status is the result.
+template <class T>
+int interpolate_one(const Interpolation<T>& job) {
+  const T s = job.site[0];
+  const int side = s < job.fit.x[0] ? left_side : s >= job.fit.right_end() ? right_side : interior;
+  int32_t state = 0, cell = 0;
+  if (side == right_side) cell = job.fit.nx;
+  if (side == interior) find_dispatch<T>[job.method](job.search, 1, &s, state, &cell);
+  if (job.callback[side] != nullptr) {
+    const int64_t one = 1, piece = piece_of_cell(cell, last_piece(job.kind, job.fit.nx));
+    T values[4] = {};
+    const int status = job.callback[side](&one, &piece, &s, values, job.params[side]);
+    for (int k = 0; k < job.request.count; ++k) *job.output(0, 0).at(0, k) = values[k];
+    return status;
+  }
+  const Evaluator<T>& eval = evaluator<T>(job.kind);
+  Located<T> located;
+  eval.locate(job.fit, 1, &s, &cell, located);
+  return eval.fill(job.fit, job.request, 1, located, 0, job.output(0, 0));
+}
+
+template <class T>
+int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, int64_t site_hint,
+                int64_t flags, const void* flag, const T* data_hint, T* result, int64_t result_hint,
+                void* cell, typename InterpCallback<T>::type* left, void* left_params,
+                typename InterpCallback<T>::type* right, void* right_params,
+                typename InterpCallback<T>::type* inner, void* inner_params,
+                typename SearchCallback<T>::type* search_callback, void* search_params,
+                const ork_threader* threader) {
+  constexpr int64_t store_cells = 2, take_cells = 4;
+  if (task == nullptr) return ORK_DF_NULL_TASK;
+  Interpolation<T> job;
+  const bool all_callbacks = left != nullptr && right != nullptr && inner != nullptr;
+  job.kind = kind_of(task->splineOrder, task->splineType, all_callbacks);
+  if (job.kind < 0) return job.kind;
+  job.take_cells = type == take_cells;
+  job.store_cells = (type & store_cells) != 0;
+  job.method = no_search;
+  if (!job.take_cells) {
+    job.method =
+        choose_search(task, site_hint, data_hint, search_callback, search_params, job.search);
+    if (job.method < 0) return job.method;
+  }
+  job.nsite = nsite > 0 ? static_cast<int32_t>(nsite) : 0;
+  job.fit = Fit<T>(task);
+  const bool wide = task->widthFlag != 0;
+  job.request = read_request(flags, flag, wide);
+  job.result = result;
+  switch (result_hint) {
+    case ORK_DF_RESULT_DEFAULT:
+    case ORK_DF_RESULT_COLS:
+      job.by_site = 1;
+      job.by_order = job.nsite;
+      break;
+    case ORK_DF_RESULT_ROWS:
+    case ORK_DF_RESULT_ROWS_APART:
+      job.by_site = job.request.count;
+      job.by_order = 1;
+      break;
+    default:
+      return ORK_DF_BAD_RESULT_HINT;
+  }
+  job.by_function = static_cast<ptrdiff_t>(job.nsite) * job.request.count;
+  job.site = site;
+  job.total_sites = (site_hint & uniform_sites) != 0 ? job.nsite : 0;
+  job.cell = cell;
+  job.wide_cells = wide;
+  job.callback[left_side] = left, job.params[left_side] = left_params;
+  job.callback[interior] = inner, job.params[interior] = inner_params;
+  job.callback[right_side] = right, job.params[right_side] = right_params;
+
+  if (!has_data(task, job.kind)) {
+    if (job.kind >= step_left_kind) return ORK_DF_BAD_Y;
+    if (!all_callbacks) return ORK_DF_BAD_COEFFS;
+  }
+  if (job.nsite == 0) return ORK_DF_OK;
+  if (job.nsite == 1 && !job.store_cells && !job.take_cells && job.total_sites == 0 &&
+      job.kind <= cubic_kind && flags <= 4 && job.fit.ny == 1 && search_callback == nullptr)
+    return interpolate_one(job);
+  if (job.nsite < least_for_blocks) return interpolate_few(job);
+  return interpolate_blocks(job, threader);
+}
+
+}  // namespace
+
+// The single-site road with the spline and the search named by the caller.
+static int interpolate_scalar(const Task* task, int kind, int search_kind, double site,
+                              int64_t flags, const void* flag, double* result,
+                              ork_df_interp_d* left, void* left_params, ork_df_interp_d* right,
+                              void* right_params, ork_df_interp_d* inner, void* inner_params) {
+  if (task == nullptr) return ORK_DF_NULL_TASK;
+  if (kind < 0 || kind > cubic_kind) return ORK_DF_BAD_TYPE;
+  if (!has_data(task, kind)) return ORK_DF_BAD_COEFFS;
+  Interpolation<double> job;
+  job.fit = Fit<double>(task);
+  job.kind = kind;
+  job.request = read_request(flags < 4 ? flags : 4, flag, (task->widthFlag & 1) != 0);
+  Task as_asked = *task;
+  as_asked.xhint = search_kind == 0   ? ORK_DF_X_UNIFORM
+                   : search_kind == 1 ? ORK_DF_X_QUASI_UNIFORM
+                                      : ORK_DF_X_NON_UNIFORM;
+  job.method = choose_search<double>(&as_asked, 0, nullptr, nullptr, nullptr, job.search);
+  job.site = &site;
+  job.result = result;
+  job.by_function = job.by_site = job.request.count;
+  job.by_order = 1;
+  job.callback[left_side] = left, job.params[left_side] = left_params;
+  job.callback[interior] = inner, job.params[interior] = inner_params;
+  job.callback[right_side] = right, job.params[right_side] = right_params;
+  return interpolate_one(job);
+}
+
+}  // namespace df
+
+ORK_EXPORT int ork_df_kernel_dDFInterpolate1D(
+    const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const double* site,
+    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const double* dataHint,
+    double* result, int64_t resultHint, void* cell, ork_df_interp_d* leftCallback, void* leftParams,
+    ork_df_interp_d* rightCallback, void* rightParams, ork_df_interp_d* interiorCallback,
+    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
+    const ork_threader* threader) {
+  return df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
+                         result, resultHint, cell, leftCallback, leftParams, rightCallback,
+                         rightParams, interiorCallback, interiorParams, searchCallback,
+                         searchParams, threader);
+}
+ORK_EXPORT int ork_df_kernel_sDFInterpolate1D(
+    const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const float* site,
+    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const float* dataHint,
+    float* result, int64_t resultHint, void* cell, ork_df_interp_s* leftCallback, void* leftParams,
+    ork_df_interp_s* rightCallback, void* rightParams, ork_df_interp_s* interiorCallback,
+    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
+    const ork_threader* threader) {
+  return df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
+                         result, resultHint, cell, leftCallback, leftParams, rightCallback,
+                         rightParams, interiorCallback, interiorParams, searchCallback,
+                         searchParams, threader);
+}
+
+ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, int searchKind,
+                                      double site, int64_t nDerivFlags, const void* derivFlags,
+                                      double* result, ork_df_interp_d* leftCallback,
+                                      void* leftParams, ork_df_interp_d* rightCallback,
+                                      void* rightParams, ork_df_interp_d* interiorCallback,
+                                      void* interiorParams) {
+  return df::interpolate_scalar(task, splineIndex, searchKind, site, nDerivFlags, derivFlags,
+                                result, leftCallback, leftParams, rightCallback, rightParams,
+                                interiorCallback, interiorParams);
+}

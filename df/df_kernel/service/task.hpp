@@ -1,0 +1,131 @@
+// The fitting task and what every kernel of this domain reads from it.
+//
+// A spline's directory holds its kernels, its dispatch tables and its exported construction
+// entries; the checks that the entries share are in construct.hpp.
+#pragma once
+#include <stddef.h>
+#include <stdint.h>
+
+#include "frame/export.hpp"
+#include "ork/df.h"
+#include "ork/serv.h"
+
+namespace df {
+
+// A bracket of breakpoint indices: any site of the bucket lies in a cell from lo to hi.
+struct Bucket {
+  int32_t lo, hi;
+};
+constexpr int max_buckets = 1024;
+
+}  // namespace df
+
+// The layout is part of the interface: callers of the outer layer read fields of it.
+struct ork_df_task {
+  int32_t widthFlag;
+  uint8_t tag;            // 4
+  int32_t precisionFlag;  // 1 double, 0 float
+  int32_t dimension;      // 1
+  int64_t nx;
+  const void* x;
+  int64_t xhint;
+  int64_t ny;
+  void** y;
+  int64_t yhint;
+  int64_t splineOrder;
+  int64_t splineType;
+  int64_t icType;
+  const void* icValues;
+  int64_t bcType;
+  const void* bcValues;
+  void** coeffs;
+  int64_t coeffHint;
+  int32_t extensionFlag;
+  int64_t bucketCount;
+  df::Bucket* buckets;
+  union {
+    double d;
+    float s;
+  } inverseBucketWidth;
+};
+static_assert(offsetof(ork_df_task, nx) == 16 && offsetof(ork_df_task, coeffs) == 96 &&
+              sizeof(ork_df_task) == 132);
+
+namespace df {
+
+using Task = ork_df_task;
+
+inline int breakpoints(const Task* task) { return static_cast<int32_t>(task->nx); }
+inline int functions(const Task* task) {
+  const int ny = static_cast<int32_t>(task->ny);
+  return ny < 1 ? 1 : ny;
+}
+inline bool uniform_grid(const Task* task) { return (task->xhint & ORK_DF_X_UNIFORM) != 0; }
+inline bool column_storage(const Task* task) { return task->yhint == ORK_DF_COLS; }
+
+template <class T>
+const T* partition(const Task* task) {
+  return static_cast<const T*>(task->x);
+}
+template <class T>
+const T* internal_values(const Task* task) {
+  return static_cast<const T*>(task->icValues);
+}
+template <class T>
+const T* boundary_values(const Task* task) {
+  return static_cast<const T*>(task->bcValues);
+}
+template <class T>
+T* coefficients(const Task* task, int f) {
+  return static_cast<T*>(task->coeffs[f]);
+}
+
+// Step of a uniform partition.
+template <class T>
+T grid_step(const Task* task) {
+  const T* x = partition<T>(task);
+  return (x[1] - x[0]) / static_cast<T>(breakpoints(task) - 1);
+}
+
+// Function f at breakpoint i is values[i * stride], for both ways of storage.
+template <class T>
+struct Samples {
+  const T* values;
+  int stride;
+  T operator[](int i) const { return values[static_cast<ptrdiff_t>(i) * stride]; }
+};
+template <class T>
+Samples<T> samples(const Task* task, int f) {
+  if (column_storage(task)) return {static_cast<const T*>(task->y[0]) + f, functions(task)};
+  return {static_cast<const T*>(task->y[f]), 1};
+}
+
+// Scratch of `count` values, released at the end of the block. Null when there is no memory
+// or the size does not fit the address space; the caller answers ORK_DF_NO_MEMORY.
+template <class T>
+class Scratch {
+ public:
+  explicit Scratch(uint64_t count)
+      : block_(count < SIZE_MAX / 2 / sizeof(T)
+                   ? static_cast<T*>(ork_serv_allocate(static_cast<size_t>(count) * sizeof(T), 128))
+                   : nullptr) {}
+  ~Scratch() {
+    if (block_ != nullptr) ork_serv_deallocate(block_);
+  }
+  Scratch(const Scratch&) = delete;
+  Scratch& operator=(const Scratch&) = delete;
+  explicit operator bool() const { return block_ != nullptr; }
+  T* get() const { return block_; }
+  T& operator[](size_t i) const { return block_[i]; }
+
+ private:
+  T* block_;
+};
+
+// Slot 4 of the threader table, at least 1; no table counts as one thread.
+inline int thread_limit(const ork_threader* threader) {
+  const int limit = threader != nullptr ? threader->max_threads() : 1;
+  return limit < 1 ? 1 : limit;
+}
+
+}  // namespace df

@@ -1,0 +1,24 @@
+#include "frame/chunk.hpp"
+#include "ork/zem_kernels.h"
+#include "trig/pi_kernel.hpp"
+#include "trig/scalar.hpp"
+
+namespace ork::trig {
+
+static int vdcos_cout_rare(const double* x, double* r) { return scalar<_dCos>(x, r); }
+
+// Cosine, double, EP: modulo pi, see pi_kernel.hpp. Fast range |x| < 2^23. Bound 2^-26.
+struct CosEpD : Core<double> {
+  static constexpr char name[] = "vdCos";
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
+    rare |= at_least<cosine_limit>(abs(x));
+    return odd_sine<PiEpD>(reduce_cosine<PiEpD>(x));
+  }
+  static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }
+};
+
+}  // namespace ork::trig
+
+ORK_EXPORT void ork_zem_kernel_dCos_V8EPnnn(int n, const double* a, double* r) {
+  ork::chunk<ork::trig::CosEpD>(n, {{a}, {r}});
+}

@@ -1,0 +1,32 @@
+#include "frame/chunk.hpp"
+#include "ork/zem_kernels.h"
+#include "trig/large.hpp"
+#include "trig/scalar.hpp"
+
+namespace ork::trig {
+
+// What is finite has its result.
+static int vdcos_cout_rare(const double* x, double* r) {
+  *r = __builtin_isinf(*x) ? *x * 0.0 : *x * *x;
+  return status_of(*x);
+}
+
+// Cosine, double, LA: modulo pi, see pi_kernel.hpp, below 2^23; from there on by the digits of
+// 1/(2 pi), see large.hpp. Bound 3.4 ulp.
+struct CosLaD : Core<double> {
+  static constexpr char name[] = "vdCos";
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
+    rare |= at_least<cosine_limit>(abs(x));
+    return odd_sine<PiLaD>(reduce_cosine<PiLaD>(x));
+  }
+  static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
+    return replace_large<cosine_limit>(abs(x), fast, large_sine(abs(x), 32), rare);
+  }
+  static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }
+};
+
+}  // namespace ork::trig
+
+ORK_EXPORT void ork_zem_kernel_dCos_V8LAynn(int n, const double* a, double* r) {
+  ork::chunk<ork::trig::CosLaD>(n, {{a}, {r}});
+}
