@@ -10,6 +10,7 @@ namespace ork {
 namespace {
 
 constexpr double kLeastExponent = -709.7827129;  // below it exp counts as 0
+constexpr double kNothing = -746;                // below it exp is 0, and would say so
 constexpr double kEpsilon = 9.999999999999999e-16;
 constexpr double kBig = 4503599627185248.0;  // rescales the continued fraction; also "no bound yet"
 constexpr double kOneOverBig = 2.2204460491251566e-16;
@@ -31,7 +32,7 @@ double series(double a, double x) {
   double r = a, term = 1, sum = 1;
   do {
     r += 1;
-    term *= x / r;
+    term = term * x / r;
     sum += term;
   } while (term / sum > kEpsilon);
   return exp(e) * sum / a;
@@ -96,7 +97,7 @@ struct Search {
     const double g = __ruadLGamma(a);
     double s = 0;
     for (int i = 0; i < 10; ++i) {
-      if (x > high || x < low) return false;
+      if (x > high || x < low || x <= 0) return false;
       const double y = upper(a, x);
       if (y < at_high || y > at_low) return false;
       tighten(y);
@@ -174,7 +175,8 @@ ORK_EXPORT double __ruadChi2CDF(double dof, double x) {
 ORK_EXPORT double __ruadChi2PDF(double dof, double x) {
   if (x <= 0 || x > kLargest) return 0;
   const double a = dof / 2;
-  return exp((a - 1) * ln(x) - x / 2 - a * kLn2 - __ruadLGamma(a));
+  const double e = (a - 1) * ln(x) - x / 2 - a * kLn2 - __ruadLGamma(a);
+  return e < kNothing ? 0 : exp(e);
 }
 
 ORK_EXPORT double __ruadChi2ICDF(double dof, double p) {
