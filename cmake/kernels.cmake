@@ -16,4 +16,5 @@ set_target_properties(ork_zem_p4m PROPERTIES
   BUILD_RPATH "$ORIGIN" INSTALL_RPATH "$ORIGIN" BUILD_WITH_INSTALL_RPATH ON)
 target_link_options(ork_zem_p4m PRIVATE
   $<$<CONFIG:Release>:-nostartfiles>  # the start files' only content is a constructor section
-  -Wl,-z,defs -Wl,-Bsymbolic -Wl,--as-needed -Wl,--gc-sections -Wl,--enable-new-dtags)
+  $<$<CONFIG:Release>:-Wl,-z,defs>   # a sanitizer's functions come with the program
+  -Wl,-Bsymbolic -Wl,--as-needed -Wl,--gc-sections -Wl,--enable-new-dtags)

@@ -51,6 +51,18 @@ typedef void (*ork_s_scalar)(int n, const float* a, float b, float* r);
 typedef void (*ork_s_unpack_i)(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
 typedef void (*ork_s_unpack_m)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
 typedef void (*ork_s_unpack_v)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+typedef void (*ork_c_pack_i)(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+typedef void (*ork_c_pack_m)(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+typedef void (*ork_c_pack_v)(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+typedef void (*ork_c_unpack_i)(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+typedef void (*ork_c_unpack_m)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+typedef void (*ork_c_unpack_v)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+typedef void (*ork_z_pack_i)(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+typedef void (*ork_z_pack_m)(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+typedef void (*ork_z_pack_v)(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+typedef void (*ork_z_unpack_i)(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+typedef void (*ork_z_unpack_m)(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+typedef void (*ork_z_unpack_v)(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
 
 extern const ork_d_unary ork_zem_kernel_dAbs_ttab[3];
 extern const float ork_zem_kernel_dAbs_ctab[3];
@@ -1085,6 +1097,102 @@ void _zemsUnpackV_21(int32_t n_low, int32_t n_high, const float* a, float* y, co
 void _zemsUnpackV_HA(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
 void _zemsUnpackV(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
 void _zemsUnpackV_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+
+extern const ork_c_pack_i ork_zem_kernel_cPackI_ttab[3];
+extern const float ork_zem_kernel_cPackI_ctab[3];
+void ork_zem_kernel_cPackI_PXHAynn(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemcPackI_21(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemcPackI_HA(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemcPackI(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+void _zemcPackI_11(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
+
+extern const ork_c_pack_m ork_zem_kernel_cPackM_ttab[3];
+extern const float ork_zem_kernel_cPackM_ctab[3];
+void ork_zem_kernel_cPackM_PXHAynn(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemcPackM_21(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemcPackM_HA(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemcPackM(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+void _zemcPackM_11(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
+
+extern const ork_c_pack_v ork_zem_kernel_cPackV_ttab[3];
+extern const float ork_zem_kernel_cPackV_ctab[3];
+void ork_zem_kernel_cPackV_PXHAynn(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemcPackV_21(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemcPackV_HA(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemcPackV(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+void _zemcPackV_11(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+
+extern const ork_c_unpack_i ork_zem_kernel_cUnpackI_ttab[3];
+extern const float ork_zem_kernel_cUnpackI_ctab[3];
+void ork_zem_kernel_cUnpackI_PXHAynn(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemcUnpackI_21(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemcUnpackI_HA(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemcUnpackI(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemcUnpackI_11(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
+
+extern const ork_c_unpack_m ork_zem_kernel_cUnpackM_ttab[3];
+extern const float ork_zem_kernel_cUnpackM_ctab[3];
+void ork_zem_kernel_cUnpackM_PXHAynn(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemcUnpackM_21(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemcUnpackM_HA(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemcUnpackM(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+void _zemcUnpackM_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
+
+extern const ork_c_unpack_v ork_zem_kernel_cUnpackV_ttab[3];
+extern const float ork_zem_kernel_cUnpackV_ctab[3];
+void ork_zem_kernel_cUnpackV_PXHAynn(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemcUnpackV_21(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemcUnpackV_HA(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemcUnpackV(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+void _zemcUnpackV_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+
+extern const ork_z_pack_i ork_zem_kernel_zPackI_ttab[3];
+extern const float ork_zem_kernel_zPackI_ctab[3];
+void ork_zem_kernel_zPackI_PXHAynn(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemzPackI_50(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemzPackI_HA(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemzPackI(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+void _zemzPackI_26(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
+
+extern const ork_z_pack_m ork_zem_kernel_zPackM_ttab[3];
+extern const float ork_zem_kernel_zPackM_ctab[3];
+void ork_zem_kernel_zPackM_PXHAynn(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemzPackM_50(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemzPackM_HA(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemzPackM(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+void _zemzPackM_26(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
+
+extern const ork_z_pack_v ork_zem_kernel_zPackV_ttab[3];
+extern const float ork_zem_kernel_zPackV_ctab[3];
+void ork_zem_kernel_zPackV_PXHAynn(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemzPackV_50(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemzPackV_HA(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemzPackV(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+void _zemzPackV_26(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+
+extern const ork_z_unpack_i ork_zem_kernel_zUnpackI_ttab[3];
+extern const float ork_zem_kernel_zUnpackI_ctab[3];
+void ork_zem_kernel_zUnpackI_PXHAynn(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemzUnpackI_50(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemzUnpackI_HA(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemzUnpackI(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+void _zemzUnpackI_26(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
+
+extern const ork_z_unpack_m ork_zem_kernel_zUnpackM_ttab[3];
+extern const float ork_zem_kernel_zUnpackM_ctab[3];
+void ork_zem_kernel_zUnpackM_PXHAynn(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemzUnpackM_50(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemzUnpackM_HA(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemzUnpackM(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+void _zemzUnpackM_26(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
+
+extern const ork_z_unpack_v ork_zem_kernel_zUnpackV_ttab[3];
+extern const float ork_zem_kernel_zUnpackV_ctab[3];
+void ork_zem_kernel_zUnpackV_PXHAynn(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemzUnpackV_50(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemzUnpackV_HA(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemzUnpackV(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
+void _zemzUnpackV_26(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
 
 #ifdef __cplusplus
 }

@@ -10,10 +10,14 @@
 namespace {
 
 namespace fs = std::filesystem;
-const fs::path work = fs::path(ORK_BUILD_DIR) / "install_test";
+
+// A directory for each test: they may run side by side.
+fs::path work_directory() {
+  return fs::path(ORK_BUILD_DIR) / "install_test" / testing::UnitTest::GetInstance()->current_test_info()->name();
+}
 
 void run(const std::string& command) {
-  const std::string log = (work / "log").string();
+  const std::string log = (work_directory() / "log").string();
   const int code = std::system((command + " >" + log + " 2>&1").c_str());
   std::stringstream text;
   text << std::ifstream(log).rdbuf();
@@ -21,7 +25,8 @@ void run(const std::string& command) {
 }
 
 struct Install : testing::Test {
-  static void SetUpTestSuite() {
+  const fs::path work = work_directory();
+  void SetUp() override {
     fs::remove_all(work);
     fs::create_directories(work);
     run("cmake --install " ORK_BUILD_DIR " --prefix " + (work / "tree").string());

@@ -468,3 +468,39 @@ ORK_TABLE const float ork_zem_kernel_sUnpackM_ctab[3] = {1111.00f, 1111.00f, 111
 #pragma weak ork_zem_kernel_sUnpackV_PXHAynn
 ORK_TABLE const ork_s_unpack_v ork_zem_kernel_sUnpackV_ttab[3] = {ork_zem_kernel_sUnpackV_PXHAynn, ork_zem_kernel_sUnpackV_PXHAynn, ork_zem_kernel_sUnpackV_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_sUnpackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cPackI_PXHAynn
+ORK_TABLE const ork_c_pack_i ork_zem_kernel_cPackI_ttab[3] = {ork_zem_kernel_cPackI_PXHAynn, ork_zem_kernel_cPackI_PXHAynn, ork_zem_kernel_cPackI_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cPackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cPackM_PXHAynn
+ORK_TABLE const ork_c_pack_m ork_zem_kernel_cPackM_ttab[3] = {ork_zem_kernel_cPackM_PXHAynn, ork_zem_kernel_cPackM_PXHAynn, ork_zem_kernel_cPackM_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cPackM_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cPackV_PXHAynn
+ORK_TABLE const ork_c_pack_v ork_zem_kernel_cPackV_ttab[3] = {ork_zem_kernel_cPackV_PXHAynn, ork_zem_kernel_cPackV_PXHAynn, ork_zem_kernel_cPackV_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cPackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cUnpackI_PXHAynn
+ORK_TABLE const ork_c_unpack_i ork_zem_kernel_cUnpackI_ttab[3] = {ork_zem_kernel_cUnpackI_PXHAynn, ork_zem_kernel_cUnpackI_PXHAynn, ork_zem_kernel_cUnpackI_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cUnpackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cUnpackM_PXHAynn
+ORK_TABLE const ork_c_unpack_m ork_zem_kernel_cUnpackM_ttab[3] = {ork_zem_kernel_cUnpackM_PXHAynn, ork_zem_kernel_cUnpackM_PXHAynn, ork_zem_kernel_cUnpackM_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cUnpackM_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cUnpackV_PXHAynn
+ORK_TABLE const ork_c_unpack_v ork_zem_kernel_cUnpackV_ttab[3] = {ork_zem_kernel_cUnpackV_PXHAynn, ork_zem_kernel_cUnpackV_PXHAynn, ork_zem_kernel_cUnpackV_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cUnpackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zPackI_PXHAynn
+ORK_TABLE const ork_z_pack_i ork_zem_kernel_zPackI_ttab[3] = {ork_zem_kernel_zPackI_PXHAynn, ork_zem_kernel_zPackI_PXHAynn, ork_zem_kernel_zPackI_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zPackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zPackM_PXHAynn
+ORK_TABLE const ork_z_pack_m ork_zem_kernel_zPackM_ttab[3] = {ork_zem_kernel_zPackM_PXHAynn, ork_zem_kernel_zPackM_PXHAynn, ork_zem_kernel_zPackM_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zPackM_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zPackV_PXHAynn
+ORK_TABLE const ork_z_pack_v ork_zem_kernel_zPackV_ttab[3] = {ork_zem_kernel_zPackV_PXHAynn, ork_zem_kernel_zPackV_PXHAynn, ork_zem_kernel_zPackV_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zPackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zUnpackI_PXHAynn
+ORK_TABLE const ork_z_unpack_i ork_zem_kernel_zUnpackI_ttab[3] = {ork_zem_kernel_zUnpackI_PXHAynn, ork_zem_kernel_zUnpackI_PXHAynn, ork_zem_kernel_zUnpackI_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zUnpackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zUnpackM_PXHAynn
+ORK_TABLE const ork_z_unpack_m ork_zem_kernel_zUnpackM_ttab[3] = {ork_zem_kernel_zUnpackM_PXHAynn, ork_zem_kernel_zUnpackM_PXHAynn, ork_zem_kernel_zUnpackM_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zUnpackM_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zUnpackV_PXHAynn
+ORK_TABLE const ork_z_unpack_v ork_zem_kernel_zUnpackV_ttab[3] = {ork_zem_kernel_zUnpackV_PXHAynn, ork_zem_kernel_zUnpackV_PXHAynn, ork_zem_kernel_zUnpackV_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zUnpackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};

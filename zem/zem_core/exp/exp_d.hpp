@@ -1,0 +1,145 @@
+#pragma once
+// Exp, double: e^x = 2^k 2^(j/N) e^r with n = round(x N/ln 2), r = x - n ln 2/N, j = n mod N,
+// k = n div N, and p = e^r - 1 a polynomial.
+// A level gives N, t and p by reduce(), 2^(j/N) (1 + p) as a sum by parts(), and combines it
+// with the scale 2^k. Fast range: |x| below 708.396 by its high word; beyond it _zemdSpecSc.
+#include "exp/tables.hpp"
+#include "frame/block.hpp"
+#include "ork/zem_kernels.h"
+
+namespace ork {
+
+constexpr double exp_shifter = 6755399441055744.0;  // 1.5 * 2^52: n in the low word of t
+
+// HA, N = 64, |r| <= ln 2/128. v = T_hi + (T_lo + (T_hi + T_lo) p) is off by at most
+// 0.51 ulp. Constants: given.
+struct ExpHa {
+  static constexpr int log2_n = 6;
+  static constexpr double two_steps_from = 709.7772976810359;  // here k becomes 1024
+  static constexpr bool nan_is_all_ones = true;
+
+  static f64x2 reduce(f64x2 x, f64x2& t) {
+    t = x * 92.33248261689366 + exp_shifter;
+    const f64x2 n = t - exp_shifter;
+    const f64x2 r = x - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
+    return r + r * r * (0.49999999999945266 + r * (0.16666666666653376 +
+                                 r * (0.04166672515731616 + r * 0.008333343728805863)));
+  }
+  static f64x2 parts(f64x2 t, f64x2 p, f64x2& hi) {
+    const u32x4 row = (as<u32x4>(t) & 63) << 4;
+    const char* const table = (const char*)exp_split64_d;
+    const f64x2 row0 = *(const f64x2*)(table + row[0]);
+    const f64x2 row1 = *(const f64x2*)(table + _mm_extract_epi16((__m128i)row, 4));
+    hi = _mm_unpacklo_pd(row0, row1);
+    const f64x2 lo = _mm_unpackhi_pd(row0, row1);
+    return lo + (hi + lo) * p;
+  }
+  static f64x2 combine(f64x2 t, f64x2 p, f64x2 scale) {
+    f64x2 hi;
+    const f64x2 lo = parts(t, p, hi);
+    return (hi + lo) * scale;
+  }
+};
+
+// LA and EP, N = 128, |r| <= ln 2/256: S + S p with S = 2^(n/128) of one OR.
+struct ExpOneWord {
+  static constexpr int log2_n = 7;
+  static constexpr bool nan_is_all_ones = false;
+
+  static u64x2 mantissa(f64x2 t) {
+    const u32x4 j = as<u32x4>(t) & 127;
+    const f64x2 low = _mm_load_sd((const double*)exp_mantissa128_d + j[0]);
+    return as<u64x2>(
+        (f64x2)_mm_loadh_pd(low, (const double*)exp_mantissa128_d + _mm_extract_epi16((__m128i)j, 4)));
+  }
+  static f64x2 parts(f64x2 t, f64x2 p, f64x2& hi) {
+    hi = or_bits(splat(1.0), mantissa(t));
+    return hi * p;
+  }
+  static f64x2 combine(f64x2 t, f64x2 p, f64x2 scale) {
+    const f64x2 s = or_bits(scale, mantissa(t));
+    return s + s * p;
+  }
+};
+
+// p of degree 4. Constants: given.
+struct ExpLa : ExpOneWord {
+  static constexpr double two_steps_from = 709.78000528721;
+
+  static f64x2 reduce(f64x2 x, f64x2& t) {
+    t = x * 184.66496523378731 + exp_shifter;
+    const f64x2 n = t - exp_shifter;
+    const f64x2 r = x - n * 0x1.62e42feep-8 - n * 1.4907929134926466e-12;
+    return r + r * r * (0.49999999999998135 + r * (0.16666671248624326 + r * 0.041666679394326736));
+  }
+};
+
+// p of degree 2: relative error r^3/6 <= 2^-28.2. Constants: given.
+struct ExpEp : ExpOneWord {
+  static constexpr double two_steps_from = 709.7772976810359;
+
+  static f64x2 reduce(f64x2 x, f64x2& t) {
+    t = x * 184.66496523378731 + exp_shifter;
+    const f64x2 n = t - exp_shifter;
+    const f64x2 r = x - n * 0x1.62e42fefa39efp-8;
+    return r + 0.5 * (r * r);
+  }
+};
+
+// One element beyond the fast range. x rises through the rows.
+template <class Level> int _zemdSpecSc(const double* a, double* out) {
+  const uint64_t image = as<uint64_t>(*a), magnitude = image & ~0ull >> 1;
+  if (magnitude > 0x7FF0000000000000) {
+    const uint64_t quiet = Level::nan_is_all_ones ? ~0ull : image | 0x0008000000000000;
+    __builtin_memcpy(out, &quiet, sizeof quiet);
+    return 0;
+  }
+  if (magnitude == 0x7FF0000000000000) {
+    *out = image >> 63 ? 0.0 : *a;
+    return 0;
+  }
+  const double x = *a;
+  if (x <= -745.1332191019412) {
+    *out = 0.0;
+    return ZEM_STATUS_UNDERFLOW;
+  }
+  if (x >= 709.7827128933841) {
+    *out = __builtin_inf();
+    return ZEM_STATUS_OVERFLOW;
+  }
+  f64x2 t, hi;
+  const f64x2 p = Level::reduce(splat(x), t);
+  const double lo = Level::parts(t, p, hi)[0];
+  const int k = (int32_t)as<u32x4>(t)[0] >> Level::log2_n;
+  const auto power_of_two = [](int e) { return as<double>((uint64_t)(e + 1023) << 52); };
+  if (x <= -708.3964185322642) {
+    // The sum is rounded once, where the last bit of a denormal will be: at 2^-52.
+    const double up = power_of_two(k + 1022), high = hi[0] * up;
+    const double s = 1.0 + high, rest = high - (s - 1.0) + lo * up;
+    *out = (s + rest - 1.0) * power_of_two(-1022);
+    return ZEM_STATUS_UNDERFLOW;
+  }
+  if (x >= Level::two_steps_from) {
+    // EP's error may carry the largest results past the end of the range.
+    const double y = (hi[0] + lo) * power_of_two(k - 1) * 2.0;
+    *out = y < __DBL_MAX__ ? y : __DBL_MAX__;
+    return 0;
+  }
+  *out = (hi[0] + lo) * power_of_two(k);
+  return 0;
+}
+
+template <class Level> struct ExpD : Core<double> {
+  static constexpr char name[] = "vdExp";
+  static f64x2 eval(f64x2 x, u32x4& rare) {
+    f64x2 t;
+    const f64x2 p = Level::reduce(x, t);
+    const u32x4 limit = splat_u32(0x4086232A), bias = u32x4{1023u << Level::log2_n, 0, 1023u << Level::log2_n, 0};
+    rare |= limit - as<u32x4>(abs(x));
+    const u64x2 k = (as<u64x2>(as<u32x4>(t) + bias)) << (52 - Level::log2_n);
+    return Level::combine(t, p, as<f64x2>(k & splat_u64(0x7FF0000000000000)));
+  }
+  static int special(const double* x, double* r) { return _zemdSpecSc<Level>(x, r); }
+};
+
+}  // namespace ork

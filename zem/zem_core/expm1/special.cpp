@@ -1,0 +1,55 @@
+// Expm1 of one element beyond the fast range: -1 below, e^x above, where e^x - 1 rounds to it.
+#include "exp/tables.hpp"
+#include "expm1/expm1.hpp"
+
+namespace ork {
+namespace {
+
+// x > 0, not above the overflow limit. N = 64, T_hi + (T_lo + (T_hi + T_lo) p): T_lo reaches
+// 2^-45, so that its product with p counts. Constants: given.
+double exp_of_large(double x) {
+  const double t = x * 92.33248261689366 + 6755399441055744.0, n = t - 6755399441055744.0;
+  const double r = x - n * 0.010830424696223417 - n * 2.572804622327669e-14;
+  const double p = r + r * r * (0.5 + r * (0.1666666666665788 + r * (0.04166666666677052 +
+                   r * (0.008333341995140497 + r * 0.0013888870459233254))));
+  const uint32_t image = (uint32_t)as<uint64_t>(t);
+  const double* const row = exp_split64_d[image & 63];
+  const double v = row[0] + (row[1] + (row[0] + row[1]) * p);
+  const uint64_t exponent = (image >> 6) + 1023;
+  if (exponent >= 2047) return v * as<double>((exponent - 1) << 52) * 2.0;
+  return v * as<double>(exponent << 52);
+}
+
+template <class T> int rare(const T* a, T* out, T limit, T largest) {
+  bits_of<T> image;
+  __builtin_memcpy(&image, a, sizeof image);
+  constexpr bits_of<T> sign = (bits_of<T>)1 << (8 * sizeof(T) - 1);
+  const bits_of<T> infinity = as<bits_of<T>>((T)__builtin_inf());
+  if (image & sign && (image & ~sign) <= infinity) {
+    *out = T(-1);
+    return 0;
+  }
+  const T x = *a;
+  if ((image & ~sign) >= infinity) {
+    *out = x * x;
+    return 0;
+  }
+  if (x > limit) {
+    volatile T huge = largest;
+    *out = huge * huge;
+    return ZEM_STATUS_OVERFLOW;
+  }
+  *out = (T)exp_of_large(x);
+  return 0;
+}
+
+}  // namespace
+
+int vdexpm1_cout_rare(const double* a, double* out) {
+  return rare(a, out, 709.782712893384, __DBL_MAX__);
+}
+int vsexpm1_cout_rare(const float* a, float* out) {
+  return rare(a, out, 88.72283172607422f, __FLT_MAX__);
+}
+
+}  // namespace ork

@@ -1,0 +1,39 @@
+// Expm1, single, HA: N = 64, e^r - 1 - r of degree 3, |r| <= ln 2/128, and a compensated sum.
+// r = u_hi + u_lo - v0, u_hi of 12 bits, so that S_hi u_hi is exact; n = 0 keeps u_hi = x.
+// Fast range: |x| <= 86.6433945. Constants: given.
+#include "expm1/expm1.hpp"
+
+namespace ork {
+namespace {
+
+struct Expm1HaS : Core<float> {
+  static constexpr char name[] = "vsExpm1";
+  static f32x4 eval(f32x4 x, u32x4& rare) {
+    const f32x4 n = x * 92.3324814f + 12582912.0f - 12582912.0f;
+    const f32x4 u = x - n * 0.0108337402f, v0 = n * -3.31553815e-06f;
+    const u32x4 whole = (u32x4)(u == x);
+    const f32x4 u_hi = and_bits(u, whole | splat_u32(0xFFFFF000)), u_lo = u - u_hi;
+    const f32x4 r = u - v0;
+    const f32x4 p = r * r * (0.500000894f + r * 0.16666697f);
+    // 8 n in the low bits, biased.
+    const u32x4 image = as<u32x4>(n + 1974208.0f), exponent = (image & 0x1FE00) << 14;
+    const __m128i row = (__m128i)(image & 0x1F8);
+    const char* const table = (const char*)expm1_split64_s;
+    const auto at = [&](int offset) { return (const __m64*)(table + offset); };
+    const f32x4 none = {};
+    const f32x4 row01 = _mm_loadh_pi(_mm_loadl_pi(none, at(_mm_cvtsi128_si32(row))), at(_mm_extract_epi16(row, 2)));
+    const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, at(_mm_extract_epi16(row, 4))), at(_mm_extract_epi16(row, 6)));
+    const f32x4 s_hi = or_bits(_mm_shuffle_ps(row01, row23, 0x88), exponent);
+    const f32x4 s_lo = (f32x4)_mm_shuffle_ps(row01, row23, 0xDD) * as<f32x4>(exponent);
+    rare |= as<u32x4>((f32x4)_mm_cmpnle_ps(abs(x), splat(86.6433945f)));
+    return with_sign_of(x, expm1_sum(s_hi, s_lo, u_hi, (u_lo - v0) + p));
+  }
+  static int special(const float* a, float* out) { return vsexpm1_cout_rare(a, out); }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sExpm1_V8HAynn(int n, const float* a, float* r) {
+  ork::chunk<ork::Expm1HaS>(n, {{a}, {r}});
+}

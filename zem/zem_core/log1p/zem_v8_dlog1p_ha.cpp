@@ -1,0 +1,28 @@
+#include "log1p/log1p_d.hpp"
+
+namespace ork {
+namespace {
+
+// HA: p of degree 5; two-word ln 2 and table, sums with their errors kept. K is the biased
+// exponent: the rows hold -1023 ln 2, too. Constants: given.
+struct Log1pHa {
+  alignas(16) static constexpr double rows[][2] = {
+#include "log1p/rows_d_ha.inc"
+  };
+  static f64x2 sum(const ShortD& f, f64x2 s, f64x2 r, f64x2 e2) {
+    const f64x2 row0 = *(const f64x2*)rows[f.row0()], row1 = *(const f64x2*)rows[f.row1()];
+    const f64x2 k = exponent_less(s, 0.0);
+    const f64x2 a = (f64x2)_mm_unpacklo_pd(row0, row1) + k * 0.69314718055829871;
+    const f64x2 b = (f64x2)_mm_unpackhi_pd(row0, row1) + k * 1.6465949582866463e-12;
+    const f64x2 v = r + e2, v_error = e2 - (v - r);  // r = 0 or e2 below it where it counts
+    const f64x2 y = a + v, y_error = v - (y - a);        // a = 0 or above v
+    return y + (y_error + ((b + v_error) + log1p_degree5(v)));
+  }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_dLog1p_V8HAynn(int n, const double* a, double* r) {
+  ork::chunk<ork::Log1pD<ork::Log1pHa>>(n, {{a}, {r}});
+}

@@ -1,0 +1,41 @@
+#pragma once
+// 1 / sqrt(x) for positive normal doubles without the hardware's root and division: a 12-bit seed,
+// and the binomial series of (1 + e)^(-1/2) in e = x y0^2 - 1, |e| < 2^-10.4.
+#include "frame/level.hpp"
+#include "frame/vec.hpp"
+
+namespace ork {
+
+inline constexpr u64x2 high_half = {0xFFFFFFFF00000000, 0xFFFFFFFF00000000};
+
+// The seed. Its low word is 0: with at most 21 significant bits its square is exact.
+// x << 3 lines the mantissa up with that of a single in the high word; the exponent's low bit,
+// complemented, and the bias make it a number in [1, 4). The seed's exponent is then
+// 896 - floor((exponent - 1023) / 2) more than the shifted estimate's.
+ORK_INLINE f64x2 rsqrt_seed(f64x2 x) {
+  constexpr u32x4 keep = {0, 0x00FFFFFF, 0, 0x00FFFFFF}, flip = {0, 0x00800000, 0, 0x00800000};
+  constexpr u32x4 one = {0, 0x3F800000, 0, 0x3F800000};
+  constexpr u32x4 top = {0, 0xB00FFFFF, 0, 0xB00FFFFF};  // (2816 << 20) + 0xFFFFF
+  constexpr u32x4 exponent = {0, 0xFFF00000, 0, 0xFFF00000};
+  const u32x4 m = ((as<u32x4>(as<u64x2>(x) << 3) & keep) ^ flip) + one;
+  const u64x2 y = (as<u64x2>(rsqrt_est(as<f32x4>(m))) >> 3) & high_half;
+  return as<f64x2>(as<u32x4>(y) + ((top - as<u32x4>(x)) >> 1 & exponent));
+}
+
+// c(e) = (1 + e)^(-1/2) - 1 to degree 5 (HA), 4 (LA), 2 (EP); the terms left out are below
+// 2^-64, 2^-54 and 2^-32.
+template <Level level> ORK_INLINE f64x2 rsqrt_series(f64x2 e) {
+  if constexpr (level == Level::ep) return e * (splat(-0.5) + e * splat(0.375));
+  f64x2 c = splat(0.2734375);
+  if constexpr (level == Level::ha) c = c + e * splat(-0.24609375);
+  return e * (splat(-0.5) + e * (splat(0.375) + e * (splat(-0.3125) + e * c)));
+}
+
+// Lanes other than positive normal numbers.
+ORK_INLINE u32x4 not_positive_normal(f64x2 x) {
+  constexpr u32x4 offset = {0, 0x80100000, 0, 0x80100000};
+  constexpr u32x4 last = {0, 0xFFDFFFFF, 0, 0xFFDFFFFF};
+  return as<u32x4>(as<i32x4>(as<u32x4>(x) - offset) > as<i32x4>(last));
+}
+
+}  // namespace ork

@@ -1,0 +1,32 @@
+#pragma once
+// The rare elements of the square roots: zeros, negative, tiny, infinite, NaN.
+#include "frame/block.hpp"
+#include "frame/image.hpp"
+
+namespace ork {
+
+// C's formula on one element.
+template <class C> ORK_INLINE typename C::type on_one(typename C::type x) {
+  u32x4 rare{};
+  return C{}.eval(splat(x), rare)[0];
+}
+
+// A denormal, or a tiny number, is brought into range by 2^54 and its root back by 2^-27.
+template <class C> int sqrt_scalar(const typename C::type* x, typename C::type* r) {
+  using T = typename C::type;
+  const bits_of<T> a = magnitude(x);
+  if (a == 0 || image(x) == infinity_bits<T>) {
+    __builtin_memcpy(r, x, sizeof(T));
+  } else if (a > infinity_bits<T>) {
+    *r = *x * T(1);
+  } else if (sign(x)) {
+    const bits_of<T> nan = domain_nan<T>;
+    __builtin_memcpy(r, &nan, sizeof(T));
+    return ZEM_STATUS_DOMAIN;
+  } else {
+    *r = on_one<C>(*x * T(0x1p54)) * T(0x1p-27);
+  }
+  return ZEM_STATUS_NONE;
+}
+
+}  // namespace ork
