@@ -54,7 +54,8 @@ void v8_ownsZero_8u(uint8_t* destination, int n);
 /* P(chi2 <= x); 0 for x <= 0. Series and continued fraction of the incomplete gamma function. */
 double __ruadChi2CDF(double dof, double x);
 
-/* Density at x; 0 for x <= 0. */
+/* Density at x; 0 for x <= 0. Too small by dof * 2e-11 of itself: a rounded ln 2 is part of its
+ * definition. */
 double __ruadChi2PDF(double dof, double x);
 
 /* The x with CDF(x) = p, by Newton steps, then bisection. 0 for p <= 0, the largest finite

@@ -14,7 +14,7 @@ constexpr double kNothing = -746;                // below it exp is 0, and would
 constexpr double kEpsilon = 9.999999999999999e-16;
 constexpr double kBig = 4503599627185248.0;  // rescales the continued fraction; also "no bound yet"
 constexpr double kOneOverBig = 2.2204460491251566e-16;
-constexpr double kLn2 = 0.6931471805999999;
+constexpr double kLn2 = 0.6931471805999999;  // of the density; 4e-11 above ln 2
 constexpr double kLargest = __DBL_MAX__;
 
 double ln(double x) { return vector_call(ork_zem_kernel_dLn_ttab[1], x); }
