@@ -18,24 +18,32 @@ static constexpr LnRow kLnRows[128] = {
 #include "rua_sub_kernel/math/ln_rows.inc"
 };
 
+inline uint32_t high_word_of(__m128i image) {
+  return uint32_t(_mm_cvtsi128_si32(_mm_srli_epi64(image, 32)));
+}
+
 inline double ln(double x) {
   // ln 2 to a multiple of 2^-42, so that k of it and a row's high part add exactly.
   constexpr double ln2_high = 0x1.62E42FEFA38p-1, ln2_low = 0x1.EF35793C7673p-45;
-  uint64_t image = as<uint64_t>(x);
+  __m128i image = _mm_castpd_si128(_mm_set_sd(x));
+  uint32_t high_word = high_word_of(image);
   int k = 0;
-  if (__builtin_expect(image - 0x0010000000000000 >= 0x7FE0000000000000, 0)) {
+  if (__builtin_expect(high_word - 0x00100000 >= 0x7FE00000, 0)) {
     // Not positive, normal and finite.
-    if (image << 1 == 0) return -__builtin_inf();
-    if (image == 0x7FF0000000000000 || x != x) return x + x;
-    if (image >> 63) return __builtin_nan("");
-    image = as<uint64_t>(x * 0x1p54);
+    if (x == 0) return -__builtin_inf();
+    if (!(x > 0 && x < __builtin_inf())) return x > 0 || x != x ? x + x : __builtin_nan("");
+    image = _mm_castpd_si128(_mm_set_sd(x * 0x1p54));
+    high_word = high_word_of(image);
     k = -54;
   }
-  const uint32_t high_word = uint32_t(image >> 32), from_lowest = high_word - 0x3FE60000;
+  const uint32_t from_lowest = high_word - 0x3FE60000;
   k += int32_t(from_lowest) >> 20;
   const LnRow& row = kLnRows[from_lowest >> 13 & 127];
-  const uint64_t z_image = uint64_t(high_word - (from_lowest & 0xFFF00000)) << 32 | uint32_t(image);
-  const double z = as<double>(z_image), z_high = as<double>(z_image & 0xFFFFFFFF00000000);
+  const __m128i exponent = _mm_cvtsi32_si128(int(from_lowest & 0xFFF00000));
+  const __m128i z_image = _mm_sub_epi32(image, _mm_slli_epi64(exponent, 32));
+  const double z = _mm_cvtsd_f64(_mm_castsi128_pd(z_image));
+  const double z_high = _mm_cvtsd_f64(
+      _mm_castsi128_pd(_mm_and_si128(z_image, _mm_set1_epi64x(int64_t(0xFFFFFFFF00000000)))));
   // Every step is exact: c has 8 bits, z_high 21.
   const double r = (z_high * row.c - 1) + (z - z_high) * row.c;
   const double rr = r * r;
