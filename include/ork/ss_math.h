@@ -33,7 +33,7 @@ void _vdSSQuickMapSort(int n, double* keys, double* values);
 void _vsSSQuickMapSort(int n, float* keys, float* values);
 
 /* Sorts by digits of 11 bits, in time linear in n; -0 stands before +0. scratch holds n
- * elements, and anything afterwards; 12 KB (32f: 24, 64f: 40) of stack hold the counters.
+ * elements, and anything afterwards; the counters take 24 KB (32f) or 40 KB (64f) of stack.
  * Returns 0; a null pointer: -8; n below 1: -6; nothing is written then. */
 int32_t v8_opxsSortRadixAscend_32f_I(float* data, float* scratch, int n);
 int32_t v8_opxsSortRadixAscend_64f_I(double* data, double* scratch, int n);
