@@ -94,12 +94,13 @@ struct Arrays : Task<R> {
             continue;
           }
           const double want = double(m.matrix_value(c.code, i, j));
-          const double size =
-              std::sqrt(double(m.matrix_value(ORK_SS_EDIT_CROSS_PRODUCT, i, i)) *
-                        double(m.matrix_value(ORK_SS_EDIT_CROSS_PRODUCT, j, j)));
+          // Sums about the origin, which the fast method takes differences of.
+          const double size = std::sqrt(double(m.raw[i][2]) * double(m.raw[j][2]));
+          const double spread =
+              std::sqrt(double(m.central[i][2]) * double(m.central[j][2]));
           const double unit = c.code == ORK_SS_EDIT_CROSS_PRODUCT   ? size
                               : c.code == ORK_SS_EDIT_COV || i == j ? size / double(m.divisor())
-                                                                    : 1;
+                                                                    : size / spread;
           EXPECT_NEAR(got, want, eps * unit) << "code " << c.code << " at " << i << " " << j;
           if (storage == ORK_SS_FULL) {
             EXPECT_EQ(got, (*this)[c.code][j * p + i]);

@@ -46,17 +46,19 @@ struct Task {
   ~Task() { __ruaSSDeleteTask(&task); }
   Task(const Task&) = delete;
 
+  // What editing returns: there is no task where its allocation had to fail.
+  int edited() const { return task ? ORK_SS_OK : ORK_SS_NULL_TASK; }
   R* array(int code, int size, R fill = canary) {
     auto& a = arrays[code];
     a.assign(size + 2 * pad, canary);
     std::fill(a.begin() + pad, a.end() - pad, fill);
-    EXPECT_EQ(Api<R>::edit(task, code, a.data() + pad), 0);
+    EXPECT_EQ(Api<R>::edit(task, code, a.data() + pad), edited());
     return a.data() + pad;
   }
   R* operator[](int code) { return arrays.at(code).data() + pad; }
   void integer(int code, int value) {
     integers[code] = value;
-    EXPECT_EQ(__ruaiSSEditTask(task, code, &integers[code]), 0);
+    EXPECT_EQ(__ruaiSSEditTask(task, code, &integers[code]), edited());
   }
   void expect_canaries() {
     for (const auto& [code, a] : arrays)
