@@ -41,18 +41,31 @@ struct Work {
   R* scratch;            // n reals for each thread
 };
 
-// Linear between the values of two neighbouring ranks, which value(rank) gives in this order.
-template <class R, class Value>
-void put_quantiles(const Work<R>& work, R* to, Value value) {
+// Linear between the values of two neighbouring ranks: value(k), then next(k + 1).
+template <class R, class Value, class Next>
+void put_quantiles(const Work<R>& work, R* to, Value value, Next next) {
   for (int i = 0; i < work.count; ++i) {
     const R place = work.task.quantileOrders[i] * R(work.n - 1);
     int k = int(place);
     if (k < 0) k = 0;                        // from NaN
     if (k > work.n - 1) k = work.n - 1;      // n - 1 was rounded up
     const R f = place - R(k);
-    const R below = value(k), above = value(k + 1 < work.n ? k + 1 : work.n - 1);
+    const R below = value(k), above = k + 1 < work.n ? next(k + 1) : below;
     to[i] = (1 - f) * below + f * above;
   }
+}
+
+template <class R>
+R least(const R* x, int n) {
+  constexpr int chains = 4;
+  R now[chains] = {x[0], x[0], x[0], x[0]};
+  int i = 0;
+  for (; i + chains <= n; i += chains)
+#pragma GCC unroll 4
+    for (int c = 0; c < chains; ++c) now[c] = x[i + c] < now[c] ? x[i + c] : now[c];
+  for (; i < n; ++i) now[0] = x[i] < now[0] ? x[i] : now[0];
+  for (int c = 1; c < chains; ++c) now[0] = now[c] < now[0] ? now[c] : now[0];
+  return now[0];
 }
 
 template <class R>
@@ -79,10 +92,14 @@ __attribute__((force_align_arg_pointer)) void take_variable(int item, int thread
       Sort<R>::radix(place, scratch, n);
     else
       Sort<R>::strided(n, place, int(stride));
-    if (quantiles) put_quantiles(work, quantiles, [&](int k) { return place[k * stride]; });
+    const auto value = [&](int k) { return place[k * stride]; };
+    if (quantiles) put_quantiles(work, quantiles, value, value);
   } else if (quantiles) {
     copy(scratch, 1);
-    put_quantiles(work, quantiles, [&](int k) { return Sort<R>::select(n, scratch, k); });
+    // Behind the element selected nothing is below it: the next rank is the least of those.
+    put_quantiles(
+        work, quantiles, [&](int k) { return Sort<R>::select(n, scratch, k); },
+        [&](int k) { return least(scratch + k, n - k); });
   }
 }
 
