@@ -48,7 +48,7 @@ struct Call {
   }
   ~Call() { __ruaSSDeleteTask(&task); }
   double cycles(uint64_t estimates, uint64_t method,
-                const ork_threader* table = &ork_threader_serial, int runs = 150) {
+                const ork_threader* table = &ork_threader_serial, int runs = 300) {
     const auto call = [&] {
       _ruadSSBasic(task, uint32_t(estimates), uint32_t(estimates >> 32), uint32_t(method), 0,
                    table);
@@ -98,7 +98,8 @@ inline void run(Report& report) {
   report.line("  estimates, method            rows  columns    bound   peer");
   const double* const x = data().x.data();
   constexpr uint64_t two = ORK_SS_MEAN | ORK_SS_CENTRAL2;
-  constexpr uint64_t four = two | ORK_SS_CENTRAL3 | ORK_SS_CENTRAL4 | ORK_SS_SKEWNESS | ORK_SS_KURTOSIS;
+  constexpr uint64_t four =
+      two | ORK_SS_CENTRAL3 | ORK_SS_CENTRAL4 | ORK_SS_SKEWNESS | ORK_SS_KURTOSIS;
   const double plain = plain_two_pass(x), theirs = gsl(x);
   const auto row = [&](const char* name, uint64_t estimates, uint64_t method, const double* w,
                        double bound, const std::string& peer) {
@@ -122,8 +123,10 @@ inline void run(Report& report) {
   const double one = 1, zero = 0;
   std::vector<double> c(p * p);
   const auto syrk = [&](const char* trans, int ld) {
-    return time_calls([&] { ork_blas_dsyrk("U", trans, &p, &n, &one, x, &ld, &zero, c.data(), &p); },
-                      40).least / (double(p) * n);
+    return time_calls(
+               [&] { ork_blas_dsyrk("U", trans, &p, &n, &one, x, &ld, &zero, c.data(), &p); }, 40)
+               .least /
+           (double(p) * n);
   };
   const double by_rows = syrk("T", n), by_columns = syrk("N", p);
   row("covariance, fast", ORK_SS_COV, ORK_SS_FAST, nullptr, 1.3 * std::max(by_rows, by_columns),

@@ -28,22 +28,29 @@ inline void run(Report& report) {
     }
     report.line(format("d %-24s %8.2f %8.2f   %s", name, cycles[0], cycles[1], peer.c_str()));
   };
-  const double nth = time_calls([&] {
-                       for (int j = 0; j < p; ++j) {
-                         std::copy(x + j * n, x + (j + 1) * n, copy.begin());
-                         std::nth_element(copy.begin(), copy.begin() + n / 2, copy.end());
-                       }
-                     }, 40).least / entries;
-  const double standard = time_calls([&] {
-                            for (int j = 0; j < p; ++j) {
-                              std::copy(x + j * n, x + (j + 1) * n, copy.begin());
-                              std::sort(copy.begin(), copy.end());
-                            }
-                          }, 12).least / entries;
+  const double nth = time_calls(
+                         [&] {
+                           for (int j = 0; j < p; ++j) {
+                             std::copy(x + j * n, x + (j + 1) * n, copy.begin());
+                             std::nth_element(copy.begin(), copy.begin() + n / 2, copy.end());
+                           }
+                         },
+                         40)
+                         .least /
+                     entries;
+  const double standard = time_calls(
+                              [&] {
+                                for (int j = 0; j < p; ++j) {
+                                  std::copy(x + j * n, x + (j + 1) * n, copy.begin());
+                                  std::sort(copy.begin(), copy.end());
+                                }
+                              },
+                              12)
+                              .least /
+                          entries;
   const ork_threader* const serial = &ork_threader_serial;
-  line("median", format("std::nth_element %.2f", nth), [&](ork_ss_task* t) {
-    _ruadSSQuantiles(t, ORK_SS_QUANTILES, 0, ORK_SS_FAST, 0, serial);
-  });
+  line("median", format("std::nth_element %.2f", nth),
+       [&](ork_ss_task* t) { _ruadSSQuantiles(t, ORK_SS_QUANTILES, 0, ORK_SS_FAST, 0, serial); });
   line("median, order statistics", format("std::sort %.2f (asked: 5 times)", standard),
        [&](ork_ss_task* t) {
          _ruadSSQuantiles(t, ORK_SS_QUANTILES | ORK_SS_ORDER_STATS, 0, ORK_SS_FAST, 0, serial);
@@ -53,9 +60,8 @@ inline void run(Report& report) {
   });
   line("median deviation", "",
        [&](ork_ss_task* t) { _ruadSSMAD(t, 0, 2, ORK_SS_FAST, 0, serial); });
-  line("streaming, epsilon 0.01", "", [&](ork_ss_task* t) {
-    _ruadSSStreamQuantiles(t, 0, 0, ORK_SS_STREAM_ADD, 0, serial);
-  });
+  line("streaming, epsilon 0.01", "",
+       [&](ork_ss_task* t) { _ruadSSStreamQuantiles(t, 0, 0, ORK_SS_STREAM_ADD, 0, serial); });
 }
 
 }  // namespace quantiles

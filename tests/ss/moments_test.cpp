@@ -96,8 +96,7 @@ struct Arrays : Task<R> {
           const double want = double(m.matrix_value(c.code, i, j));
           // Sums about the origin, which the fast method takes differences of.
           const double size = std::sqrt(double(m.raw[i][2]) * double(m.raw[j][2]));
-          const double spread =
-              std::sqrt(double(m.central[i][2]) * double(m.central[j][2]));
+          const double spread = std::sqrt(double(m.central[i][2]) * double(m.central[j][2]));
           const double unit = c.code == ORK_SS_EDIT_CROSS_PRODUCT   ? size
                               : c.code == ORK_SS_EDIT_COV || i == j ? size / double(m.divisor())
                                                                     : size / spread;
@@ -114,20 +113,32 @@ struct Arrays : Task<R> {
     const double r2 = double(m.raw[j][2] / m.w), r4 = double(m.raw[j][4] / m.w);
     const double c2 = double(m.c2(j)), mean = std::abs(double(m.mean(j))), w = double(m.w);
     switch (code) {
-      case ORK_SS_EDIT_MEAN: return std::sqrt(r2);
-      case ORK_SS_EDIT_RAW3: return r4 / std::sqrt(r2);
-      case ORK_SS_EDIT_CENTRAL2: return r2;
-      case ORK_SS_EDIT_CENTRAL3: return 4 * r2 * std::sqrt(r2);
-      case ORK_SS_EDIT_CENTRAL4: return 8 * r4;
-      case ORK_SS_EDIT_KURTOSIS: return 8 * r4 / (c2 * c2);
-      case ORK_SS_EDIT_SKEWNESS: return 8 * r2 * std::sqrt(r2) / (c2 * std::sqrt(c2));
+      case ORK_SS_EDIT_MEAN:
+        return std::sqrt(r2);
+      case ORK_SS_EDIT_RAW3:
+        return r4 / std::sqrt(r2);
+      case ORK_SS_EDIT_CENTRAL2:
+        return r2;
+      case ORK_SS_EDIT_CENTRAL3:
+        return 4 * r2 * std::sqrt(r2);
+      case ORK_SS_EDIT_CENTRAL4:
+        return 8 * r4;
+      case ORK_SS_EDIT_KURTOSIS:
+        return 8 * r4 / (c2 * c2);
+      case ORK_SS_EDIT_SKEWNESS:
+        return 8 * r2 * std::sqrt(r2) / (c2 * std::sqrt(c2));
       case ORK_SS_EDIT_VARIATION:
         return (std::sqrt(c2) / mean) * (std::sqrt(r2) / mean + r2 / c2);
-      case ORK_SS_EDIT_SUM: return w * std::sqrt(r2);
-      case ORK_SS_EDIT_SUM3: return w * r4 / std::sqrt(r2);
-      case ORK_SS_EDIT_CENTRAL_SUM2: return w * r2;
-      case ORK_SS_EDIT_CENTRAL_SUM3: return w * 4 * r2 * std::sqrt(r2);
-      case ORK_SS_EDIT_CENTRAL_SUM4: return w * 8 * r4;
+      case ORK_SS_EDIT_SUM:
+        return w * std::sqrt(r2);
+      case ORK_SS_EDIT_SUM3:
+        return w * r4 / std::sqrt(r2);
+      case ORK_SS_EDIT_CENTRAL_SUM2:
+        return w * r2;
+      case ORK_SS_EDIT_CENTRAL_SUM3:
+        return w * 4 * r2 * std::sqrt(r2);
+      case ORK_SS_EDIT_CENTRAL_SUM4:
+        return w * 8 * r4;
     }
     return 0;
   }
@@ -159,9 +170,9 @@ TYPED_TEST(StatisticsMoments, EveryMethodLayoutWeightMaskAndStorage) {
         for (const uint64_t method : kMethods)
           for (const int layout : kLayouts) {
             const int storage = (p + int(method)) % 3;
-            SCOPED_TRACE(testing::Message() << "p " << p << " weighted " << weighted << " masked "
-                                            << masked << " method " << method << " layout "
-                                            << layout << " storage " << storage);
+            SCOPED_TRACE(testing::Message()
+                         << "p " << p << " weighted " << weighted << " masked " << masked
+                         << " method " << method << " layout " << layout << " storage " << storage);
             Arrays<R> t(p, s.n, layout, s.data(layout), weighted ? s.w.data() : nullptr, mask);
             t.vectors();
             t.matrices(kAllMatrices, storage);
@@ -236,12 +247,12 @@ TYPED_TEST(StatisticsMoments, BlocksInAnySplitAgreeWithOneCall) {
             const uint64_t matrix = kMatrices[storage].estimate;
             if (method == ORK_SS_TWO_PASS && matrix == ORK_SS_COR) continue;
             const uint64_t estimates =
-                matrix | (sums_only ? ORK_SS_SUM | ORK_SS_SUM2 | ORK_SS_SUM3 | ORK_SS_SUM4 |
-                                          ORK_SS_CENTRAL_SUM2 | ORK_SS_CENTRAL_SUM3 |
-                                          ORK_SS_CENTRAL_SUM4
-                                    : ORK_SS_MEAN | ORK_SS_RAW2 | ORK_SS_RAW3 | ORK_SS_RAW4 |
-                                          ORK_SS_CENTRAL2 | ORK_SS_CENTRAL3 | ORK_SS_CENTRAL4 |
-                                          ORK_SS_KURTOSIS);
+                matrix |
+                (sums_only
+                     ? ORK_SS_SUM | ORK_SS_SUM2 | ORK_SS_SUM3 | ORK_SS_SUM4 | ORK_SS_CENTRAL_SUM2 |
+                           ORK_SS_CENTRAL_SUM3 | ORK_SS_CENTRAL_SUM4
+                     : ORK_SS_MEAN | ORK_SS_RAW2 | ORK_SS_RAW3 | ORK_SS_RAW4 | ORK_SS_CENTRAL2 |
+                           ORK_SS_CENTRAL3 | ORK_SS_CENTRAL4 | ORK_SS_KURTOSIS);
             std::vector<int> mask;
             for (int j = 0; masked && j < p; ++j) mask.push_back(j != 2);
             Arrays<R> t(p, 1, ORK_SS_COLUMNS, s.columns.data(), nullptr, mask);
@@ -290,9 +301,9 @@ TYPED_TEST(StatisticsMoments, ThreadsAgreeWithOneAndRepeat) {
               t.vectors();
               t.matrices(kAllMatrices, ORK_SS_FULL);
               if (method == ORK_SS_TWO_PASS) give_mean(t, m);
-              ASSERT_EQ(t.call(Api<R>::basic, all_vectors() | kAllMatrices, method,
-                               table_of(threads)),
-                        0);
+              ASSERT_EQ(
+                  t.call(Api<R>::basic, all_vectors() | kAllMatrices, method, table_of(threads)),
+                  0);
               std::vector<R> all;
               for (const auto& [code, a] : t.arrays) all.insert(all.end(), a.begin(), a.end());
               if (round == 0) {
@@ -440,8 +451,7 @@ TYPED_TEST(StatisticsMoments, FailingAllocationsLeaveOutputsAlone) {
         t.matrices(kAllMatrices, ORK_SS_LOWER_PACKED);
         const auto old = t.arrays;
         const bool made = !blocks::failed();
-        const int status =
-            t.call(Api<R>::basic, all_vectors() | kAllMatrices, method, table_of(2));
+        const int status = t.call(Api<R>::basic, all_vectors() | kAllMatrices, method, table_of(2));
         EXPECT_EQ(status, made && blocks::failed() ? -4000 : 0);
         if (status) {
           EXPECT_EQ(t.arrays, old);

@@ -172,10 +172,10 @@ TYPED_TEST(StatisticsQuantiles, Deviations) {
           R* const median = t.array(ORK_SS_EDIT_MEDIAN_ABS_DEV, p);
           R* const mean = t.array(ORK_SS_EDIT_MEAN_ABS_DEV, p);
           if (given) t.array(ORK_SS_EDIT_MEAN, p, R(1));
-          ASSERT_EQ(t.call(Api<R>::deviations, both,
-                           given ? ORK_SS_FAST | ORK_SS_TWO_PASS : ORK_SS_FAST,
-                           &ork_threader_parallel),
-                    0);
+          ASSERT_EQ(
+              t.call(Api<R>::deviations, both, given ? ORK_SS_FAST | ORK_SS_TWO_PASS : ORK_SS_FAST,
+                     &ork_threader_parallel),
+              0);
           for (int j = 0; j < p; ++j) {
             if (!mask[j]) {
               EXPECT_EQ(median[j], t.canary);
@@ -271,7 +271,8 @@ struct Stream : Task<R> {
       : Task<R>(p, 1, storage, x, nullptr, mask), epsilon(R(epsilon)), orders(orders) {
     this->integer(ORK_SS_EDIT_STREAM_ORDER_COUNT, int(orders.size()));
     this->integer(ORK_SS_EDIT_STREAM_PARAM_COUNT, 1);
-    EXPECT_EQ(Api<R>::edit(this->task, ORK_SS_EDIT_STREAM_ORDERS, this->orders.data()), this->edited());
+    EXPECT_EQ(Api<R>::edit(this->task, ORK_SS_EDIT_STREAM_ORDERS, this->orders.data()),
+              this->edited());
     EXPECT_EQ(Api<R>::edit(this->task, ORK_SS_EDIT_STREAM_PARAMS, &this->epsilon), this->edited());
     this->array(ORK_SS_EDIT_STREAM_QUANTILES, p * int(orders.size()));
   }

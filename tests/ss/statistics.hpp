@@ -10,17 +10,17 @@ namespace statistics {
 
 template <class R>
 struct Api;
-#define API(t, R)                                             \
-  template <>                                                 \
-  struct Api<R> {                                             \
-    static constexpr auto make = __rua##t##SSNewTask;         \
-    static constexpr auto edit = __rua##t##SSEditTask;        \
-    static constexpr auto basic = _rua##t##SSBasic;           \
-    static constexpr auto minmax = _rua##t##SSMinmax;         \
-    static constexpr auto quantiles = _rua##t##SSQuantiles;   \
+#define API(t, R)                                              \
+  template <>                                                  \
+  struct Api<R> {                                              \
+    static constexpr auto make = __rua##t##SSNewTask;          \
+    static constexpr auto edit = __rua##t##SSEditTask;         \
+    static constexpr auto basic = _rua##t##SSBasic;            \
+    static constexpr auto minmax = _rua##t##SSMinmax;          \
+    static constexpr auto quantiles = _rua##t##SSQuantiles;    \
     static constexpr auto stream = _rua##t##SSStreamQuantiles; \
-    static constexpr auto deviations = _rua##t##SSMAD;        \
-    static constexpr auto median = _rua##t##SSWMedian;        \
+    static constexpr auto deviations = _rua##t##SSMAD;         \
+    static constexpr auto median = _rua##t##SSWMedian;         \
   };
 API(d, double)
 API(s, float)
@@ -132,16 +132,23 @@ struct Moments {
   long double value(int code, int j) const {
     if (code >= ORK_SS_EDIT_MEAN && code <= ORK_SS_EDIT_RAW4)
       return raw[j][code - ORK_SS_EDIT_MEAN + 1] / w;
-    if (code >= ORK_SS_EDIT_SUM && code <= ORK_SS_EDIT_SUM4) return raw[j][code - ORK_SS_EDIT_SUM + 1];
+    if (code >= ORK_SS_EDIT_SUM && code <= ORK_SS_EDIT_SUM4)
+      return raw[j][code - ORK_SS_EDIT_SUM + 1];
     if (code >= ORK_SS_EDIT_CENTRAL_SUM2 && code <= ORK_SS_EDIT_CENTRAL_SUM4)
       return central[j][code - ORK_SS_EDIT_CENTRAL_SUM2 + 2];
     switch (code) {
-      case ORK_SS_EDIT_CENTRAL2: return c2(j);
-      case ORK_SS_EDIT_CENTRAL3: return central[j][3] / w;
-      case ORK_SS_EDIT_CENTRAL4: return central[j][4] / w;
-      case ORK_SS_EDIT_KURTOSIS: return central[j][4] / w / (c2(j) * c2(j)) - 3;
-      case ORK_SS_EDIT_SKEWNESS: return central[j][3] / w / (c2(j) * sqrtl(c2(j)));
-      case ORK_SS_EDIT_VARIATION: return sqrtl(c2(j)) / mean(j);
+      case ORK_SS_EDIT_CENTRAL2:
+        return c2(j);
+      case ORK_SS_EDIT_CENTRAL3:
+        return central[j][3] / w;
+      case ORK_SS_EDIT_CENTRAL4:
+        return central[j][4] / w;
+      case ORK_SS_EDIT_KURTOSIS:
+        return central[j][4] / w / (c2(j) * c2(j)) - 3;
+      case ORK_SS_EDIT_SKEWNESS:
+        return central[j][3] / w / (c2(j) * sqrtl(c2(j)));
+      case ORK_SS_EDIT_VARIATION:
+        return sqrtl(c2(j)) / mean(j);
     }
     ADD_FAILURE() << code;
     return 0;

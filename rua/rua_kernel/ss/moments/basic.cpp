@@ -72,8 +72,7 @@ void take_products(const Work<R>& work, Share<R>& share, int first, int last) {
     const R* w = data.w + at;
     if (work.rows) {
       for (int j = 0; j < p; ++j)
-        for (int i = 0; i < count; ++i)
-          scaled[size_t(j) * count + i] = w[i] * x[size_t(j) * n + i];
+        for (int i = 0; i < count; ++i) scaled[size_t(j) * count + i] = w[i] * x[size_t(j) * n + i];
       D::gemm("T", "N", &p, &p, &count, &one, scaled, &count, x, &n, &one, share.s, &p);
     } else {
       for (int i = 0; i < count; ++i)
@@ -200,10 +199,10 @@ struct Choice {
 
 template <class R>
 Choice<R> choose(const Request& q, bool rows, bool weighted) {
-#define ORK_KEPT(Orders, from)                                                             \
-  (index == 0   ? mask_of<from>(Orders<0>::kept)                                           \
-   : index == 1 ? mask_of<from>(Orders<1>::kept)                                           \
-   : index == 2 ? mask_of<from>(Orders<2>::kept)                                           \
+#define ORK_KEPT(Orders, from)                   \
+  (index == 0   ? mask_of<from>(Orders<0>::kept) \
+   : index == 1 ? mask_of<from>(Orders<1>::kept) \
+   : index == 2 ? mask_of<from>(Orders<2>::kept) \
                 : mask_of<from>(Orders<3>::kept))
   const int index = q.order_index();
   switch (q.method) {
@@ -230,8 +229,8 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
   const bool given_mean = q.method == Method::kTwoPass, matrix = q.asks_matrix();
   const bool rows = t.rows() || p == 1, one_pass = q.method == Method::kOnePass;
   const Choice<R> choice = choose<R>(q, rows, t.weights != nullptr);
-  Work<R> work{{n, p, t.observations, t.weights}, choice.kernel, rows, matrix && !one_pass,
-               nullptr};
+  Work<R> work{
+      {n, p, t.observations, t.weights}, choice.kernel, rows, matrix && !one_pass, nullptr};
 
   Weight<R> sum{0, 0};
   if (t.accumulatedWeight) sum = {t.accumulatedWeight[0], t.accumulatedWeight[1]};

@@ -72,8 +72,8 @@ struct Block {
     const R* lane[vectors * width];
     for (int l = 0; l < vectors * width; ++l) {
       const int variable = j + (l < lanes ? l : lanes - 1);
-      lane[l] = rows ? data.x + size_t(variable) * data.n + first
-                     : data.x + size_t(first) * p + variable;
+      lane[l] =
+          rows ? data.x + size_t(variable) * data.n + first : data.x + size_t(first) * p + variable;
     }
     const R* x = lane[0];
     const V* c = coefficients;

@@ -51,9 +51,9 @@ void from_working(const Task<R>& t, const R* s, Form form, R f, const Symmetric<
   for (int i = 0; i < p; ++i)
     for (int j = 0; j < i; ++j)
       if (t.selected(i) && t.selected(j))
-        to.set(i, j, form == Form::kCorrelation
-                         ? at(i, j) / R(__builtin_sqrt(at(i, i) * at(j, j)))
-                         : factor * at(i, j));
+        to.set(i, j,
+               form == Form::kCorrelation ? at(i, j) / R(__builtin_sqrt(at(i, i) * at(j, j)))
+                                          : factor * at(i, j));
   for (int i = 0; i < p; ++i)
     if (t.selected(i)) to.set(i, i, factor * at(i, i));
 }

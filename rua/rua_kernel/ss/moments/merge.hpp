@@ -36,10 +36,9 @@ void merge(int p, Share<R>& a, const Share<R>& b, bool keep_mean) {
     const R m2a = in(a, kCentral2), m2b = in(b, kCentral2);
     const R m3a = in(a, kCentral3), m3b = in(b, kCentral3);
     if (R* m4 = a.orders[kCentral4])
-      m4[j] += in(b, kCentral4) +
-               d * d * d * d * wa * wb * (wa * wa - wa * wb + wb * wb) / (v * v * v) +
-               6 * d * d * (wa * wa * m2b + wb * wb * m2a) / (v * v) +
-               4 * d * (wa * m3b - wb * m3a) / v;
+      m4[j] +=
+          in(b, kCentral4) + d * d * d * d * wa * wb * (wa * wa - wa * wb + wb * wb) / (v * v * v) +
+          6 * d * d * (wa * wa * m2b + wb * wb * m2a) / (v * v) + 4 * d * (wa * m3b - wb * m3a) / v;
     if (R* m3 = a.orders[kCentral3])
       m3[j] += m3b + d * d * d * wa * wb * (wa - wb) / (v * v) + 3 * d * (wa * m2b - wb * m2a) / v;
     if (R* m2 = a.orders[kCentral2]) m2[j] += m2b + d * d * wa * wb / v;

@@ -57,15 +57,22 @@ struct OnePass : OnePassOrders<index> {
       const int lanes = count - i < width ? count - i : width;
       V before, weight;
       if constexpr (weighted) {
+        weight = V{};  // beyond the last one: nothing
+        if (lanes == width)
+          weight = load(w + i);
+        else
+          for (int l = 0; l < lanes; ++l) weight[l] = w[i + l];
+        R reached[width];
+#pragma GCC unroll 4
         for (int l = 0; l < width; ++l) {
-          const R one = w[i + (l < lanes ? l : lanes - 1)];
-          before[l] = sum.w;
-          weight[l] = one;
-          if (l < lanes) {
-            sum.w += one;
-            sum.w2 += one * one;
-          }
+          reached[l] = sum.w;
+          sum.w += weight[l];
+          sum.w2 += weight[l] * weight[l];
         }
+        if constexpr (width == 2)
+          before = V{reached[0], reached[1]};
+        else
+          before = V{reached[0], reached[1], reached[2], reached[3]};
       } else {
         weight = splat(R(1));
         for (int l = 0; l < width; ++l) before[l] = sum.w + R(l);
@@ -92,9 +99,13 @@ struct OnePass : OnePassOrders<index> {
   }
 };
 
-#define ORK_ROW(rows, weighted, cross)                                        \
-  {kernel<R, OnePass<R, 0>, rows, weighted, cross>, kernel<R, OnePass<R, 1>, rows, weighted, cross>, \
-   kernel<R, OnePass<R, 2>, rows, weighted, cross>, kernel<R, OnePass<R, 3>, rows, weighted, cross>}
+#define ORK_ROW(rows, weighted, cross)                   \
+  {                                                      \
+    kernel<R, OnePass<R, 0>, rows, weighted, cross>,     \
+        kernel<R, OnePass<R, 1>, rows, weighted, cross>, \
+        kernel<R, OnePass<R, 2>, rows, weighted, cross>, \
+        kernel<R, OnePass<R, 3>, rows, weighted, cross>  \
+  }
 template <class R>
 const Kernel<R> Kernels<R>::one_pass[2][2][2][kIndices] = {
     {{ORK_ROW(false, false, false), ORK_ROW(false, false, true)},

@@ -64,10 +64,17 @@ Request request(const Task<R>& t, uint64_t estimates, uint64_t method) {
     case 0:
       if (!(method & (ORK_SS_FROM_SUMS | ORK_SS_FROM_SUMS_ALT))) return q;
       break;
-    case ORK_SS_FAST: q.method = Method::kFast; break;
-    case ORK_SS_ONE_PASS: q.method = Method::kOnePass; break;
-    case ORK_SS_TWO_PASS: q.method = Method::kTwoPass; break;
-    default: return q;
+    case ORK_SS_FAST:
+      q.method = Method::kFast;
+      break;
+    case ORK_SS_ONE_PASS:
+      q.method = Method::kOnePass;
+      break;
+    case ORK_SS_TWO_PASS:
+      q.method = Method::kTwoPass;
+      break;
+    default:
+      return q;
   }
 
   for (const Row& row : kRows)

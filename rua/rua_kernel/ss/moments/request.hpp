@@ -15,12 +15,18 @@ inline R* output_of(const Task<R>& t, int output) {
   if (output < kOrders) return t.moments[output];
   if (output >= kSums && output < kCrossProduct) return t.sums[output - kSums];
   switch (output) {
-    case kCov: return t.cov;
-    case kCor: return t.cor;
-    case kKurtosis: return t.kurtosis;
-    case kSkewness: return t.skewness;
-    case kVariation: return t.variation;
-    default: return t.crossProduct;
+    case kCov:
+      return t.cov;
+    case kCor:
+      return t.cor;
+    case kKurtosis:
+      return t.kurtosis;
+    case kSkewness:
+      return t.skewness;
+    case kVariation:
+      return t.variation;
+    default:
+      return t.crossProduct;
   }
 }
 

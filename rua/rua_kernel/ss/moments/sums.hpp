@@ -79,9 +79,13 @@ struct TwoPass : Sums<R, weighted>, TwoPassOrders<index> {
   }
 };
 
-#define ORK_ROW(Core, rows, weighted)                                                   \
-  {kernel<R, Core<R, 0, weighted>, rows, weighted>, kernel<R, Core<R, 1, weighted>, rows, weighted>, \
-   kernel<R, Core<R, 2, weighted>, rows, weighted>, kernel<R, Core<R, 3, weighted>, rows, weighted>}
+#define ORK_ROW(Core, rows, weighted)                    \
+  {                                                      \
+    kernel<R, Core<R, 0, weighted>, rows, weighted>,     \
+        kernel<R, Core<R, 1, weighted>, rows, weighted>, \
+        kernel<R, Core<R, 2, weighted>, rows, weighted>, \
+        kernel<R, Core<R, 3, weighted>, rows, weighted>  \
+  }
 template <class R>
 const Kernel<R> Kernels<R>::fast[2][2][kIndices] = {
     {ORK_ROW(Fast, false, false), ORK_ROW(Fast, false, true)},

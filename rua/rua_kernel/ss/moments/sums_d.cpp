@@ -3,4 +3,4 @@
 namespace ork::ss {
 template const Kernel<double> Kernels<double>::fast[2][2][kIndices];
 template const Kernel<double> Kernels<double>::two_pass[2][2][kIndices];
-}
+}  // namespace ork::ss

@@ -3,4 +3,4 @@
 namespace ork::ss {
 template const Kernel<float> Kernels<float>::fast[2][2][kIndices];
 template const Kernel<float> Kernels<float>::two_pass[2][2][kIndices];
-}
+}  // namespace ork::ss

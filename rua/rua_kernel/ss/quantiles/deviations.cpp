@@ -70,12 +70,11 @@ __attribute__((force_align_arg_pointer)) void mean_of_variable(int item, int thr
   Work<R>& work = *static_cast<Work<R>*>(context);
   if (!work.task.selected(item)) return;
   const R mean = work.given_mean ? work.task.mean()[item] : R(0);
-  const int32_t status =
-      deviation(work, item, thread, work.task.meanAbsDev + item, work.given_mean, mean,
-                [&](Task<R>& record, R* to) {
-                  record.moments[kMean] = to;
-                  return basic(record, ORK_SS_MEAN, ORK_SS_FAST, work.threader);
-                });
+  const int32_t status = deviation(work, item, thread, work.task.meanAbsDev + item, work.given_mean,
+                                   mean, [&](Task<R>& record, R* to) {
+                                     record.moments[kMean] = to;
+                                     return basic(record, ORK_SS_MEAN, ORK_SS_FAST, work.threader);
+                                   });
   if (status != ORK_SS_OK) __atomic_store_n(&work.status, status, __ATOMIC_RELAXED);
 }
 
@@ -100,8 +99,7 @@ template <class R>
 int32_t deviations(const Task<R>& t, uint64_t estimates, uint64_t method,
                    const ork_threader* threader) {
   if (!t.dimension || t.integer(t.dimension) < 1) return ORK_SS_BAD_DIMENSION;
-  if (!t.observationCount || t.integer(t.observationCount) < 1)
-    return ORK_SS_BAD_OBSERVATION_COUNT;
+  if (!t.observationCount || t.integer(t.observationCount) < 1) return ORK_SS_BAD_OBSERVATION_COUNT;
   if (!t.storageFormat) return ORK_SS_NULL_STORAGE;
   const int64_t layout = t.integer(t.storageFormat);
   if (layout != ORK_SS_ROWS && layout != ORK_SS_COLUMNS) return ORK_SS_BAD_STORAGE;

@@ -102,15 +102,13 @@ int32_t minmax(const Task<R>& t, uint64_t estimates, uint64_t method) {
 
 }  // namespace
 
-ORK_EXPORT int32_t _ruadSSMinmax(ork_ss_task* task, uint32_t estimates_low,
-                                 uint32_t estimates_high, uint32_t method_low,
-                                 uint32_t method_high, const ork_threader*) {
+ORK_EXPORT int32_t _ruadSSMinmax(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                 uint32_t method_low, uint32_t method_high, const ork_threader*) {
   return minmax(record_of<double>(task), join(estimates_low, estimates_high),
                 join(method_low, method_high));
 }
-ORK_EXPORT int32_t _ruasSSMinmax(ork_ss_task* task, uint32_t estimates_low,
-                                 uint32_t estimates_high, uint32_t method_low,
-                                 uint32_t method_high, const ork_threader*) {
+ORK_EXPORT int32_t _ruasSSMinmax(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                 uint32_t method_low, uint32_t method_high, const ork_threader*) {
   return minmax(record_of<float>(task), join(estimates_low, estimates_high),
                 join(method_low, method_high));
 }

@@ -33,8 +33,8 @@ int32_t check(const Task<R>& t, uint64_t estimates, uint64_t method) {
 template <class R>
 struct Work {
   const Task<R>& task;
-  int p, n, count;      // count: quantile orders
-  bool rows;            // of the observations
+  int p, n, count;  // count: quantile orders
+  bool rows;        // of the observations
   bool quantiles, sorted;
   bool sorted_rows;
   const int* variables;  // selected
@@ -47,8 +47,8 @@ void put_quantiles(const Work<R>& work, R* to, Value value, Next next) {
   for (int i = 0; i < work.count; ++i) {
     const R place = work.task.quantileOrders[i] * R(work.n - 1);
     int k = int(place);
-    if (k < 0) k = 0;                        // from NaN
-    if (k > work.n - 1) k = work.n - 1;      // n - 1 was rounded up
+    if (k < 0) k = 0;                    // from NaN
+    if (k > work.n - 1) k = work.n - 1;  // n - 1 was rounded up
     const R f = place - R(k);
     const R below = value(k), above = k + 1 < work.n ? next(k + 1) : below;
     to[i] = (1 - f) * below + f * above;

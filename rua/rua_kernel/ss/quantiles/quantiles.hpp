@@ -5,7 +5,6 @@
 namespace ork::ss {
 
 template <class R>
-int32_t quantiles(Task<R>& task, uint64_t estimates, uint64_t method,
-                  const ork_threader* threader);
+int32_t quantiles(Task<R>& task, uint64_t estimates, uint64_t method, const ork_threader* threader);
 
 }  // namespace ork::ss

@@ -11,8 +11,7 @@ namespace {
 
 template <class R>
 int32_t check(const Task<R>& t, uint64_t method) {
-  if (!t.observationCount || t.integer(t.observationCount) < 0)
-    return ORK_SS_BAD_OBSERVATION_COUNT;
+  if (!t.observationCount || t.integer(t.observationCount) < 0) return ORK_SS_BAD_OBSERVATION_COUNT;
   if (t.n() > 0) {
     if (!t.observations) return ORK_SS_NULL_OBSERVATIONS;
     if (!t.storageFormat) return ORK_SS_NULL_STORAGE;
@@ -151,8 +150,7 @@ int32_t add(Task<R>& t, const ork_threader* threader) {
       const int e = last->currentEpoch + 1;
       const EpochSize size = epoch_size(e, epsilon);
       for (int j = 0; j < p; ++j)
-        if (state[j].active && !open_epoch(state[j], e, size, sizeof(R)))
-          return ORK_SS_NO_MEMORY;
+        if (state[j].active && !open_epoch(state[j], e, size, sizeof(R))) return ORK_SS_NO_MEMORY;
       room = size.observations;
     }
     work.count = n - work.offset < room ? n - work.offset : room;

@@ -42,8 +42,7 @@ inline int variables_in(const Variable* state) { return state[-1].epochCount; }
 inline void release_state(Variable* state) {
   for (int j = 0; j < variables_in(state); ++j) {
     Variable& variable = state[j];
-    for (int e = 0; e < variable.epochCount; ++e)
-      ork_serv_deallocate(variable.epochs[e].occupied);
+    for (int e = 0; e < variable.epochCount; ++e) ork_serv_deallocate(variable.epochs[e].occupied);
     if (variable.epochs) ork_serv_deallocate(variable.epochs);
   }
   ork_serv_deallocate(state - 1);
