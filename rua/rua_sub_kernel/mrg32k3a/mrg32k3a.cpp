@@ -39,7 +39,7 @@ static_assert(sizeof(RuaStream) + sizeof(Mrg32k3a) == 40);
 void seed(Mrg32k3a& s, int32_t n, const uint32_t* params) {
   for (int32_t i = 0; i < 6; ++i) {
     const uint32_t word = i < n ? params[i] : 1, m = i < 3 ? kM1 : kM2;
-    (i < 3 ? s.x : s.y)[i % 3] = word >= m ? word - m : word;
+    *(i < 3 ? &s.x[i] : &s.y[i - 3]) = word >= m ? word - m : word;
   }
   if ((s.x[0] | s.x[1] | s.x[2]) == 0) s.x[0] = 1;
   if ((s.y[0] | s.y[1] | s.y[2]) == 0) s.y[0] = 1;
