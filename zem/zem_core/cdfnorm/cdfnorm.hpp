@@ -66,12 +66,12 @@ ORK_INLINE f64x2 cubic(f64x2 e, f64x2 e2, double c0, double c1, double c2, doubl
 // P to 2^-54 of the result, in fours for the sake of latency. Coefficients: rule.
 ORK_INLINE f64x2 cdfnorm_long(const CdfNormReduced& r) {
   const f64x2 e = r.e, e2 = e * e, e4 = e2 * e2;
-  const f64x2 in_e = cubic(e, e2, -1.0 / 2, 1.0 / 6, -1.0 / 24, 1.0 / 120) +
-                     e4 * (cubic(e, e2, -1.0 / 720, 1.0 / 5040, -1.0 / 40320, 1.0 / 362880) +
-                           e4 * (-1.0 / 3628800 + e * (1.0 / 39916800)));
-  const f64x2 in_g = cubic(e, e2, -1.0 / 6, 1.0 / 8, -1.0 / 20, 1.0 / 72) +
-                     e4 * cubic(e, e2, -1.0 / 336, 1.0 / 1920, -1.0 / 12960, 1.0 / 100800);
-  const f64x2 in_g2 = cubic(e, e2, 1.0 / 40, -1.0 / 48, 1.0 / 112, -1.0 / 384);
+  const f64x2 in_e = cubic(e, e2, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>) +
+                     e4 * (cubic(e, e2, -ratio<1, 720>, ratio<1, 5040>, -ratio<1, 40320>, ratio<1, 362880>) +
+                           e4 * (-ratio<1, 3628800> + e * (ratio<1, 39916800>)));
+  const f64x2 in_g = cubic(e, e2, -ratio<1, 6>, ratio<1, 8>, -ratio<1, 20>, ratio<1, 72>) +
+                     e4 * cubic(e, e2, -ratio<1, 336>, ratio<1, 1920>, -ratio<1, 12960>, ratio<1, 100800>);
+  const f64x2 in_g2 = cubic(e, e2, ratio<1, 40>, -ratio<1, 48>, ratio<1, 112>, -ratio<1, 384>);
   return e * in_e + r.g * (in_g + r.g * in_g2);
 }
 

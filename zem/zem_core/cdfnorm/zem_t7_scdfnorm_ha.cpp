@@ -6,8 +6,8 @@ namespace {
 
 struct Series {
   static f64x2 p(const CdfNormReduced& r) {
-    return r.e * horner(r.e, -1.0 / 2, 1.0 / 6, -1.0 / 24, 1.0 / 120, -1.0 / 720, 1.0 / 5040) +
-           r.g * horner(r.e, -1.0 / 6, 1.0 / 8, -1.0 / 20, 1.0 / 72);
+    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>, -ratio<1, 720>, ratio<1, 5040>) +
+           r.g * horner(r.e, -ratio<1, 6>, ratio<1, 8>, -ratio<1, 20>, ratio<1, 72>);
   }
 };
 

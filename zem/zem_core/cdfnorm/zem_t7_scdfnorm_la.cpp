@@ -6,8 +6,8 @@ namespace {
 
 struct Series {
   static f64x2 p(const CdfNormReduced& r) {
-    return r.e * horner(r.e, -1.0 / 2, 1.0 / 6, -1.0 / 24, 1.0 / 120) +
-           r.g * horner(r.e, -1.0 / 6, 1.0 / 8);
+    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>) +
+           r.g * horner(r.e, -ratio<1, 6>, ratio<1, 8>);
   }
 };
 

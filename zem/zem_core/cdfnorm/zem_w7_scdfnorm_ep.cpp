@@ -6,7 +6,7 @@ namespace {
 
 struct Series {
   static f64x2 p(const CdfNormReduced& r) {
-    return r.e * horner(r.e, -1.0 / 2, 1.0 / 6, -1.0 / 24) - r.g * (1.0 / 6);
+    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>) - r.g * (ratio<1, 6>);
   }
 };
 

@@ -7,8 +7,8 @@ namespace {
 struct ErfHalf {
   static f64x2 value(f64x2 x) {
     const ErfReduced r = erf_reduce(x);
-    const f64x2 p = r.e * horner(r.e, -1.0, 2.0 / 3, -1.0 / 3) +
-                    r.g * ((-1.0 / 3 + r.e * 0.5) + r.g * 0.1);
+    const f64x2 p = r.e * horner(r.e, -1.0, ratio<2, 3>, -ratio<1, 3>) +
+                    r.g * ((-ratio<1, 3> + r.e * 0.5) + r.g * 0.1);
     return erf_value(x, r, p);
   }
 };
