@@ -98,8 +98,8 @@ TYPED_TEST(Hypots, TriplesAreExactAtHa) {
 
 TYPED_TEST(Hypots, PublishedHardCases) {
   using T = TypeParam;
-  std::ifstream file(std::string(ORK_SOURCE_DIR) + "/../shared/data/worst_cases/binary" +
-                     (wide<T> ? "64" : "32") + "_hypot.tsv");
+  std::ifstream file(wide<T> ? ORK_SOURCE_DIR "/../shared/data/worst_cases/binary64_hypot.tsv"
+                             : ORK_SOURCE_DIR "/../shared/data/worst_cases/binary32_hypot.tsv");
   if (!file) GTEST_SKIP() << "no published cases beside the source tree";
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line[0] == '#') continue;
