@@ -130,16 +130,18 @@ def sine(count):
     return head + "".join(extended(v) + ",\n" for v in powers)
 
 
-def tgamma_rows(last, degree):
+def tgamma_rows(last, step, degree, literal):
     rows, worst = [], mpf(0)
-    for m in range(3, last + 1, 4):
+    for m in range(3, last + 1, step):
         c, error = approximate(lambda t: gamma(m + t / 2), degree)
-        worst = max(worst, error)
-        values = [v * mpf(2)**(degree - i) for i, v in enumerate(c)]
-        values[-1] = factorial(m - 1)
-        worst = max(worst, abs(c[-1] / values[-1] - 1) + error)
-        rows.append([extended(v) for v in reversed(values)])
-    return text(f"c[0..{degree}] of sum c[k] f^k for Gamma(m + f), |f| <= 1/2; m = 3, 7, ..., {last}. c[0] is (m - 1)!.", worst, rows)
+        pairs, _ = quadratics(c)
+        worst = max(worst, error + abs(c[-1] / factorial(m - 1) - 1))
+        row = [factorial(m - 1)]
+        for p, q in zip(pairs[::2], pairs[1::2]):  # of t = 2 f, to be 1 at 0
+            row += [2 * p / q, 4 / q]
+        rows.append([literal(v) for v in row])
+    return text(f"""(m - 1)!, and p, q of the factors 1 + p f + q f^2 whose product with it approximates Gamma(m + f),
+|f| <= 1/2; m = 3, {3 + step}, ..., {last}.""", worst, rows)
 
 
 def generate():
@@ -155,7 +157,7 @@ def generate():
     out[at + "roots.inc"] = roots()
     out[at + "sine.inc"] = sine(10)
     at = "zem/zem_core/tgamma/"
-    out[at + "rows_d.inc"] = tgamma_rows(187, 24)
-    out[at + "rows_s.inc"] = tgamma_rows(47, 14)
+    out[at + "rows_d.inc"] = tgamma_rows(187, 4, 24, extended)
+    out[at + "rows_s.inc"] = tgamma_rows(47, 1, 12, lambda v: number(v, "d"))
     mp.prec = saved
     return out

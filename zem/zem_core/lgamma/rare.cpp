@@ -132,13 +132,17 @@ ORK_INLINE int rare(const T* a, T* r) {
   const T x = as<T>(size);
   if (!sign(a)) {
     if (size > Rows<T>::overflow) {
-      volatile long double largest = sizeof(T) == 8 ? (long double)__DBL_MAX__ : (long double)__FLT_MAX__;
+      volatile long double largest =
+          sizeof(T) == 8 ? (long double)__DBL_MAX__ : (long double)__FLT_MAX__;
       *r = (T)(largest * largest);
       return ZEM_STATUS_OVERFLOW;
     }
-    if (x == 1) *r = 0;
-    else if (x >= Rows<T>::lowest) *r = (T)positive(x);
-    else *r = (T)(low(x) - ln_extended(x));
+    if (x == 1)
+      *r = 0;
+    else if (x >= Rows<T>::lowest)
+      *r = (T)positive(x);
+    else
+      *r = (T)(low(x) - ln_extended(x));
     return ZEM_STATUS_NONE;
   }
   if (x < T(sizeof(T) == 8 ? 0x1p52 : 0x1p23)) {

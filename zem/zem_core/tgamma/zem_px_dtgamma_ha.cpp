@@ -1,6 +1,6 @@
 // TGamma, double, all levels: every element through the scalar routine.
-#include "tgamma/tgamma.hpp"
 #include "ork/zem_kernels.h"
+#include "tgamma/tgamma.hpp"
 
 namespace ork {
 namespace {
