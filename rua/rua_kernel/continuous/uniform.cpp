@@ -10,8 +10,8 @@ namespace {
 
 // a + (b - a) u may round to just beyond a bound.
 template <class R, class Generate>
-inline int32_t generate(Generate generator, int32_t method, RuaStream* stream, int32_t n, R* r,
-                        R a, R b) {
+inline int32_t generate(Generate generator, int32_t method, RuaStream* stream, int32_t n, R* r, R a,
+                        R b) {
   const int32_t status = generator(stream, n, r, a, b);
   if (status >= 0 && method & RUA_METHOD_ACCURATE)
     each(n, r, [=](auto x) { return at_most(b, at_least(a, x)); });
