@@ -155,7 +155,8 @@ TYPED_TEST(Continuous, ThreadStateComesBackAlsoWhenTheStreamFails) {
   const struct {
     ork_error_callback callback;
     uint32_t mode;
-  } states[] = {{nullptr, ORK_ZEM_DENORMAL_ZERO | ORK_ZEM_ERRMODE_ERRNO | ORK_ZEM_LA},
+  } states[] = {{nullptr, ORK_ZEM_DENORMAL_KEEP | ORK_ZEM_ERRMODE_DEFAULT | ORK_ZEM_HA},
+                {nullptr, ORK_ZEM_DENORMAL_ZERO | ORK_ZEM_ERRMODE_ERRNO | ORK_ZEM_LA},
                 {count_event, ORK_ZEM_DENORMAL_KEEP | ORK_ZEM_ERRMODE_DEFAULT | ORK_ZEM_HA},
                 {count_event, ORK_ZEM_DENORMAL_ZERO | ORK_ZEM_ERRMODE_IGNORE | ORK_ZEM_EP}};
   for_cases<R>([&](const Case<R>& c) {
