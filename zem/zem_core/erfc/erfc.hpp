@@ -18,7 +18,8 @@ alignas(16) inline constexpr ErfcPower erfc_powers[128] = {
 struct ErfcExp {
   f64x2 r, t, t_low, scale;
 };
-template <int bias> ORK_INLINE ErfcExp erfc_exp(f64x2 x_hi, f64x2 rest) {
+template <int bias>
+ORK_INLINE ErfcExp erfc_exp(f64x2 x_hi, f64x2 rest) {
   const f64x2 square = x_hi * x_hi;  // exact
   const f64x2 shifted = square * -184.66496523378731 + 6755399441055744.0;
   const f64x2 n = shifted - 6755399441055744.0;
@@ -66,7 +67,8 @@ inline int erfc_special(const T* a, T* r, T reach, T underflow, T (*value)(T)) {
              : ZEM_STATUS_NONE;
 }
 
-template <class Formula> struct ErfcD : Core<double> {
+template <class Formula>
+struct ErfcD : Core<double> {
   static constexpr char name[] = "vdErfc";
   static f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= outside(as<u32x4>(abs(x)), 0, 0x403A8B12);
@@ -78,7 +80,8 @@ template <class Formula> struct ErfcD : Core<double> {
   }
 };
 
-template <class Formula> struct ErfcS : Core<float> {
+template <class Formula>
+struct ErfcS : Core<float> {
   static constexpr char name[] = "vsErfc";
   static constexpr int vectors = 1;
   static f32x4 value(f32x4 x) {
@@ -98,7 +101,8 @@ template <class Formula> struct ErfcS : Core<float> {
 };
 
 // Single, in double: x^2 is exact, T needs no low part.
-template <class Level> struct ErfcFormulaS {
+template <class Level>
+struct ErfcFormulaS {
   static f64x2 value(f64x2 x) {
     const f64x2 ax = _mm_min_pd(abs(x), splat(20.0));
     const double *p0, *p1;

@@ -1,6 +1,6 @@
-// Erfc, double, HA: g of degree 13 (12 is 0.7 ulp off at 20); c0, c1, T and g in two parts, T_hi g_hi exact, 2 - v compensated. All is
-// scaled by 2^154 up to the last product; a denormal result is rounded in its sum with
-// 2^-868, whose last place is 2^-1074 scaled.
+// Erfc, double, HA: g of degree 13 (12 is 0.7 ulp off at 20); c0, c1, T and g in two parts, T_hi
+// g_hi exact, 2 - v compensated. All is scaled by 2^154 up to the last product; a denormal result
+// is rounded in its sum with 2^-868, whose last place is 2^-1074 scaled.
 #include "erfc/erfc.hpp"
 
 namespace ork {
