@@ -103,15 +103,15 @@ def roots():
             assert abs(f(at)) < mpf(2)**-150 and 0 < side * (at + n) < mpf(1) / 2
             high = rounded(at, 53)
             low = rounded(at - high, 64)
-            unit = side * (at + n) / 8  # an eighth of the distance to the pole
+            unit = side * (at + n) * 2 / 7  # from the distance to the pole; |ln Gamma| is 1/4 there
             g = lambda t: f(at + unit * t) / t if t else (f(at + unit * mpf(2)**-60) - f(at - unit * mpf(2)**-60)) * mpf(2)**59
-            c, error = approximate(g, 15)
+            c, error = approximate(g, 23)
             worst = max(worst, error)
             rows.append([number(high, "d"), extended(low), number(rounded(unit, 20), "d")])
             rows[-1][-1] = extended(1 / unit)
-            rows[-1].append("{" + ",\n  ".join(", ".join(map(extended, c[::-1][i:i + 4])) for i in range(0, 16, 4)) + "}")
+            rows[-1].append("{" + ",\n  ".join(", ".join(map(extended, c[::-1][i:i + 4])) for i in range(0, 24, 4)) + "}")
             mp.prec = saved
-    return text("""Zero of ln |Gamma| (a double and the rest), 1/w, c[0..15]: t (c[0] + c[1] t + ...) approximates
+    return text("""Zero of ln |Gamma| (a double and the rest), 1/w, c[0..23]: t (c[0] + c[1] t + ...) approximates
 ln |Gamma(zero + w t)|, t in [-1, 1]. Row 2 (n - 2) lies left, row 2 (n - 2) + 1 right of the pole -n,
 n = 2..16. The row of zeros: no zero there.""", worst, rows)
 
