@@ -130,6 +130,19 @@ def sine(count):
     return head + "".join(extended(v) + ",\n" for v in powers)
 
 
+def ln_rows():
+    rows = []
+    for j in range(128):
+        up = j >= 53
+        middle = (1 + (mpf(j) + mpf("0.5")) / 128) / (2 if up else 1)
+        c = mpf(1) if j in (0, 127) else rounded(1 / middle, 9)
+        rows.append([number(c / (2 if up else 1), "s"), extended(-log(c))])
+    lines = ["{" + ", ".join(row) + "}," for row in rows]
+    return f"""// c, T for m = (1 + j/128, 1 + (j + 1)/128), j = 0..127; m c is within 2^-7 of 1, T = -ln c. From j = 53
+// on c is half of what T belongs to: m is halved. {mp.prec} bits of precision; made by ./dev tables gamma.
+""" + "\n".join(lines) + "\n"
+
+
 def tgamma_rows(last, step, degree, literal):
     rows, worst = [], mpf(0)
     for m in range(3, last + 1, step):
@@ -155,6 +168,7 @@ def generate():
         11, 12, [(1, mpf("1.25"), 1), (mpf("1.25"), mpf("1.5"), 1), (mpf("1.5"), mpf("1.75"), 2),
                  (mpf("1.75"), 2, 2), (2, 4, 2)], 10)
     out[at + "roots.inc"] = roots()
+    out[at + "ln.inc"] = ln_rows()
     out[at + "sine.inc"] = sine(10)
     at = "zem/zem_core/tgamma/"
     out[at + "rows_d.inc"] = tgamma_rows(187, 4, 24, extended)

@@ -42,8 +42,8 @@ struct Rows<double> {
   static constexpr double lowest = 0.875, stirling = 512.0;
   static constexpr uint64_t overflow = 0x7F5754D9278B51A7;
   static int binade(double x) { return (int)(image(&x) >> 52) - 0x401; }
-  // Of 1 + u: the borders are at u = 0.25, 0.75 and 1.25.
-  static int interval(double u) { return u < 1.25 ? (int)(2 * u + 0.5) : 3; }
+  // Of 1 + u. Comparisons: nothing here may hang on the rounding mode.
+  static int interval(double u) { return (u >= 0.25) + (u >= 0.75) + (u >= 1.25); }
 };
 template <>
 struct Rows<float> {
@@ -56,7 +56,7 @@ struct Rows<float> {
   static constexpr float lowest = 1.0f, stirling = 8192.0f;
   static constexpr uint32_t overflow = 0x7C44AF8E;
   static int binade(float x) { return (int)(image(&x) >> 23) - 0x81; }
-  // 0.25, 0.5, 0.75 and 1.
+  // Exact: u has a float's bits; the borders are 0.25, 0.5, 0.75 and 1.
   static int interval(float u) { return u < 1.0f ? (int)(4 * u) : 4; }
 };
 
@@ -97,7 +97,7 @@ ORK_INLINE long double low(T u) {
 // x >= lowest
 template <class T>
 ORK_INLINE long double positive(T x) {
-  if (x < 4) return low<T>(x - 1);  // exact, but in single from 2 down to 1: exact, too
+  if (x < 4) return low<T>(x - 1);  // x - 1 is exact
   if (x < Rows<T>::stirling) return product(Rows<T>::binades[Rows<T>::binade(x)], x);
   return stirling(x);
 }
