@@ -67,6 +67,7 @@ struct Root {
 constexpr Root roots[] = {
 #include "lgamma/roots.inc"
 };
+static_assert(sizeof roots / sizeof *roots == 2 * (16 - 2 + 1));
 
 template <class Row>
 ORK_INLINE long double product(const Row& row, long double x) {
@@ -106,7 +107,7 @@ ORK_INLINE long double positive(T x) {
 template <class T>
 ORK_INLINE long double negative(T x, const Split& split) {
   const long double f = split.f, wide = x;
-  if (x < 17 && x >= 2) {
+  if (x < 16.5f && x >= 2) {
     const Root& root = roots[2 * ((int)split.n - 2) + (f < 0)];
     const long double t = ((-wide - root.high) - root.low) * root.per_width;
     if (root.high != 0 && t <= 1 && t >= -1) return t * polynomial(root.c, t);
