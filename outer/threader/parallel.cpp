@@ -1,16 +1,10 @@
-// The parallel threader table, on OpenMP. Without OpenMP the directives vanish, and what
-// remains is the serial table.
+// The parallel threader table, on OpenMP. (Without it: serial.cpp.)
+#ifdef _OPENMP
+#include <omp.h>
+
 #pragma GCC visibility push(default)
 #include "ork/threader.h"
 #pragma GCC visibility pop
-
-#ifdef _OPENMP
-#include <omp.h>
-#else
-#pragma GCC diagnostic ignored "-Wunknown-pragmas"
-static int omp_get_thread_num() { return 0; }
-static int omp_get_max_threads() { return 1; }
-#endif
 
 namespace {
 
@@ -57,3 +51,4 @@ void ordered(int item, int thread, int third, void* context, ork_threader_body b
 
 const ork_threader ork_threader_parallel = {parallel_for, ordered_for, parallel, ordered,
                                             max_threads};
+#endif

@@ -24,3 +24,7 @@ int one_thread() { return 1; }
 
 const ork_threader ork_threader_serial = {run_items, run_items, run_threads, run_ordered,
                                           one_thread};
+
+#ifndef _OPENMP
+const ork_threader ork_threader_parallel = ork_threader_serial;
+#endif

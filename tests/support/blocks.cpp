@@ -4,16 +4,18 @@
 #include <string.h>
 
 #include <mutex>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "ork/serv.h"
 
 namespace {
 std::mutex mutex;
-std::unordered_set<void*>& alive() {
-  static auto* set = new std::unordered_set<void*>;
-  return *set;
+std::unordered_map<void*, size_t>& alive() {  // block and size
+  static auto* map = new std::unordered_map<void*, size_t>;
+  return *map;
 }
+// Behind each block, to be found as it was.
+constexpr unsigned char kFence[16] = {0xFE, 0xED, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
 int countdown;
 bool reached;
 }  // namespace
@@ -41,16 +43,21 @@ extern "C" void* ork_serv_allocate(size_t size, size_t alignment) {
     return nullptr;
   }
   void* block = nullptr;
-  if (posix_memalign(&block, alignment, size != 0 ? size : 1) != 0) return nullptr;
+  if (size > 0x40000000) return nullptr;  // sanitizers would end the program
+  if (posix_memalign(&block, alignment, size + sizeof kFence) != 0) return nullptr;
   memset(block, 0xA5, size);  // nobody may count on zeros
-  alive().insert(block);
+  memcpy(static_cast<char*>(block) + size, kFence, sizeof kFence);
+  alive()[block] = size;
   return block;
 }
 
 extern "C" void ork_serv_deallocate(void* block) {
   const std::lock_guard guard(mutex);
   if (!block) return;
-  if (alive().erase(block) == 0) abort();
-  memset(block, 0x5A, 1);
+  const auto found = alive().find(block);
+  if (found == alive().end()) abort();
+  if (memcmp(static_cast<char*>(block) + found->second, kFence, sizeof kFence) != 0) abort();
+  memset(block, 0x5A, found->second);
+  alive().erase(found);
   free(block);
 }

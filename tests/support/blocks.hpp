@@ -4,7 +4,8 @@
 
 namespace blocks {
 
-// Blocks allocated and not released. Releasing what is not alive aborts the program.
+// Blocks allocated and not released. Releasing what is not alive, or a block that was written
+// beyond its end, aborts the program.
 int live();
 
 // The k-th allocation from now on (from 1) gives null; 0 ends that. Later ones succeed.

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "accuracy/inverse_error.hpp"
+
 // The same names at both widths, so that a row states its function once.
 #define BOTH(name)                                   \
   static quad name(quad x) { return name##q(x); }    \
@@ -76,6 +78,10 @@ static const Reference rows[] = {
     ONE(Atanh, atanh(x)),
     ONE(Erf, erf(x)),
     ONE(Erfc, erfc(x)),
+    ONE(ErfInv, erfinv(x)),
+    ONE(ErfcInv, erfcinv(x)),
+    ONE(CdfNorm, cdfnorm(x)),
+    ONE(CdfNormInv, cdfnorminv(x)),
     ONE(LGamma, lgamma(x)),
     ONE(TGamma, tgamma(x)),
     ONE(Floor, floor(x)),

@@ -1,0 +1,58 @@
+// What a generator needs of the frame. The records, statuses and exported functions are in
+// ork/rua.h; this adds the views that code inside the library uses.
+//
+// A generator is a directory with
+//   - a state record: the words behind the 16 bytes of RuaStream, in image order, with
+//     static_assert(sizeof(RuaStream) + sizeof(State) == its stateSize in registry.cpp);
+//   - its four exported functions, marked ORK_EXPORT, declared in ork/rua.h, named in
+//     registry.cpp; each begins with `State& s = state<State>(stream)`.
+// The init function is a switch over Method; generate functions return RUA_STATUS_OK.
+#pragma once
+#include "ork/rua.h"
+
+namespace ork::rua {
+
+enum Method : int32_t { kSeed = 0, kLeapfrog = 1, kSkipAhead = 2 };
+
+static_assert(sizeof(void*) == 4, "records and images are those of 32-bit code");
+static_assert(sizeof(RuaStream) == 16);
+static_assert(sizeof(RuaChunk) == 32);
+static_assert(sizeof(RuaBrngProperties) == 36);
+static_assert(sizeof(RuaSharedRow) == 24);
+
+constexpr uint32_t kAlignment = 128;  // of every block
+
+// The generator's own words.
+template <class State>
+inline State& state(RuaStream* stream) {
+  return *reinterpret_cast<State*>(stream + 1);
+}
+template <class State>
+inline const State& state(const RuaStream* stream) {
+  return *reinterpret_cast<const State*>(stream + 1);
+}
+
+// The registry row of a live stream.
+inline const RuaBrngProperties& properties(const RuaStream* stream) {
+  int32_t row, offset;
+  const RuaBrngProperties* table = __ruaGetBrngBaseOffset(stream->brng, &row, &offset);
+  return table[row];
+}
+
+// Bytes of the generator's words. A registered row may claim less than the head.
+inline uint32_t state_bytes(const RuaBrngProperties& row) {
+  constexpr int32_t head = sizeof(RuaStream);
+  return row.stateSize > head ? row.stateSize - head : 0;
+}
+
+// The number of the stream within its generator's family, 0 where there is no family.
+inline int32_t family_member(const RuaStream* stream) {
+  int32_t row, offset;
+  __ruaGetBrngBaseOffset(stream->brng, &row, &offset);
+  return offset;
+}
+
+// The count of a skip-ahead or the exponent of a power: two words, low first.
+inline uint64_t join(uint32_t low, uint32_t high) { return uint64_t{high} << 32 | low; }
+
+}  // namespace ork::rua

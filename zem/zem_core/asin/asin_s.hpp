@@ -1,0 +1,43 @@
+#pragma once
+// Asin, single: the block frame's special lanes, and the estimates shared with Acos EP.
+#include "asin/asin.hpp"
+
+namespace ork {
+
+// |x| >= 1 or a NaN.
+inline int sasin_special(const float* x, float* r) {
+  uint32_t image;
+  __builtin_memcpy(&image, x, sizeof image);
+  const uint32_t magnitude = image & 0x7FFFFFFF;
+  int status = 0;
+  if (magnitude == 0x3F800000)
+    image = (image & 0x80000000) | as<uint32_t>(1.57079637f);
+  else if (magnitude <= 0x7F800000) {
+    image = 0xFFC00000;
+    status = ZEM_STATUS_DOMAIN;
+  }
+  __builtin_memcpy(r, &image, sizeof image);  // a NaN as it stands
+  return status;
+}
+
+// z = (1 - a)/2 where a >= 0.5 (`outer`), else a^2. The halving is of the exponent field.
+ORK_INLINE f32x4 sasin_variable(f32x4 a, u32x4 outer) {
+  const f32x4 half = as<f32x4>(as<u32x4>(1.0f - a) - 0x00800000);
+  return select(outer, half, a * a);
+}
+
+// K f + g: K below 0.5, pi/2 - 2 K above.
+ORK_INLINE f32x4 sasin_result(f32x4 k, u32x4 outer) {
+  const f32x4 f = as<f32x4>(as<u32x4>(splat(1.0f)) + (outer & 0x80800000));  // 1 or -2
+  return k * f + and_bits(splat(1.57079637f), outer);
+}
+
+// v + v S(z) with v = sqrt z by rsqrt and one Newton step; relative error 2^-12.
+// Constants: given.
+ORK_INLINE f32x4 sasin_ep(f32x4 z, f32x4 a, u32x4 outer) {
+  const f32x4 y = rsqrt_est(z), s = z * y;
+  const f32x4 v = select(outer, (s * y - 3.0f) * (-0.5f * s), a);
+  return v + v * (z * (0.165042728f + z * 0.0943948552f));
+}
+
+}  // namespace ork

@@ -1,0 +1,18 @@
+// Asin, single, HA: see asin.hpp. Rare: |x| >= 1, NaN. Bound: 0.64 ulp.
+#include "asin/asin_s.hpp"
+#include "frame/block.hpp"
+#include "ork/zem_kernels.h"
+
+namespace ork {
+namespace {
+
+struct AsinHaS : Asin<float, AsinHa> {
+  static int special(const float* x, float* r) { return sasin_special(x, r); }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sAsin_T7HAynn(int n, const float* a, float* r) {
+  ork::block<ork::AsinHaS>(n, {{a}, {r}});
+}

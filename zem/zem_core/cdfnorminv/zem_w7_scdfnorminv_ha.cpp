@@ -1,0 +1,20 @@
+// CdfNormInv, single, HA: in double, degree 7 in quarters of binades.
+#include "cdfnorminv/cdfnorminv.hpp"
+
+namespace ork {
+namespace {
+
+alignas(16) constexpr double table[][8] = {
+#include "cdfnorminv/rows_s_ha.inc"
+};
+
+struct Function : CdfNormInvS {
+  template <Level> static const double* rows() { return table[0]; }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sCdfNormInv_W7HAynn(int n, const float* a, float* r) {
+  ork::block<ork::InverseS<ork::Function, ork::Level::ha>>(n, {{a}, {r}});
+}

@@ -1,0 +1,20 @@
+// CdfNormInv, single, LA: in double, degree 5 in quarters of binades.
+#include "cdfnorminv/cdfnorminv.hpp"
+
+namespace ork {
+namespace {
+
+alignas(16) constexpr double table[][6] = {
+#include "cdfnorminv/rows_s_la.inc"
+};
+
+struct Function : CdfNormInvS {
+  template <Level> static const double* rows() { return table[0]; }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sCdfNormInv_W7LAynn(int n, const float* a, float* r) {
+  ork::block<ork::InverseS<ork::Function, ork::Level::la>>(n, {{a}, {r}});
+}

@@ -1,0 +1,20 @@
+// ErfcInv, double, LA: degree 11 in quarters of binades.
+#include "erfcinv/erfcinv.hpp"
+
+namespace ork {
+namespace {
+
+alignas(16) constexpr double table[][12] = {
+#include "erfinv/rows_d_la.inc"
+};
+
+struct Function : ErfcInvD {
+  template <Level> static const double* rows() { return table[0]; }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_dErfcInv_W7LAynn(int n, const double* a, double* r) {
+  ork::block<ork::InverseD<ork::Function, ork::Level::la>>(n, {{a}, {r}});
+}

@@ -1,0 +1,20 @@
+// ErfcInv, single, HA: in double, degree 7 in quarters of binades.
+#include "erfcinv/erfcinv.hpp"
+
+namespace ork {
+namespace {
+
+alignas(16) constexpr double table[][8] = {
+#include "erfinv/rows_s_ha.inc"
+};
+
+struct Function : ErfcInvS {
+  template <Level> static const double* rows() { return table[0]; }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sErfcInv_W7HAynn(int n, const float* a, float* r) {
+  ork::block<ork::InverseS<ork::Function, ork::Level::ha>>(n, {{a}, {r}});
+}
