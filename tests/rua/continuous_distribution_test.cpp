@@ -221,6 +221,22 @@ TYPED_TEST(Continuous, AccurateUniformKeepsItsBounds) {
   }
 }
 
+class Uniform : public RuaTest {};
+
+// The single form works in double and rounds at the end, also where it takes a shorter way.
+TEST_F(Uniform, SingleNumbersAreTheDoubleOnesRounded) {
+  for (int n : {1, 2, 3, 4, 5, 6, 7, 9, 300000})
+    for (auto [a, b] : {std::pair{0.f, 1.f}, {-0.f, 1.f}, {0.f, 1.5f}, {-1.f, 1.f}}) {
+      Stream s(RUA_BRNG_MT19937, {77}), d(RUA_BRNG_MT19937, {77});
+      std::vector<float> r(n);
+      std::vector<double> wide(n);
+      ASSERT_EQ(_ruasRngUniform(0, s, n, r.data(), a, b), 0);
+      ASSERT_EQ(_ruadRngUniform(0, d, n, wide.data(), a, b), 0);
+      for (int i = 0; i < n; ++i) ASSERT_EQ(r[i], float(wide[i])) << i;
+      EXPECT_EQ(record(s), record(d));
+    }
+}
+
 // Kolmogorov-Smirnov both ways (p of about 1e-6), mean and variance within 5 standard errors.
 template <class R>
 class Law : public testing::TestWithParam<Case<R>> {
