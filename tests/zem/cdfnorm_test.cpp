@@ -14,12 +14,22 @@ template <class T>
 void special(const char* name, T limit, T top) {
   const T nan = quiet_nan<T>;
   for (int level = 0; level < 3; ++level)
-    check_special<T>({"CdfNorm", level, name, T(0.75), 0,
-                      {{nan, nan}, {-nan, nan},
-                       {inf<T>, T(1)}, {-inf<T>, T(0)},
-                       {T(0), T(0.5)}, {-T(0), T(0.5)},
-                       {smallest_denormal<T>, T(0.5)}, {-smallest_denormal<T>, T(0.5)},
-                       {T(9), T(1)}, {largest<T>, T(1)}, {top, T(1)},
+    check_special<T>({"CdfNorm",
+                      level,
+                      name,
+                      T(0.75),
+                      0,
+                      {{nan, nan},
+                       {-nan, nan},
+                       {inf<T>, T(1)},
+                       {-inf<T>, T(0)},
+                       {T(0), T(0.5)},
+                       {-T(0), T(0.5)},
+                       {smallest_denormal<T>, T(0.5)},
+                       {-smallest_denormal<T>, T(0.5)},
+                       {T(9), T(1)},
+                       {largest<T>, T(1)},
+                       {top, T(1)},
                        {limit, smallest_denormal<T>},
                        {std::nextafter(limit, -inf<T>), T(0), ZEM_STATUS_UNDERFLOW},
                        {T(-40), T(0), ZEM_STATUS_UNDERFLOW},
@@ -42,7 +52,8 @@ template <class T>
 void directed(const Limits& limits, T limit, int steps) {
   std::vector<T> centres = {T(-37.519379347144504), T(8.3)};
   for (int j = 0; j < -limit * steps - 1; ++j) centres.push_back(T(-(j + 0.5) / steps));
-  std::vector<T> points = neighbours(centres, 1) + spread<T>(limit, 0, 3000) + spread<T>(-5, 9, 2000);
+  std::vector<T> points =
+      neighbours(centres, 1) + spread<T>(limit, 0, 3000) + spread<T>(-5, 9, 2000);
   for (T x = 1; x > 0; x *= T(0.3)) points.push_back(x), points.push_back(-x);
   check_directed<T>("CdfNorm", exact::cdfnorm, points, limits);
 }

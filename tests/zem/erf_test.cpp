@@ -16,14 +16,24 @@ template <class T>
 void special(const char* name) {
   const T nan = quiet_nan<T>, tiny = smallest_denormal<T>;
   for (int level = 0; level < 3; ++level)
-    check_special<T>({"Erf", level, name, T(0.75), 0,
-                      {{nan, nan}, {-nan, nan},
-                       {inf<T>, T(1)}, {-inf<T>, T(-1)},
-                       {largest<T>, T(1)}, {-largest<T>, T(-1)},
-                       {T(0), T(0)}, {-T(0), -T(0)},
-                       {T(5.9921875), T(1)}, {T(-6), T(-1)},
-                       {tiny, tiny}, {-tiny, -tiny},
-                       {4 * tiny, 5 * tiny},      // 4.51
+    check_special<T>({"Erf",
+                      level,
+                      name,
+                      T(0.75),
+                      0,
+                      {{nan, nan},
+                       {-nan, nan},
+                       {inf<T>, T(1)},
+                       {-inf<T>, T(-1)},
+                       {largest<T>, T(1)},
+                       {-largest<T>, T(-1)},
+                       {T(0), T(0)},
+                       {-T(0), -T(0)},
+                       {T(5.9921875), T(1)},
+                       {T(-6), T(-1)},
+                       {tiny, tiny},
+                       {-tiny, -tiny},
+                       {4 * tiny, 5 * tiny},       // 4.51
                        {-3 * tiny, -3 * tiny}}});  // 3.39
 }
 TEST(Erf, SpecialDouble) { special<double>("vdErf"); }
@@ -34,7 +44,8 @@ void directed(const Limits& limits) {
   std::vector<T> centres = {T(0.02734375), T(-0.02734375), T(5.9921875), smallest_normal<T>,
                             smallest_normal<T> / T(1.128)};
   for (int j = 0; j < 770; ++j) centres.push_back(T((j + 0.5) / 128));
-  std::vector<T> points = neighbours(centres, 1) + spread<T>(-6, 6, 3000) + spread<T>(-0.04, 0.04, 1000) +
+  std::vector<T> points = neighbours(centres, 1) + spread<T>(-6, 6, 3000) +
+                          spread<T>(-0.04, 0.04, 1000) +
                           spread<T>(0, 2 * double(smallest_normal<T>), 200);
   for (T x = 1; x > 0; x *= T(0.37)) points.push_back(x);
   check_directed<T>("Erf", erfq, points, limits);

@@ -38,7 +38,7 @@ void special_erfinv(const char* name, T above_one) {
               {-T(0), -T(0)},
               {smallest_denormal<T>, smallest_denormal<T>},
               {-smallest_denormal<T>, -smallest_denormal<T>},
-              {3 * smallest_denormal<T>, 3 * smallest_denormal<T>},    // 2.66
+              {3 * smallest_denormal<T>, 3 * smallest_denormal<T>},      // 2.66
               {13 * smallest_denormal<T>, 12 * smallest_denormal<T>}});  // 11.52
 }
 TEST(ErfInv, SpecialDouble) { special_erfinv<double>("vdErfInv", 1.0000000000000002); }
@@ -102,7 +102,8 @@ void directed_erfinv(const Limits& limits) {
   check_directed<T>("ErfInv", exact::erfinv,
                     inside(neighbours(borders<T>(1, true), 1) + neighbours<T>({T(0x1p-35)}, 3) +
                                spread<T>(-1, 1, 1500),
-                           T(-1), T(1)) + tiny,
+                           T(-1), T(1)) +
+                        tiny,
                     limits);
 }
 TEST(ErfInv, DirectedDouble) { directed_erfinv<double>(limits_d); }
@@ -118,8 +119,12 @@ void directed_between(const char* function, quad (*exact)(quad), T end, const Li
 }
 TEST(ErfcInv, DirectedDouble) { directed_between<double>("ErfcInv", exact::erfcinv, 2, limits_d); }
 TEST(ErfcInv, DirectedSingle) { directed_between<float>("ErfcInv", exact::erfcinv, 2, limits_s); }
-TEST(CdfNormInv, DirectedDouble) { directed_between<double>("CdfNormInv", exact::cdfnorminv, 1, limits_d); }
-TEST(CdfNormInv, DirectedSingle) { directed_between<float>("CdfNormInv", exact::cdfnorminv, 1, limits_s); }
+TEST(CdfNormInv, DirectedDouble) {
+  directed_between<double>("CdfNormInv", exact::cdfnorminv, 1, limits_d);
+}
+TEST(CdfNormInv, DirectedSingle) {
+  directed_between<float>("CdfNormInv", exact::cdfnorminv, 1, limits_s);
+}
 
 // The tails by themselves, from where their header starts them: through erfc and back.
 TEST(CdfNormInv, TailsRoundTrip) {

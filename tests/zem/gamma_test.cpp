@@ -10,7 +10,7 @@
 namespace {
 
 const Limits half_ulp = {{0.55, 0.55, 0.55}, {false, false, false}};
-const Limits lgamma_d = {{0.65, 0.65, 0.65}, {false, false, false}};
+const Limits lgamma_d = {{0.7, 0.7, 0.7}, {false, false, false}};
 
 template <class T>
 std::vector<SpecialCase<T>> special_lgamma() {

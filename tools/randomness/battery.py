@@ -7,10 +7,12 @@ It needs dieharder and the program random_words (cmake --build build --target ra
 RANDOM_WORDS names another one.
 
 A generator's results are kept in build/randomness/NAME.txt; those that are there are not run
-again. Tests that dieharder itself calls suspect are left out.
+again. Tests that dieharder itself calls suspect are left out. Tests that fail are repeated with
+another seed and dieharder's full samples, into NAME.again.txt.
 """
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -25,6 +27,11 @@ tests = [(0, ""), (2, "-p 20"), (3, "-p 20"), (4, "-p 20"), (8, "-p 20"), (9, "-
          (100, ""), (101, ""), (102, "-p 20"), (200, "-n 8 -p 20"), (201, "-n 3 -p 50"),
          (202, "-n 5 -p 20"), (203, "-n 8 -p 20"), (204, "-p 50"), (205, ""), (206, ""), (207, ""),
          (208, ""), (209, "")]
+# The tests that have failed, by the names of their results.
+numbers = {"diehard_rank_32x32": 2, "diehard_count_1s_str": 8, "diehard_count_1s_byt": 9,
+           "sts_serial": 102, "rgb_bitdist": 200, "dab_bytedistrib": 205, "dab_filltree2": 208,
+           "dab_monobit2": 209}
+seeds = 20240229, 99
 
 # Failures that theory predicts.
 known = {
@@ -36,53 +43,61 @@ known = {
 }
 
 
-def run(name):
-    lines = []
-    for number, options in tests:
-        command = (f"{words} {name} | "
-                   f"dieharder -g 200 -d {number} {options}")
-        out = subprocess.run(command, shell=True, text=True, stdout=subprocess.PIPE,
-                             stderr=subprocess.DEVNULL).stdout
-        lines += [line for line in out.splitlines()
-                  if line.count("|") == 5 and "test_name" not in line]
-    return "\n".join(lines) + "\n"
+def dieharder(name, seed, number, options):
+    """Its result lines for one test."""
+    command = f"{words} {name} {seed} | dieharder -g 200 -d {number} {options}"
+    out = subprocess.run(command, shell=True, text=True, stdout=subprocess.PIPE,
+                         stderr=subprocess.DEVNULL).stdout
+    return [line for line in out.splitlines() if line.count("|") == 5 and "test_name" not in line]
 
 
-def results(name):
+def results(file):
     """(test, ntuple, p, assessment) rows."""
-    for line in (work / f"{name}.txt").read_text().splitlines():
+    for line in file.read_text().splitlines():
         test, ntuple, _, _, p, assessment = (field.strip() for field in line.split("|"))
         yield test, int(ntuple), float(p), assessment
 
 
+def run(name):
+    first, again = work / f"{name}.txt", work / f"{name}.again.txt"
+    if not first.exists():
+        lines = sum((dieharder(name, seeds[0], *test) for test in tests), [])
+        first.write_text("\n".join(lines) + "\n")
+    if not again.exists():
+        failed = {numbers[row[0]] for row in results(first) if row[3] == "FAILED"}
+        full = {number: re.sub("-p [0-9]*", "", options) for number, options in tests}
+        lines = sum((dieharder(name, seeds[1], n, full[n]) for n in sorted(failed)), [])
+        again.write_text("".join(line + "\n" for line in lines))
+
+
 def report(names):
     text = ["# Randomness", "",
-            "dieharder (Debian's package) on the leading 32 bits of uniform numbers, one stream a "
-            "generator, seed 20240229.", "Made by tools/randomness/battery.py, which lists the tests "
-            "and their sample sizes. `weak` is a p-value beyond 0.005", "at either end, which one in "
-            "a hundred has by chance; `failed` is one beyond 0.000001.", "",
-            "| Generator | Results | weak | failed |", "|---|---|---|---|"]
+            f"dieharder (Debian's package) on the leading 32 bits of uniform numbers, seed {seeds[0]}.",
+            "Made by tools/randomness/battery.py, which lists the tests and their sample sizes. `weak` is",
+            "a p-value beyond 0.005 at either end, `failed` one beyond 0.000001. Where only 20 samples are",
+            "taken, dieharder's p-values lean towards 1, those of its own mt19937 too (18 of 60 in sts_serial",
+            "above 0.9, 9 of 60 with 100 samples): p-values near 1 mean little there. So failed tests are",
+            f"repeated with seed {seeds[1]} and the full samples; what fails then is a fault.", "",
+            "| Generator | Results | weak | failed | failed again |", "|---|---|---|---|---|"]
     notes = []
     for name in names:
-        rows = list(results(name))
-        by = {a: [r for r in rows if r[3] == a] for a in ("WEAK", "FAILED")}
-        text.append(f"| {name} | {len(rows)} | {len(by['WEAK'])} | {len(by['FAILED'])} |")
-        if any(by.values()) or name in known:
-            notes += ["", f"## {name}", ""]
-            if name in known and by["FAILED"]:
-                notes += [known[name], ""]
-            notes += [f"- {test}, {ntuple}-tuples: p = {p:.2g}, {assessment.lower()}"
-                      for test, ntuple, p, assessment in rows if assessment in by]
+        rows, again = (list(results(work / f"{name}{end}.txt")) for end in ("", ".again"))
+        weak, failed = ([r for r in rows if r[3] == a] for a in ("WEAK", "FAILED"))
+        lasting = [r for r in again if r[3] == "FAILED"]
+        text.append(f"| {name} | {len(rows)} | {len(weak)} | {len(failed)} | {len(lasting)} |")
+        notes += ["", f"## {name}", ""]
+        if lasting and name in known:
+            notes += [known[name], ""]
+        for what, kind in (("weak", weak), ("failed", failed), ("failed again", lasting)):
+            notes += [f"- {what}: {test}, {ntuple}-tuples, p = {p:.8f}" for test, ntuple, p, _ in kind]
     (root / "docs/randomness.md").write_text("\n".join(text + notes) + "\n")
 
 
 def main(names):
     work.mkdir(parents=True, exist_ok=True)
     for name in names or generators:
-        file = work / f"{name}.txt"
-        if not file.exists():
-            file.write_text(run(name))
-    report([name for name in generators if (work / f"{name}.txt").exists()])
+        run(name)
+    report([name for name in generators if (work / f"{name}.again.txt").exists()])
 
 
 main(sys.argv[1:])

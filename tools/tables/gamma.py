@@ -103,15 +103,15 @@ def roots():
             assert abs(f(at)) < mpf(2)**-150 and 0 < side * (at + n) < mpf(1) / 2
             high = rounded(at, 53)
             low = rounded(at - high, 64)
-            unit = side * (at + n) / 8  # an eighth of the distance to the pole
+            unit = side * (at + n) * 2 / 7  # from the distance to the pole; |ln Gamma| is 1/4 there
             g = lambda t: f(at + unit * t) / t if t else (f(at + unit * mpf(2)**-60) - f(at - unit * mpf(2)**-60)) * mpf(2)**59
-            c, error = approximate(g, 15)
+            c, error = approximate(g, 23)
             worst = max(worst, error)
             rows.append([number(high, "d"), extended(low), number(rounded(unit, 20), "d")])
             rows[-1][-1] = extended(1 / unit)
-            rows[-1].append("{" + ",\n  ".join(", ".join(map(extended, c[::-1][i:i + 4])) for i in range(0, 16, 4)) + "}")
+            rows[-1].append("{" + ",\n  ".join(", ".join(map(extended, c[::-1][i:i + 4])) for i in range(0, 24, 4)) + "}")
             mp.prec = saved
-    return text("""Zero of ln |Gamma| (a double and the rest), 1/w, c[0..15]: t (c[0] + c[1] t + ...) approximates
+    return text("""Zero of ln |Gamma| (a double and the rest), 1/w, c[0..23]: t (c[0] + c[1] t + ...) approximates
 ln |Gamma(zero + w t)|, t in [-1, 1]. Row 2 (n - 2) lies left, row 2 (n - 2) + 1 right of the pole -n,
 n = 2..16. The row of zeros: no zero there.""", worst, rows)
 
@@ -128,6 +128,19 @@ def sine(count):
 // Worst relative error {float(worst):.2e}; {mp.prec} bits of precision; made by ./dev tables gamma.
 """
     return head + "".join(extended(v) + ",\n" for v in powers)
+
+
+def ln_rows():
+    rows = []
+    for j in range(128):
+        up = j >= 53
+        middle = (1 + (mpf(j) + mpf("0.5")) / 128) / (2 if up else 1)
+        c = mpf(1) if j in (0, 127) else rounded(1 / middle, 9)
+        rows.append([number(c / (2 if up else 1), "s"), extended(-log(c))])
+    lines = ["{" + ", ".join(row) + "}," for row in rows]
+    return f"""// c, T for m = (1 + j/128, 1 + (j + 1)/128), j = 0..127; m c is within 2^-7 of 1, T = -ln c. From j = 53
+// on c is half of what T belongs to: m is halved. {mp.prec} bits of precision; made by ./dev tables gamma.
+""" + "\n".join(lines) + "\n"
 
 
 def tgamma_rows(last, step, degree, literal):
@@ -155,6 +168,7 @@ def generate():
         11, 12, [(1, mpf("1.25"), 1), (mpf("1.25"), mpf("1.5"), 1), (mpf("1.5"), mpf("1.75"), 2),
                  (mpf("1.75"), 2, 2), (2, 4, 2)], 10)
     out[at + "roots.inc"] = roots()
+    out[at + "ln.inc"] = ln_rows()
     out[at + "sine.inc"] = sine(10)
     at = "zem/zem_core/tgamma/"
     out[at + "rows_d.inc"] = tgamma_rows(187, 4, 24, extended)

@@ -4,8 +4,8 @@
 // 1 + P = sum over a, b of (-e)^a (-g/2)^b / (a! b! (a + 2b + 1)).
 // Rows are scaled by G, so that the far tail stays normal until the last product. x > 0 gives
 // 1 - Phi(-y). Rare: x below the complete underflow, and NaN.
-#include "frame/chunk.hpp"
 #include "frame/block.hpp"
+#include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -30,7 +30,8 @@ struct CdfNormReduced {
   int row0, row1;
 };
 
-template <int steps> ORK_INLINE CdfNormReduced cdfnorm_reduce(f64x2 x, double cap, double scale) {
+template <int steps>
+ORK_INLINE CdfNormReduced cdfnorm_reduce(f64x2 x, double cap, double scale) {
   const double shifter = 0x1p52 / steps;
   const f64x2 y = _mm_min_pd(abs(x), splat(cap)), t = y + shifter, y_j = t - shifter;
   CdfNormReduced r;
@@ -66,11 +67,13 @@ ORK_INLINE f64x2 cubic(f64x2 e, f64x2 e2, double c0, double c1, double c2, doubl
 // P to 2^-54 of the result, in fours for the sake of latency. Coefficients: rule.
 ORK_INLINE f64x2 cdfnorm_long(const CdfNormReduced& r) {
   const f64x2 e = r.e, e2 = e * e, e4 = e2 * e2;
-  const f64x2 in_e = cubic(e, e2, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>) +
-                     e4 * (cubic(e, e2, -ratio<1, 720>, ratio<1, 5040>, -ratio<1, 40320>, ratio<1, 362880>) +
-                           e4 * (-ratio<1, 3628800> + e * (ratio<1, 39916800>)));
-  const f64x2 in_g = cubic(e, e2, -ratio<1, 6>, ratio<1, 8>, -ratio<1, 20>, ratio<1, 72>) +
-                     e4 * cubic(e, e2, -ratio<1, 336>, ratio<1, 1920>, -ratio<1, 12960>, ratio<1, 100800>);
+  const f64x2 in_e =
+      cubic(e, e2, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>) +
+      e4 * (cubic(e, e2, -ratio<1, 720>, ratio<1, 5040>, -ratio<1, 40320>, ratio<1, 362880>) +
+            e4 * (-ratio<1, 3628800> + e * (ratio<1, 39916800>)));
+  const f64x2 in_g =
+      cubic(e, e2, -ratio<1, 6>, ratio<1, 8>, -ratio<1, 20>, ratio<1, 72>) +
+      e4 * cubic(e, e2, -ratio<1, 336>, ratio<1, 1920>, -ratio<1, 12960>, ratio<1, 100800>);
   const f64x2 in_g2 = cubic(e, e2, ratio<1, 40>, -ratio<1, 48>, ratio<1, 112>, -ratio<1, 384>);
   return e * in_e + r.g * (in_g + r.g * in_g2);
 }

@@ -8,7 +8,8 @@ alignas(16) inline constexpr double cdfnorm_rows_s[][2] = {
 #include "cdfnorm/rows_s.inc"
 };
 
-template <class Series> struct CdfNormS : Core<float> {
+template <class Series>
+struct CdfNormS : Core<float> {
   static constexpr char name[] = "vsCdfNorm";
   static constexpr int vectors = 1;
   static f64x2 half(f64x2 x) {

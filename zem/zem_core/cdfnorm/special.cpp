@@ -5,7 +5,8 @@
 namespace ork {
 namespace {
 
-template <class T> int rare(const T* a, T* r, T limit, T smallest) {
+template <class T>
+int rare(const T* a, T* r, T limit, T smallest) {
   if (magnitude(a) == infinity_bits<T>) {
     *r = 0;
     return ZEM_STATUS_NONE;

@@ -6,7 +6,8 @@ namespace {
 
 struct Series {
   static f64x2 p(const CdfNormReduced& r) {
-    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>, -ratio<1, 720>, ratio<1, 5040>) +
+    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>,
+                        -ratio<1, 720>, ratio<1, 5040>) +
            r.g * horner(r.e, -ratio<1, 6>, ratio<1, 8>, -ratio<1, 20>, ratio<1, 72>);
   }
 };

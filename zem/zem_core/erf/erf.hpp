@@ -14,7 +14,8 @@ struct ErfReduced {
 };
 
 // keep: lanes that keep their y_j; the others have row 0 and d = y.
-template <class Keep> ORK_INLINE ErfReduced erf_reduce(f64x2 x, Keep keep) {
+template <class Keep>
+ORK_INLINE ErfReduced erf_reduce(f64x2 x, Keep keep) {
   const f64x2 ax = abs(x), y = _mm_min_pd(ax, splat(5.9921875));
   const f64x2 t = y + 35184372088832.0;  // 2^45
   ErfReduced r;
@@ -54,7 +55,8 @@ ORK_INLINE f64x2 erf_short(const ErfReduced& r) {
          r.g * (-0.33333504994947405 + r.e * 0.5000019073510884);
 }
 
-template <class T> struct ErfCore : Core<T> {
+template <class T>
+struct ErfCore : Core<T> {
   static int special(const T*, T*) { return 0; }
 };
 

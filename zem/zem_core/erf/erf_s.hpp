@@ -4,7 +4,8 @@
 
 namespace ork {
 
-template <class Half> struct ErfWidened : ErfCore<float> {
+template <class Half>
+struct ErfWidened : ErfCore<float> {
   static constexpr char name[] = "vsErf";
   static constexpr int vectors = 1;
   static f32x4 eval(f32x4 x, u32x4&) {

@@ -18,9 +18,10 @@ struct ErfHaD : ErfCore<double> {
   static constexpr char name[] = "vdErf";
   static f64x2 eval(f64x2 x, u32x4&) {
     const ErfReduced r = erf_reduce(x, [](f64x2 y) { return (u64x2)(y >= 0.02734375); });
-    const f64x2 p = r.e * horner(r.e, -1.0, ratio<2, 3>, -ratio<1, 3>, ratio<2, 15>, -ratio<2, 45>) +
-                    r.g * (horner(r.e, -ratio<1, 3>, 0.5, -0.4, ratio<2, 9>) +
-                           r.g * ((0.1 - r.e * (ratio<1, 6>)) + r.g * (-ratio<1, 42> + r.g * (ratio<1, 216>))));
+    const f64x2 p =
+        r.e * horner(r.e, -1.0, ratio<2, 3>, -ratio<1, 3>, ratio<2, 15>, -ratio<2, 45>) +
+        r.g * (horner(r.e, -ratio<1, 3>, 0.5, -0.4, ratio<2, 9>) +
+               r.g * ((0.1 - r.e * (ratio<1, 6>)) + r.g * (-ratio<1, 42> + r.g * (ratio<1, 216>))));
     const char* const rows = (const char*)table;
     const double *p0 = (const double*)(rows + 2 * r.row0), *p1 = (const double*)(rows + 2 * r.row1);
     f64x2 e, d, e_low, d_low;
