@@ -1,4 +1,4 @@
-// Acos, single, HA: see asin.hpp. Bound: 0.64 ulp.
+// Acos, single, HA: see asin.hpp. Bound: 0.66 ulp.
 #include "asin/asin.hpp"
 #include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"

@@ -81,11 +81,18 @@ template <> struct Angle<float> {
 
 // K = v + rest in one word, or K = high + (low + rest). add: base + K, base being 0 or an
 // angle above K, `sign` the sign bits to flip in K.
-template <class T> struct AsinShort {
+template <class T, bool ep> struct AsinShort {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   vec v, rest;
-  vec add(vec base, vec, ivec sign) const { return (base + xor_bits(v, sign)) + xor_bits(rest, sign); }
+  vec add(vec base, vec base_low, ivec sign) const {
+    const vec sum = base + xor_bits(v, sign), low = xor_bits(rest, sign);
+    // In double the angle's low word is half an ulp of the results below 1.
+    if constexpr (sizeof(T) == 8 && !ep)
+      return base + (xor_bits(v, sign) + (low + base_low));
+    else
+      return sum + low;
+  }
 };
 template <class T> struct AsinLong {
   using vec = vec_of<T>;
@@ -104,7 +111,7 @@ template <class T> ORK_INLINE vec_of<T> asin_variable(vec_of<T> a, vec_of<T>& z,
   return less(a, splat(T(0.5)));
 }
 
-template <int degree, class T> ORK_INLINE AsinShort<T> asin_short(vec_of<T> a, vec_of<T>& inner) {
+template <int degree, class T> ORK_INLINE AsinShort<T, degree == 2> asin_short(vec_of<T> a, vec_of<T>& inner) {
   using vec = vec_of<T>;
   vec z, y;
   inner = asin_variable<T>(a, z, y);
@@ -143,10 +150,10 @@ template <class T> ORK_INLINE AsinLong<T> asin_long(vec_of<T> a, vec_of<T>& inne
 }
 
 struct AsinEp {
-  template <class T> static AsinShort<T> value(vec_of<T> a, vec_of<T>& inner) { return asin_short<2, T>(a, inner); }
+  template <class T> static AsinShort<T, true> value(vec_of<T> a, vec_of<T>& inner) { return asin_short<2, T>(a, inner); }
 };
 struct AsinLa {
-  template <class T> static AsinShort<T> value(vec_of<T> a, vec_of<T>& inner) { return asin_short<4, T>(a, inner); }
+  template <class T> static AsinShort<T, false> value(vec_of<T> a, vec_of<T>& inner) { return asin_short<4, T>(a, inner); }
 };
 struct AsinHa {
   template <class T> static AsinLong<T> value(vec_of<T> a, vec_of<T>& inner) { return asin_long<T>(a, inner); }

@@ -1,4 +1,4 @@
-// Asin, single, HA: see asin.hpp. Rare: |x| >= 1, NaN. Bound: 0.64 ulp.
+// Asin, single, HA: see asin.hpp. Rare: |x| >= 1, NaN. Bound: 0.66 ulp.
 #include "asin/asin_s.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"

@@ -15,7 +15,7 @@ struct Atan2Ha : Core<double, 2> {
     double ys[2], xs[2], r[2];
     store(ys, y), store(xs, x);
     for (int i = 0; i < 2; ++i) fpatan(ys + i, xs + i, r + i);
-    return load(r);
+    return _mm_loadh_pd(_mm_load_sd(r), r + 1);  // in halves, as they were stored
   }
   static int special(const double* y, const double* x, double* r) { return vdatan2_cout_rare(y, x, r); }
 };
