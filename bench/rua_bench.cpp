@@ -25,10 +25,14 @@ struct Generator {
   double bound;  // cycles a number of the double form; 0: none
 };
 constexpr Generator kGenerators[] = {
-    {"MCG31M1", RUA_BRNG_MCG31M1, 2.5}, {"R250", RUA_BRNG_R250, 1.5},
-    {"MRG32K3A", RUA_BRNG_MRG32K3A, 8}, {"MCG59", RUA_BRNG_MCG59, 8},
-    {"WH", RUA_BRNG_WH, 8},             {"MT19937", RUA_BRNG_MT19937, 2.5},
-    {"MT2203", RUA_BRNG_MT2203, 0},     {"SFMT19937", RUA_BRNG_SFMT19937, 2.5},
+    {"MCG31M1", RUA_BRNG_MCG31M1, 2.5},
+    {"R250", RUA_BRNG_R250, 1.5},
+    {"MRG32K3A", RUA_BRNG_MRG32K3A, 8},
+    {"MCG59", RUA_BRNG_MCG59, 8},
+    {"WH", RUA_BRNG_WH, 8},
+    {"MT19937", RUA_BRNG_MT19937, 2.5},
+    {"MT2203", RUA_BRNG_MT2203, 0},
+    {"SFMT19937", RUA_BRNG_SFMT19937, 2.5},
 };
 
 double standard_library() {
@@ -57,7 +61,8 @@ double gsl() {
 int main(int argc, char** argv) {
   Report report("rua", argc, argv);
   const double standard = standard_library(), with_gsl = gsl();
-  report.line("# uniform numbers, 1000 a call, cycles a number; ratios of the peers to the double form");
+  report.line(
+      "# uniform numbers, 1000 a call, cycles a number; ratios of the peers to the double form");
   report.line(format("%-12s %8s %8s %8s %8s %8s %8s", "generator", "double", "bound", "float",
                      "integer", "std", "GSL"));
   int over = 0;
@@ -66,7 +71,8 @@ int main(int argc, char** argv) {
     RuaStream* s = nullptr;
     const uint32_t seed = 7777777;
     RuaBrngProperties row;
-    if (__ruaNewStreamEx(&s, g.id, 1, &seed) != 0 || __ruaGetBrngProperties(g.id, &row) != 0) return 1;
+    if (__ruaNewStreamEx(&s, g.id, 1, &seed) != 0 || __ruaGetBrngProperties(g.id, &row) != 0)
+      return 1;
     const double d = cycles([&] { row.dGenerate(s, kNumbers, r, 0, 1); });
     const double f = cycles([&] { row.sGenerate(s, kNumbers, rf, 0, 1); });
     const double i = cycles([&] { row.iGenerate(s, kNumbers, ri); });

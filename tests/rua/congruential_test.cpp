@@ -24,7 +24,9 @@ TEST_F(Congruential, SeedsAreMadeValid) {
       {RUA_BRNG_MRG32K3A, {0, 0, 0, 0, 0, 0}, {1, 0, 0, 1, 0, 0}},
       {RUA_BRNG_MRG32K3A, {0, 0, 0}, {1, 0, 0, 1, 1, 1}},
       {RUA_BRNG_MRG32K3A, {m1, m1, m1, 2, m2, m2, 99}, {1, 0, 0, 2, 0, 0}},
-      {RUA_BRNG_MRG32K3A, {m1 + 5, 0xFFFFFFFF, 3, m2 - 1, 0xFFFFFFFF, 4}, {5, 208, 3, m2 - 1, 22852, 4}},
+      {RUA_BRNG_MRG32K3A,
+       {m1 + 5, 0xFFFFFFFF, 3, m2 - 1, 0xFFFFFFFF, 4},
+       {5, 208, 3, m2 - 1, 22852, 4}},
       {RUA_BRNG_WH, {}, {1, 1, 1, 1, 125, 117, 127, 126}},
       {RUA_BRNG_WH, {16770647, 16770644, 5}, {1, 1, 5, 1, 125, 117, 127, 126}},
       {4, {0, 2, 0xFFFFFFFF, 16770617}, {1, 2, 0xFFFFFFFF % 16770623, 1, 125, 117, 127, 126}},
@@ -33,7 +35,8 @@ TEST_F(Congruential, SeedsAreMadeValid) {
     Stream s(c.id, c.seed);
     const uint32_t* words = s.state<uint32_t>();
     const size_t count = c.id == RUA_BRNG_MCG59 && !c.seed.empty() ? 2 : c.state.size();
-    EXPECT_EQ(std::vector<uint32_t>(words, words + count), c.state) << testing::PrintToString(c.seed);
+    EXPECT_EQ(std::vector<uint32_t>(words, words + count), c.state)
+        << testing::PrintToString(c.seed);
   }
   // One word counts, if there are not all 250.
   Stream one(RUA_BRNG_R250, {77}), most(RUA_BRNG_R250, std::vector<uint32_t>(249, 77));
@@ -167,8 +170,10 @@ TEST_F(Congruential, WhTable) {
       for (int q = 0; q < p; ++q) ASSERT_EQ(std::gcd((m[p] - 1) / 2, (m[q] - 1) / 2), 1u) << k;
     }
   }
-  EXPECT_EQ(reference::wh_moduli(0), (std::array<uint32_t, 4>{16770647, 16770643, 16770623, 16770617}));
-  EXPECT_EQ(reference::wh_moduli(272), (std::array<uint32_t, 4>{16766363, 16766359, 16766327, 16766231}));
+  EXPECT_EQ(reference::wh_moduli(0),
+            (std::array<uint32_t, 4>{16770647, 16770643, 16770623, 16770617}));
+  EXPECT_EQ(reference::wh_moduli(272),
+            (std::array<uint32_t, 4>{16766363, 16766359, 16766327, 16766231}));
 }
 
 // All members by their vectors, also with the large multipliers that leapfrog leaves.

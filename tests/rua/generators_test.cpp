@@ -39,13 +39,15 @@ void expect_call(const Generator& g, RuaStream* stream, const std::vector<Item>&
     double* r = pages.at_end<double>(n, gap);
     r[-1] = 7;
     ASSERT_EQ(row.dGenerate(stream, n, r, -1.5, 3.3), 0);
-    for (int i = 0; i < n; ++i) ASSERT_EQ(bits(r[i]), bits(g.real_double(items[i], -1.5, 3.3))) << i;
+    for (int i = 0; i < n; ++i)
+      ASSERT_EQ(bits(r[i]), bits(g.real_double(items[i], -1.5, 3.3))) << i;
     ASSERT_EQ(r[-1], 7);
   } else {
     float* r = pages.at_end<float>(n, gap);
     r[-1] = 7;
     ASSERT_EQ(row.sGenerate(stream, n, r, -0.1f, 1e7f), 0);
-    for (int i = 0; i < n; ++i) ASSERT_EQ(bits(r[i]), bits(g.real_float(items[i], -0.1f, 1e7f))) << i;
+    for (int i = 0; i < n; ++i)
+      ASSERT_EQ(bits(r[i]), bits(g.real_float(items[i], -0.1f, 1e7f))) << i;
     ASSERT_EQ(r[-1], 7);
   }
 }
@@ -59,7 +61,8 @@ std::vector<Item> take(reference::Source& source, int n) {
 // Lengths around vectors, blocks and stretches, every offset of the array, all forms.
 TEST_F(Generators, FormsFollowTheRecurrence) {
   GuardedPages pages(40000);
-  std::vector<int> lengths = {59, 60, 61, 68, 69, 70, 72, 249, 250, 251, 623, 624, 625, 1024, 1250, 2051};
+  std::vector<int> lengths = {59,  60,  61,  68,  69,  70,   72,   249,
+                              250, 251, 623, 624, 625, 1024, 1250, 2051};
   for (int n = 1; n <= 20; ++n) lengths.push_back(n);
   for (const Generator& g : reference::generators())
     for (const auto& seed : kSeeds)
@@ -84,7 +87,7 @@ TEST_F(Generators, SplitCallsGoOn) {
     auto source = g.source(seed);
     Stream s(g.id, seed);
     for (int call = 0; call < 400; ++call) {
-      const int sizes[] = {1, 2, 3, 5, 7, int(random() % 16 + 1), int(random() % 300 + 1),
+      const int sizes[] = {1,  2,   3,   5,   7,   int(random() % 16 + 1),  int(random() % 300 + 1),
                            69, 147, 249, 250, 624, int(random() % 1300 + 1)};
       const int n = sizes[random() % std::size(sizes)], form = random() % 3;
       SCOPED_TRACE(testing::Message() << g.name << " call " << call << " of " << n);
@@ -112,12 +115,9 @@ TEST_F(Generators, MethodsThatDoNotExist) {
   const struct {
     int32_t id;
     int leapfrog, skip;
-  } cases[] = {{RUA_BRNG_R250, -1002, -1003},
-               {RUA_BRNG_MRG32K3A, -1002, 0},
-               {RUA_BRNG_MCG59, 0, 0},
-               {RUA_BRNG_WH + 5, 0, 0},
-               {RUA_BRNG_MT19937, -1002, 0},
-               {RUA_BRNG_MT2203 + 5, -1002, -1003},
+  } cases[] = {{RUA_BRNG_R250, -1002, -1003}, {RUA_BRNG_MRG32K3A, -1002, 0},
+               {RUA_BRNG_MCG59, 0, 0},        {RUA_BRNG_WH + 5, 0, 0},
+               {RUA_BRNG_MT19937, -1002, 0},  {RUA_BRNG_MT2203 + 5, -1002, -1003},
                {RUA_BRNG_SFMT19937, -1002, 0}};
   for (const auto& c : cases) {
     Stream s(c.id, {3});
@@ -136,8 +136,11 @@ TEST_F(Generators, PlacesOutsideTheStateAreHarmless) {
   const struct {
     int32_t id, words;  // the places begin behind so many words
     int places;
-  } cases[] = {{RUA_BRNG_R250, 250, 2}, {RUA_BRNG_MT19937, 624, 1}, {RUA_BRNG_MT2203, 69, 1},
-               {RUA_BRNG_SFMT19937, 624, 1}, {RUA_BRNG_SFMT19937, 628, 2}};
+  } cases[] = {{RUA_BRNG_R250, 250, 2},
+               {RUA_BRNG_MT19937, 624, 1},
+               {RUA_BRNG_MT2203, 69, 1},
+               {RUA_BRNG_SFMT19937, 624, 1},
+               {RUA_BRNG_SFMT19937, 628, 2}};
   for (const auto& c : cases)
     for (int32_t bad : {-1, -1000000, 625, 1 << 30, 627})
       for (int which = 0; which < c.places; ++which) {
@@ -156,18 +159,22 @@ TEST_F(Generators, PlacesOutsideTheStateAreHarmless) {
 TEST_F(Generators, LeapfrogAndSkipAheadCommuteWithGeneration) {
   std::vector<Generator> with_skip;
   for (const Generator& g : reference::generators())
-    if (g.id == RUA_BRNG_MCG59 || g.id == RUA_BRNG_MRG32K3A || g.id == RUA_BRNG_WH) with_skip.push_back(g);
+    if (g.id == RUA_BRNG_MCG59 || g.id == RUA_BRNG_MRG32K3A || g.id == RUA_BRNG_WH)
+      with_skip.push_back(g);
   ASSERT_EQ(with_skip.size(), 3u);
   for (const Generator& g : with_skip) {
     const size_t words = properties(g.id).wordSize / 4;
     Stream whole(g.id, {11, 12, 13, 14});
     const auto all = whole.integers(5000);
-    const auto item = [&](int i) { return std::vector<uint32_t>(&all[i * words], &all[(i + 1) * words]); };
+    const auto item = [&](int i) {
+      return std::vector<uint32_t>(&all[i * words], &all[(i + 1) * words]);
+    };
     for (int skip : {0, 1, 2, 3, 4, 59, 999, 4000}) {
       Stream s(g.id, {11, 12, 13, 14});
       s.integers(7);
       ASSERT_EQ(__ruaSkipAheadStream(s, skip), 0);
-      for (int i = 0; i < 50; ++i) ASSERT_EQ(s.integers(1), item(7 + skip + i)) << g.name << ' ' << skip;
+      for (int i = 0; i < 50; ++i)
+        ASSERT_EQ(s.integers(1), item(7 + skip + i)) << g.name << ' ' << skip;
     }
     // Counts of 64 bits: by steps and at once.
     Stream once(g.id, {5}), steps(g.id, {5});
@@ -181,7 +188,8 @@ TEST_F(Generators, LeapfrogAndSkipAheadCommuteWithGeneration) {
       ASSERT_EQ(__ruaLeapfrogStream(s, k, count), 0);
       const auto got = s.integers(45);  // by vectors of the new multiplier
       for (int i = 0; i < 45; ++i)
-        ASSERT_EQ(std::vector<uint32_t>(&got[i * words], &got[(i + 1) * words]), item(k + i * count))
+        ASSERT_EQ(std::vector<uint32_t>(&got[i * words], &got[(i + 1) * words]),
+                  item(k + i * count))
             << g.name << ' ' << k << ' ' << count << ' ' << i;
     }
   }

@@ -27,7 +27,8 @@ TEST_F(Mersenne, Sfmt19937PublishedOutput) {
   int checked = 0;
   for (std::string line; std::getline(in, line);) {
     unsigned index, word;
-    if (std::sscanf(line.c_str(), "init_by_array %u %u", &index, &word) != 2 || index >= 1000) continue;
+    if (std::sscanf(line.c_str(), "init_by_array %u %u", &index, &word) != 2 || index >= 1000)
+      continue;
     ASSERT_EQ(z[index], word) << index;
     ++checked;
   }
@@ -35,7 +36,8 @@ TEST_F(Mersenne, Sfmt19937PublishedOutput) {
 }
 
 TEST_F(Mersenne, NoKeyIsTheKeyOne) {
-  for (int32_t id : {int32_t{RUA_BRNG_MT19937}, RUA_BRNG_MT2203 + 17, int32_t{RUA_BRNG_SFMT19937}}) {
+  for (int32_t id :
+       {int32_t{RUA_BRNG_MT19937}, RUA_BRNG_MT2203 + 17, int32_t{RUA_BRNG_SFMT19937}}) {
     Stream none(id, {}), one(id, {1});
     EXPECT_EQ(record(none), record(one));
     EXPECT_EQ(properties(id).initStream(0, one, -5, nullptr), 0);
@@ -55,8 +57,8 @@ TEST_F(Mersenne, PlacesBehindTheLastWord) {
   EXPECT_EQ(small.state<int32_t>()[69], 69);
   const struct {
     int draw, mt, small, index, next, end;
-  } cases[] = {{1, 1, 1, 4, 0, 3},     {1, 2, 2, 4, 1, 3},       {2, 4, 4, 4, 3, 3},
-               {2, 6, 6, 8, 0, 2},     {63, 69, 69, 72, 0, 3},   {3, 72, 3, 72, 3, 3},
+  } cases[] = {{1, 1, 1, 4, 0, 3},       {1, 2, 2, 4, 1, 3},     {2, 4, 4, 4, 3, 3},
+               {2, 6, 6, 8, 0, 2},       {63, 69, 69, 72, 0, 3}, {3, 72, 3, 72, 3, 3},
                {552, 624, 3, 624, 3, 3}, {626, 2, 8, 4, 0, 2}};
   for (const auto& c : cases) {
     mt.integers(c.draw);
@@ -91,8 +93,8 @@ TEST_F(Mersenne, CopyState) {
 TEST_F(Mersenne, SkipAheadCommutesWithGeneration) {
   for (int32_t id : {RUA_BRNG_MT19937, RUA_BRNG_SFMT19937})
     for (int before : {0, 1, 3, 4, 621, 624, 1000})
-      for (int skip : {1, 2, 3, 5, 620, 623, 624, 625, 2500, 19936, 19937, 19938, 79872, (1 << 20) - 1,
-                       (1 << 20) + 700, (4 << 20) + 2500}) {
+      for (int skip : {1, 2, 3, 5, 620, 623, 624, 625, 2500, 19936, 19937, 19938, 79872,
+                       (1 << 20) - 1, (1 << 20) + 700, (4 << 20) + 2500}) {
         if (before > 4 && skip > 100000) continue;
         Stream skipped(id, {77, 78}), drawn(id, {77, 78});
         skipped.integers(before);

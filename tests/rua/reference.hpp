@@ -23,7 +23,8 @@ inline uint64_t power(uint64_t base, uint64_t exponent, uint64_t m) {
 }
 
 inline Source mcg59(const std::vector<uint32_t>& seed) {
-  uint64_t x = seed.empty() ? 1 : seed[0] | uint64_t{seed.size() > 1 ? seed[1] & 0x7FFFFFF : 0} << 32;
+  uint64_t x =
+      seed.empty() ? 1 : seed[0] | uint64_t{seed.size() > 1 ? seed[1] & 0x7FFFFFF : 0} << 32;
   if (x == 0) x = 1;
   return [x]() mutable {
     const Item item = {uint32_t(x), uint32_t(x >> 32)};
@@ -59,7 +60,8 @@ inline Source r250(const std::vector<uint32_t>& seed) {
     uint64_t x = w.empty() || w[0] == 0 ? 1 : w[0];
     w.resize(250);
     for (auto& word : w) word = uint32_t(x = x * 69069 % (uint64_t{1} << 32));
-    for (int b = 0; b < 32; ++b) w[3 + 7 * b] = uint32_t((w[3 + 7 * b] | uint64_t{1} << (31 - b)) % (uint64_t{1} << (32 - b)));
+    for (int b = 0; b < 32; ++b)
+      w[3 + 7 * b] = uint32_t((w[3 + 7 * b] | uint64_t{1} << (31 - b)) % (uint64_t{1} << (32 - b)));
   }
   w.resize(250);
   return [w]() mutable {
@@ -223,10 +225,11 @@ inline std::vector<Generator> generators() {
          return float((low(z) + high(z)) * ((double(b) - double(a)) * step59) + double(a));
        }},
       wh_member(0, {125, 117, 127, 126}),
-      of_words("MT19937", RUA_BRNG_MT19937, 0x1p-32,
-               [](const std::vector<uint32_t>& seed) {
-                 return twister({624, 397, 0x7FFFFFFF, 0x9908B0DF, 11, 0x9D2C5680, 0xEFC60000}, seed);
-               }),
+      of_words(
+          "MT19937", RUA_BRNG_MT19937, 0x1p-32,
+          [](const std::vector<uint32_t>& seed) {
+            return twister({624, 397, 0x7FFFFFFF, 0x9908B0DF, 11, 0x9D2C5680, 0xEFC60000}, seed);
+          }),
       mt2203(0, 0xAF81055F, 0xDD7EEF80, 0xEFD78000),
       mt2203(6023, 0xE8761D4B, 0x72967680, 0xEFEB0000),
       {"SFMT19937", RUA_BRNG_SFMT19937, sfmt19937,

@@ -23,7 +23,8 @@ struct ExtendedForms {
 };
 
 // y with erf(y) = x; w = 1 - |x|, given apart because it may be known exactly.
-template <class M, class R> R inverse_error(R x, R w) {
+template <class M, class R>
+R inverse_error(R x, R w) {
   const R none = 0;
   if (w < 0 || x != x) return none / none;
   if (w == 0) return x / none;
@@ -41,14 +42,20 @@ template <class M, class R> R inverse_error(R x, R w) {
   return x < 0 ? -y : y;
 }
 
-template <class M, class R> R erfinv(R x) { return inverse_error<M>(x, 1 - (x < 0 ? -x : x)); }
-template <class M, class R> R erfcinv(R x) {
+template <class M, class R>
+R erfinv(R x) {
+  return inverse_error<M>(x, 1 - (x < 0 ? -x : x));
+}
+template <class M, class R>
+R erfcinv(R x) {
   return inverse_error<M>(1 - x, x < 1 ? x : 2 - x);
 }
-template <class M, class R> R cdfnorminv(R p) {
+template <class M, class R>
+R cdfnorminv(R p) {
   return -R(1.41421356237309504880168872420969808Q) * erfcinv<M>(2 * p);
 }
-template <class M, class R> R cdfnorm(R x) {
+template <class M, class R>
+R cdfnorm(R x) {
   return M::erfc(-x * R(0.707106781186547524400844362104849039Q)) / 2;
 }
 

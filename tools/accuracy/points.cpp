@@ -64,6 +64,10 @@ Points<T> make_points(const Claims& claims, const std::string& function, bool bi
     points.a.push_back(x);
     if (binary) points.b.push_back(directed[random.next() % directed.size()]);
   }
+  if (const auto omitted = claims.omitted.find(function); omitted != claims.omitted.end())
+    for (T& x : points.a)
+      for (const Range& r : omitted->second)
+        if (x >= r.low && x <= r.high) x = T(1);
   if (!binary) points.b.assign(points.a.size(), T(0));
   return points;
 }

@@ -1,7 +1,7 @@
 #pragma once
-// Dimensions of equidistribution k(v) of an MT2203 member of full period: the largest k such that the leading v
-// bits of k consecutive outputs take every value equally often over the period. At most
-// floor(2203 / v).
+// Dimensions of equidistribution k(v) of an MT2203 member of full period: the largest k such that
+// the leading v bits of k consecutive outputs take every value equally often over the period. At
+// most floor(2203 / v).
 //
 // The outputs, written as power series in 1/t, and the polynomials span a lattice over GF(2)[t]
 // of rank v and determinant t^-2203. In a reduced basis k(v) is the smallest of the numbers -deg.
@@ -58,22 +58,22 @@ class Equidistribution {
   static constexpr int kN = 69, kM = 34, kNone = -1;
 
   struct Vector {
-    uint32_t lead;   // coefficient of t^-count
-    int count;       // -degree; the state starts at word[count]
+    uint32_t lead;  // coefficient of t^-count
+    int count;      // -degree; the state starts at word[count]
     uint32_t word[kP + 2 * kN];
   };
 
   void start(int v) {
     rank_ = v;
     mask_ = ~uint32_t{0} << (32 - v);
-    for (int i = 0; i < v; ++i) {        // the unit vectors
+    for (int i = 0; i < v; ++i) {  // the unit vectors
       Vector& e = vectors_[i];
       e.lead = 0x80000000u >> i;
       e.count = 0;
       std::memset(e.word, 0, sizeof(uint32_t) * kN);
       slot_[i] = i;
     }
-    Vector& s = vectors_[v];             // any state that is not zero
+    Vector& s = vectors_[v];  // any state that is not zero
     s.lead = 0;
     s.count = 0;
     for (int i = 0; i < kN; ++i) s.word[i] = 0x9E3779B9u * (i + 1);
@@ -86,7 +86,8 @@ class Equidistribution {
       Vector& x = vectors_[u];
       if ((x.lead & mask_) == 0) {
         if (slot_degrees() == kP) return;  // the slots span the lattice: nothing is left of x
-        do advance(x); while ((x.lead & mask_) == 0);
+        do advance(x);
+        while ((x.lead & mask_) == 0);
       }
       int j = __builtin_clz(x.lead & mask_);
       if (vectors_[slot_[j]].count < x.count) std::swap(slot_[j], u);
@@ -123,7 +124,7 @@ class Equidistribution {
   Member m_;
   uint32_t mask_ = 0;
   int rank_ = 0;
-  std::array<int, 32> slot_{};           // slot_[j]: the vector whose lead begins at bit j
+  std::array<int, 32> slot_{};  // slot_[j]: the vector whose lead begins at bit j
   std::array<Vector, 33> vectors_;
 };
 

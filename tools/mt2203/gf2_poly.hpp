@@ -10,8 +10,8 @@
 
 namespace mt2203 {
 
-constexpr int kDegree = 2203;          // 69 x 32 - 5, a Mersenne exponent
-constexpr int kWords = 35;             // 64-bit words of a residue
+constexpr int kDegree = 2203;  // 69 x 32 - 5, a Mersenne exponent
+constexpr int kWords = 35;     // 64-bit words of a residue
 constexpr int kN = 69, kM = 34, kR = 5, kW = 32;
 
 using Poly = std::array<uint64_t, kWords>;
@@ -110,9 +110,9 @@ class Modulo {
     int first = c < kWords ? 0 : c - kWords + 1, last = c < kWords ? c : kWords - 1;
     for (int i = first; i <= last; ++i)
       sum = _mm_xor_si128(
-          sum, _mm_clmulepi64_si128(
-                   _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&a[i])),
-                   _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&b[c - i])), 0));
+          sum,
+          _mm_clmulepi64_si128(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&a[i])),
+                               _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&b[c - i])), 0));
     __m128i* at = reinterpret_cast<__m128i*>(out + c);
     _mm_storeu_si128(at, _mm_xor_si128(_mm_loadu_si128(at), sum));
   }

@@ -128,8 +128,9 @@ int verify(const char* path, int step) {
     if (rows.empty() || std::memcmp(&rows[k], &m, sizeof m) != 0)
       std::printf("row %d is not as given\n", k), ++faults;
   if (checked != 0)
-    std::printf("%d rows, %d checked in full, %d faults; total defect %.1f on average, %d at most\n",
-                static_cast<int>(rows.size()), checked, faults, double(sum) / checked, worst);
+    std::printf(
+        "%d rows, %d checked in full, %d faults; total defect %.1f on average, %d at most\n",
+        static_cast<int>(rows.size()), checked, faults, double(sum) / checked, worst);
   return faults != 0;
 }
 

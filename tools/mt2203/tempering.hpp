@@ -67,7 +67,8 @@ class TemperingSearch {
     int sum = 0;
     for (int v = 1; v <= 25; ++v) {
       uint32_t bit = 0x80000000u >> (v - 1);
-      uint32_t b = bit & kMaskB & ~fixed_b, c = bit & kMaskC, later_b = bit >> 15 & kMaskB & ~fixed_b;
+      uint32_t b = bit & kMaskB & ~fixed_b, c = bit & kMaskC,
+               later_b = bit >> 15 & kMaskB & ~fixed_b;
       uint32_t order = attempt == 0 ? 7 : mix(m.a + 64 * attempt + v) & 7;
       Member best = m;
       int best_k = -1;

@@ -9,7 +9,6 @@
 
 namespace mt2203 {
 
-
 // A permutation of the 15-bit numbers.
 inline uint32_t permute15(uint32_t x) {
   x = (x * 25173u + 13849u) & 0x7FFF;

@@ -39,6 +39,8 @@ bool parse(const std::string& line, Claims& claims) {
     claims.ranges[name].push_back(range(1, rest[0] == "log"));
   else if (kind == "near")
     for (const auto& value : rest) claims.near[name].push_back(number(value));
+  else if (kind == "omit" && rest.size() == 2)
+    claims.omitted[name].push_back(range(0, false));
   else if (kind == "bench" && (rest.size() == 2 || rest.size() == 4))
     claims.bench[name] = range(0, false);
   else

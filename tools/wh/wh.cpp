@@ -144,8 +144,8 @@ std::vector<Row> search() {
     std::vector<uint32_t> left;
     int found = 0;
     for (uint32_t m : pool) {
-      bool fits = found < 4 && std::all_of(row.m, row.m + found,
-                                           [m](uint32_t n) { return compatible(m, n); });
+      bool fits = found < 4 &&
+                  std::all_of(row.m, row.m + found, [m](uint32_t n) { return compatible(m, n); });
       if (fits)
         row.m[found++] = m;
       else
@@ -198,8 +198,8 @@ int verify(const char* path) {
   char line[256];
   while (std::fgets(line, sizeof line, in)) {
     Row r;
-    if (std::sscanf(line, "WH(%u, %u, %u, %u, %u, %u, %u, %u)", r.a, r.a + 1, r.a + 2, r.a + 3,
-                    r.m, r.m + 1, r.m + 2, r.m + 3) != 8)
+    if (std::sscanf(line, "WH(%u, %u, %u, %u, %u, %u, %u, %u)", r.a, r.a + 1, r.a + 2, r.a + 3, r.m,
+                    r.m + 1, r.m + 2, r.m + 3) != 8)
       continue;
     const char* what = fault(r, used, rows == 0 ? given : worst);
     // The first row is as it was given, whatever its figure.

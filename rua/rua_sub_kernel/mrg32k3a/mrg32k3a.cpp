@@ -22,12 +22,12 @@ using namespace ork::rua;
 namespace {
 
 constexpr uint32_t kM1 = 4294967087, kM2 = 4294944443;
-constexpr uint32_t kX2 = 1403580, kX3 = 810728;   // factors of x(n-2) and -x(n-3)
-constexpr uint32_t kY1 = 527612, kY3 = 1370589;   // factors of y(n-1) and -y(n-3)
+constexpr uint32_t kX2 = 1403580, kX3 = 810728;  // factors of x(n-2) and -x(n-3)
+constexpr uint32_t kY1 = 527612, kY3 = 1370589;  // factors of y(n-1) and -y(n-3)
 // 2^43 / m2 times the factors of y, so rounded that their difference is never too small.
 constexpr uint32_t kRatioY1 = (uint64_t{kY1} << 43) / kM2 + 1;
 constexpr uint32_t kRatioY3 = (uint64_t{kY3} << 43) / kM2;
-constexpr double kStep = 0x1.000000d10000bp-32;   // nearest to 1/m1
+constexpr double kStep = 0x1.000000d10000bp-32;  // nearest to 1/m1
 
 constexpr Row kRowX = {0, kX2, kM1 - kX3}, kRowY = {kY1, 0, kM2 - kY3};
 
@@ -39,7 +39,7 @@ static_assert(sizeof(RuaStream) + sizeof(Mrg32k3a) == 40);
 void seed(Mrg32k3a& s, int32_t n, const uint32_t* params) {
   for (int32_t i = 0; i < 6; ++i) {
     const uint32_t word = i < n ? params[i] : 1, m = i < 3 ? kM1 : kM2;
-    (i < 3 ? s.x : s.y)[i % 3] = word >= m ? word - m : word;
+    *(i < 3 ? &s.x[i] : &s.y[i - 3]) = word >= m ? word - m : word;
   }
   if ((s.x[0] | s.x[1] | s.x[2]) == 0) s.x[0] = 1;
   if ((s.y[0] | s.y[1] | s.y[2]) == 0) s.y[0] = 1;
@@ -112,7 +112,9 @@ Lanes pair(const Mrg32k3a& s, const Mrg32k3a& t) {
 
 // The state in the upper lanes.
 Mrg32k3a second(const Lanes& l) {
-  const auto upper = [](__m128i v) { return uint32_t(_mm_cvtsi128_si32(_mm_unpackhi_epi64(v, v))); };
+  const auto upper = [](__m128i v) {
+    return uint32_t(_mm_cvtsi128_si32(_mm_unpackhi_epi64(v, v)));
+  };
   return {{upper(l.x[0]), upper(l.x[1]), upper(l.x[2])},
           {upper(l.y[0]), upper(l.y[1]), upper(l.y[2])}};
 }
@@ -205,8 +207,7 @@ ORK_EXPORT int32_t __ruasBRngMRG32K3A(RuaStream* stream, int32_t n, float* r, fl
   return generate(stream, n, r, Floats{Affine(a, b, kStep)});
 }
 
-ORK_EXPORT int32_t __ruadBRngMRG32K3A(RuaStream* stream, int32_t n, double* r, double a,
-                                      double b) {
+ORK_EXPORT int32_t __ruadBRngMRG32K3A(RuaStream* stream, int32_t n, double* r, double a, double b) {
   return generate(stream, n, r, Doubles{Affine(a, b, kStep)});
 }
 

@@ -59,6 +59,23 @@ struct WordsAsFloats {
   }
 };
 
+// The common case of 2^-32 z in single precision without the way through double: both halves of
+// a word are exact, so their sum is the word rounded once, as above.
+struct WordsAsUnitFloats {
+  float* r;
+
+  void put(uint32_t z) { _mm_store_ss(r++, unit(_mm_cvtsi32_si128(int32_t(z)))); }
+  void put4(__m128i z) {
+    _mm_storeu_ps(r, unit(z));
+    r += 4;
+  }
+  static __m128 unit(__m128i z) {
+    const __m128 high = _mm_cvtepi32_ps(_mm_srli_epi32(z, 16));
+    const __m128 low = _mm_cvtepi32_ps(_mm_and_si128(z, _mm_set1_epi32(0xFFFF)));
+    return _mm_add_ps(_mm_mul_ps(high, _mm_set1_ps(0x1p-16f)), _mm_mul_ps(low, _mm_set1_ps(0x1p-32f)));
+  }
+};
+
 inline __m128i load4(const uint32_t* p) {
   return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
 }

@@ -60,8 +60,8 @@ void seed(Sfmt19937& s, int32_t n, const uint32_t* params) {
 // B[i] <- B[i] ^ B[i] << 8 (128 bits) ^ B[i + 122] >> 11 & mask ^ B[i - 2] >> 8 (128 bits)
 //         ^ B[i - 1] << 18
 inline __m128i renew(__m128i a, __m128i b, __m128i c, __m128i d) {
-  const __m128i mask = _mm_setr_epi32(int32_t(0xDFFFFFEF), int32_t(0xDDFECB7F),
-                                      int32_t(0xBFFAFFFF), int32_t(0xBFFFFFF6));
+  const __m128i mask = _mm_setr_epi32(int32_t(0xDFFFFFEF), int32_t(0xDDFECB7F), int32_t(0xBFFAFFFF),
+                                      int32_t(0xBFFFFFF6));
   __m128i z = _mm_xor_si128(a, _mm_slli_si128(a, 1));
   z = _mm_xor_si128(z, _mm_and_si128(_mm_srli_epi32(b, 11), mask));
   z = _mm_xor_si128(z, _mm_srli_si128(c, 1));

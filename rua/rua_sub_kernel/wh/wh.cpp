@@ -79,27 +79,27 @@ __m128i wide(uint32_t even, uint32_t odd) {
   return _mm_set_epi32(0, int32_t(odd), 0, int32_t(even));
 }
 
-// One part in the lanes of a vector. x <- a x mod m with the quotient x floor(2^32 a / m) / 2^32:
-// it is short of a/m x by less than x/2^32 + 1, so that x stays below m + m/2^7.
+// One part in the lanes of a vector. The quotient of a x mod m is x ceil(2^32 a / m) / 2^32, which
+// is too large by less than 2^-8: rarely it gives 1 too much, and a negative x.
 struct Part {
   __m128i a, ratio, m;
 
   Part() = default;
   Part(uint32_t a_, uint32_t m_) : a(wide(a_, a_)), m(wide(m_, m_)) {
-    const auto r = uint32_t((uint64_t{a_} << 32) / m_);
+    const auto r = uint32_t(((uint64_t{a_} << 32) + m_ - 1) / m_);
     ratio = wide(r, r);
   }
   __m128i step(__m128i x) const {
     const __m128i q = _mm_shuffle_epi32(_mm_mul_epu32(x, ratio), 0xF5);
     return _mm_sub_epi64(_mm_mul_epu32(x, a), _mm_mul_epu32(q, m));
   }
-  // 2^52 + (x mod m), x in the low words: x - m is a large word where x is below m.
-  __m128d biased(__m128i x) const {
-    const __m128d two52 = _mm_set1_pd(0x1p52);
-    return _mm_min_pd(_mm_or_pd(_mm_castsi128_pd(x), two52),
-                      _mm_or_pd(_mm_castsi128_pd(_mm_sub_epi32(x, m)), two52));
+  __m128i lift(__m128i x) const {
+    return _mm_add_epi64(x, _mm_and_si128(_mm_shuffle_epi32(x, 0xF5), m));
   }
 };
+
+// 2^52 + x, exactly, for words in the low halves of the lanes.
+__m128d biased(__m128i x) { return _mm_or_pd(_mm_castsi128_pd(x), _mm_set1_pd(0x1p52)); }
 
 // Forms take the four parts of two numbers, each as 2^52 + x.
 struct Integers {
@@ -110,10 +110,10 @@ struct Integers {
       return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(u), _mm_castpd_ps(v), 0x88));
     };
     const __m128i p12 = low(x[0], x[1]), p34 = low(x[2], x[3]);
-    const __m128i first = _mm_unpacklo_epi64(_mm_shuffle_epi32(p12, 0xD8),
-                                             _mm_shuffle_epi32(p34, 0xD8));
-    const __m128i second = _mm_unpackhi_epi64(_mm_shuffle_epi32(p12, 0xD8),
-                                              _mm_shuffle_epi32(p34, 0xD8));
+    const __m128i first =
+        _mm_unpacklo_epi64(_mm_shuffle_epi32(p12, 0xD8), _mm_shuffle_epi32(p34, 0xD8));
+    const __m128i second =
+        _mm_unpackhi_epi64(_mm_shuffle_epi32(p12, 0xD8), _mm_shuffle_epi32(p34, 0xD8));
     _mm_storeu_si128(reinterpret_cast<__m128i*>(r), first);
     _mm_storeu_si128(reinterpret_cast<__m128i*>(r + 4), second);
     r += 8;
@@ -126,7 +126,8 @@ struct Integers {
 struct Reals {
   __m128d reciprocal[4], width, a;
 
-  Reals(const RuaStream* stream, double a_, double b) : width(_mm_set1_pd(b - a_)), a(_mm_set1_pd(a_)) {
+  Reals(const RuaStream* stream, double a_, double b)
+      : width(_mm_set1_pd(b - a_)), a(_mm_set1_pd(a_)) {
     const auto& row = kBelow[family_member(stream)];
     for (int p = 0; p < 4; ++p) reciprocal[p] = _mm_set1_pd(row[p]);
   }
@@ -144,8 +145,7 @@ struct Reals {
 struct Doubles : Reals {
   double* r;
 
-  Doubles(const RuaStream* stream, double* r_, double a_, double b)
-      : Reals(stream, a_, b), r(r_) {}
+  Doubles(const RuaStream* stream, double* r_, double a_, double b) : Reals(stream, a_, b), r(r_) {}
   void put(const __m128d (&x)[4]) { _mm_store_sd(r++, real(x)); }
   void put2(const __m128d (&x)[4]) {
     _mm_storeu_pd(r, real(x));
@@ -156,8 +156,7 @@ struct Doubles : Reals {
 struct Floats : Reals {
   float* r;
 
-  Floats(const RuaStream* stream, float* r_, double a_, double b)
-      : Reals(stream, a_, b), r(r_) {}
+  Floats(const RuaStream* stream, float* r_, double a_, double b) : Reals(stream, a_, b), r(r_) {}
   void put(const __m128d (&x)[4]) { _mm_store_ss(r++, _mm_cvtpd_ps(real(x))); }
   void put2(const __m128d (&x)[4]) {
     _mm_storel_pi(reinterpret_cast<__m64*>(r), _mm_cvtpd_ps(real(x)));
@@ -182,21 +181,24 @@ int32_t generate(RuaStream* stream, int32_t n, Output out) {
     }
     const auto put2 = [&](__m128i(&x)[4]) __attribute__((always_inline)) {
 #pragma GCC unroll 4
-      for (int p = 0; p < 4; ++p) number[p] = part[p].biased(x[p]);
+      for (int p = 0; p < 4; ++p) number[p] = biased(x[p]);
       out.put2(number);
 #pragma GCC unroll 4
       for (int p = 0; p < 4; ++p) x[p] = part[p].step(x[p]);
+      const __m128i any = _mm_or_si128(_mm_or_si128(x[0], x[1]), _mm_or_si128(x[2], x[3]));
+      if (__builtin_expect(_mm_movemask_pd(_mm_castsi128_pd(any)) != 0, 0))
+#pragma GCC unroll 4
+        for (int p = 0; p < 4; ++p) x[p] = part[p].lift(x[p]);
     };
     for (; n >= 4; n -= 4) {
       put2(even);
       put2(odd);
     }
-    for (int p = 0; p < 4; ++p)
-      s.x[p] = uint32_t(_mm_cvtsi128_si32(_mm_castpd_si128(part[p].biased(even[p]))));
+    for (int p = 0; p < 4; ++p) s.x[p] = uint32_t(_mm_cvtsi128_si32(even[p]));
   }
   for (; n > 0; --n) {
     for (int p = 0; p < 4; ++p) {
-      number[p] = _mm_or_pd(_mm_castsi128_pd(wide(s.x[p], 0)), _mm_set1_pd(0x1p52));
+      number[p] = biased(wide(s.x[p], 0));
       s.x[p] = multiply(s.a[p], s.x[p], m[p]);
     }
     out.put(number);

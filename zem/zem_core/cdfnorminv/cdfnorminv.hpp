@@ -14,7 +14,10 @@ struct CdfNormInvSplit {
     const f64x2 u = p + p, z = u - 1.0;
     return {_mm_min_pd(u, 2.0 - u), z, u - (z + 1.0)};
   }
-  template <class Rows> static f64x2 ep_argument(f64x2 w) { return Rows::from_middle(w); }
+  template <class Rows>
+  static f64x2 ep_argument(f64x2 w) {
+    return Rows::from_middle(w);
+  }
 };
 
 struct CdfNormInvD : Core<double>, CdfNormInvSplit {

@@ -14,7 +14,10 @@ struct ErfcInvSplit {
     const f64x2 z = 1.0 - x;
     return {_mm_min_pd(x, 2.0 - x), z, (1.0 - z) - x};
   }
-  template <class Rows> static f64x2 ep_argument(f64x2 w) { return Rows::from_middle(w); }
+  template <class Rows>
+  static f64x2 ep_argument(f64x2 w) {
+    return Rows::from_middle(w);
+  }
 };
 
 struct ErfcInvD : Core<double>, ErfcInvSplit {

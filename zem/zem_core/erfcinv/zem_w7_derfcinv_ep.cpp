@@ -9,7 +9,10 @@ alignas(16) constexpr double table[][4] = {
 };
 
 struct Function : ErfcInvD {
-  template <Level> static const double* rows() { return table[0]; }
+  template <Level>
+  static const double* rows() {
+    return table[0];
+  }
 };
 
 }  // namespace

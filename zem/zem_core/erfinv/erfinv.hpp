@@ -19,7 +19,8 @@ struct ErfInvD : Core<double> {
   static InverseSplit split(f64x2 x) { return erfinv_split(x); }
   static u32x4 rare(f64x2 x) { return outside(as<u32x4>(abs(x)), 0x3DC00000, 0x3FF00000); }
   // EP alone leaves w unscaled.
-  template <class Rows> static f64x2 ep_argument(f64x2 w) {
+  template <class Rows>
+  static f64x2 ep_argument(f64x2 w) {
     const u64x2 interval = as<u64x2>(w) & splat_u64(0x7FFF000000000000);
     return w - as<f64x2>(interval | splat_u64(0x0000800000000000));
   }

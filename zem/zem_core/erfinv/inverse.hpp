@@ -11,7 +11,8 @@
 namespace ork {
 
 // Rows of `columns` numbers, `parts` (4 or 16) to each of `binades`, next to w = 1 first.
-template <int parts, int columns, int binades> struct InverseRows {
+template <int parts, int columns, int binades>
+struct InverseRows {
   static constexpr int high_bits = parts == 4 ? 14 : 16;  // of w: sign, exponent, part
   static constexpr short first = parts == 4 ? 0xFFB : 0x3FEF;
   static constexpr short last = binades * parts - 1;
@@ -90,7 +91,8 @@ ORK_INLINE u32x4 outside(u32x4 x, uint32_t low, uint32_t high) {
 }
 
 // Double. Function gives split, rare, rows.
-template <class Function, Level level> struct InverseD : Function {
+template <class Function, Level level>
+struct InverseD : Function {
   static f64x2 eval(f64x2 x, u32x4& rare) {
     const InverseSplit s = Function::split(x);
     rare |= Function::rare(x);
@@ -112,7 +114,8 @@ template <class Function, Level level> struct InverseD : Function {
 };
 
 // Single, in double from the widened input; one rounding.
-template <class Function, Level level> struct InverseS : Function {
+template <class Function, Level level>
+struct InverseS : Function {
   static constexpr int vectors = 1;
   static f64x2 half(f64x2 x) {
     constexpr int columns = level == Level::ha ? 8 : level == Level::la ? 6 : 4;

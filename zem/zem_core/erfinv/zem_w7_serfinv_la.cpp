@@ -9,7 +9,10 @@ alignas(16) constexpr double table[][6] = {
 };
 
 struct Function : ErfInvS {
-  template <Level> static const double* rows() { return table[0]; }
+  template <Level>
+  static const double* rows() {
+    return table[0];
+  }
 };
 
 }  // namespace

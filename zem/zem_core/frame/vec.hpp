@@ -96,6 +96,9 @@ inline constexpr u32x4 sign_f32x4 = {0x80000000, 0x80000000, 0x80000000, 0x80000
 ORK_INLINE f64x2 abs(f64x2 x) { return and_bits(x, ~sign_f64x2); }
 ORK_INLINE f32x4 abs(f32x4 x) { return and_bits(x, ~sign_f32x4); }
 
+// a/b as a constant: under -frounding-math an expression would divide when run.
+template <int a, int b> inline constexpr double ratio = double(a) / b;
+
 // c0 + x (c1 + x (c2 + ...)), in that order of operations; of vectors or scalars.
 template <class V, class T> ORK_INLINE V horner(V x, T c0, T c1) { return c0 + x * c1; }
 template <class V, class T, class... Ts>

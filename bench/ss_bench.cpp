@@ -1,0 +1,13 @@
+// Statistics: cycles beside the bounds asked for and the peers of the same run.
+//
+//   ss_bench [SECTION ...] [--record]      SECTION: helpers, moments, quantiles
+#include "ss_helpers.hpp"
+#include "ss_moments.hpp"
+#include "ss_quantiles.hpp"
+
+int main(int argc, char** argv) {
+  Report report("ss", argc, argv);
+  if (report.wants("helpers")) helpers::run(report);
+  if (report.wants("moments")) moments::run(report);
+  if (report.wants("quantiles")) quantiles::run(report);
+}

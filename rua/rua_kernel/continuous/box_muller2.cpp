@@ -1,0 +1,108 @@
+// Gaussian numbers from sine and cosine of the Box-Muller transformation, in this order. When
+// the count is odd, the last pair of uniform numbers waits in a chunk of the stream, and its
+// cosine is the first output of the next call.
+#include "ork/serv.h"
+#include "rua_kernel/continuous/elementwise.hpp"
+#include "rua_kernel/continuous/gaussian.hpp"
+#include "rua_kernel/continuous/uniform.hpp"
+#include "rua_sub_kernel/service/chunks.hpp"
+#include "rua_sub_kernel/service/stream.hpp"
+
+namespace ork::rua {
+
+namespace {
+
+// The uniform numbers behind the half-used Gaussian pair; both -1 when there is none.
+template <class R>
+struct Pending {
+  static constexpr uint32_t kChunk = sizeof(R) == 8 ? 2 : 1;
+  R u[2];
+};
+
+// The stream's pending pair, made on first use.
+template <class R>
+int32_t find_pending(RuaStream* stream, Pending<R>*& pending) {
+  using P = Pending<R>;
+  pending = static_cast<P*>(__ruaSearchChunk(stream, P::kChunk));
+  if (pending) return RUA_STATUS_OK;
+  pending = static_cast<P*>(ork_serv_allocate(sizeof(P), kAlignment));
+  if (!pending) return RUA_STATUS_NO_MEMORY;
+  *pending = {{-1, -1}};
+  return give_chunk(stream, P::kChunk, nullptr, pending, sizeof(P));
+}
+
+// One half of a pair; `wave` is the table of the sine or of the cosine.
+template <class R, class Table>
+inline R half(const Pending<R>& pair, const Table& wave) {
+  R radius, angle = pair.u[1] * kTwoPi<R>;
+  apply(wave, 1, &angle);
+  radii(1, pair.u, &radius);
+  return radius * angle;
+}
+
+ORK_INLINE void store_pairs(double* r, f64x2 first, f64x2 second) {
+  store(r, _mm_unpacklo_pd(first, second));
+  store(r + 2, _mm_unpackhi_pd(first, second));
+}
+ORK_INLINE void store_pairs(float* r, f32x4 first, f32x4 second) {
+  store(r, _mm_unpacklo_ps(first, second));
+  store(r + 4, _mm_unpackhi_ps(first, second));
+}
+
+constexpr int32_t kBlock = 512;  // pairs
+
+template <class R>
+inline int32_t whole_pairs(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
+  alignas(64) R u[2 * kBlock], magnitude[kBlock], sine[kBlock], cosine[kBlock];
+  for (int32_t m; n > 0; n -= m, r += 2 * m) {
+    m = n < kBlock ? n : kBlock;
+    const int32_t status = uniform(stream, 2 * m, u, 0, 1);
+    if (status < 0) return status;
+    split(m, u, magnitude, sine, [](auto x) { return x * kTwoPi<R>; });
+    sin_cos(m, sine, cosine);
+    R* const radius = u;
+    radii(m, magnitude, radius);
+    const auto scaled = [=](auto rho, auto wave) { return rho * wave * sigma + a; };
+    constexpr int w = simd<R>::width;
+    int32_t i = 0;
+    for (; m - i >= w; i += w) {
+      const vec_of<R> rho = load(radius + i);
+      store_pairs(r + 2 * i, scaled(rho, load(sine + i)), scaled(rho, load(cosine + i)));
+    }
+    for (; i < m; ++i) {
+      r[2 * i] = scaled(radius[i], sine[i]);
+      r[2 * i + 1] = scaled(radius[i], cosine[i]);
+    }
+  }
+  return RUA_STATUS_OK;
+}
+
+}  // namespace
+
+template <class R>
+int32_t box_muller2(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
+  if (n < 1) return RUA_STATUS_OK;
+  Pending<R>* pending;
+  int32_t status = find_pending(stream, pending);
+  if (status < 0) return status;
+  // The pair stays pending until the whole call has succeeded.
+  Pending<R> left = {{-1, -1}};
+  if (pending->u[0] != -1) {
+    *r++ = half(*pending, Tables<R>::cos) * sigma + a;
+    --n;
+  }
+  status = whole_pairs(stream, n / 2, r, a, sigma);
+  if (status < 0) return status;
+  if (n % 2 != 0) {
+    status = uniform(stream, 2, left.u, 0, 1);
+    if (status < 0) return status;
+    r[n - 1] = half(left, Tables<R>::sin) * sigma + a;
+  }
+  *pending = left;
+  return RUA_STATUS_OK;
+}
+
+template GaussianMethod<double> box_muller2<double>;
+template GaussianMethod<float> box_muller2<float>;
+
+}  // namespace ork::rua

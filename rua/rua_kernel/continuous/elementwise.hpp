@@ -1,0 +1,111 @@
+// Passes over arrays: loops in the vector registers, and the vector kernels the distributions
+// call. Double work takes the EP slot, single work the LA slot.
+#pragma once
+#include "frame/vec.hpp"
+#include "ork/zem_kernels.h"
+#include "rua_sub_kernel/math/vector_mode.hpp"
+
+namespace ork::rua {
+
+template <class R>
+struct Tables;
+template <>
+struct Tables<double> {
+  static constexpr int kSlot = 2;
+  static constexpr auto &ln = ork_zem_kernel_dLn_ttab, &sqrt = ork_zem_kernel_dSqrt_ttab,
+                        &sin = ork_zem_kernel_dSin_ttab, &cos = ork_zem_kernel_dCos_ttab,
+                        &tan = ork_zem_kernel_dTan_ttab, &exp = ork_zem_kernel_dExp_ttab,
+                        &erf_inv = ork_zem_kernel_dErfInv_ttab;
+  static constexpr auto& sin_cos = ork_zem_kernel_dSinCos_ttab;
+  static constexpr auto& powx = ork_zem_kernel_dPowx_ttab;
+};
+template <>
+struct Tables<float> {
+  static constexpr int kSlot = 0;
+  static constexpr auto &ln = ork_zem_kernel_sLn_ttab, &sqrt = ork_zem_kernel_sSqrt_ttab,
+                        &sin = ork_zem_kernel_sSin_ttab, &cos = ork_zem_kernel_sCos_ttab,
+                        &tan = ork_zem_kernel_sTan_ttab, &exp = ork_zem_kernel_sExp_ttab,
+                        &erf_inv = ork_zem_kernel_sErfInv_ttab;
+  static constexpr auto& sin_cos = ork_zem_kernel_sSinCos_ttab;
+  static constexpr auto& powx = ork_zem_kernel_sPowx_ttab;
+};
+
+// r <- f(a) by the kernel of a table.
+template <class R, class Table>
+inline void apply(const Table& table, int32_t n, const R* a, R* r) {
+  const VectorMode mode;
+  table[Tables<R>::kSlot](n, a, r);
+}
+template <class R, class Table>
+inline void apply(const Table& table, int32_t n, R* r) {
+  apply(table, n, r, r);
+}
+
+template <class R>
+inline void sin_cos(int32_t n, R* angle_to_sine, R* cosine) {
+  const VectorMode mode;
+  Tables<R>::sin_cos[Tables<R>::kSlot](n, angle_to_sine, angle_to_sine, cosine);
+}
+
+template <class R>
+inline void power(int32_t n, R* r, R exponent) {
+  const VectorMode mode;
+  Tables<R>::powx[Tables<R>::kSlot](n, r, exponent, r);
+}
+
+// r <- f(r), eight values at a time. f takes a vector or a value.
+template <class R, class F>
+ORK_INLINE void each(int32_t n, R* r, F f) {
+  constexpr int w = simd<R>::width;
+  for (; n >= 8; n -= 8, r += 8)
+#pragma GCC unroll 4
+    for (int k = 0; k < 8; k += w) store(r + k, f(load(r + k)));
+  for (; n > 0; --n, ++r) *r = f(*r);
+}
+
+// r <- sqrt(-2 ln(u)), the radius of a Gaussian pair. The arrays have to be two: an error
+// callback that looks at the operand of a logarithm in place would find its result there.
+template <class R>
+inline void radii(int32_t n, const R* u, R* r) {
+  apply(Tables<R>::ln, n, u, r);
+  each(n, r, [](auto x) { return -(x + x); });
+  apply(Tables<R>::sqrt, n, r);
+}
+
+ORK_INLINE f64x2 evens(f64x2 a, f64x2 b) { return _mm_unpacklo_pd(a, b); }
+ORK_INLINE f64x2 odds(f64x2 a, f64x2 b) { return _mm_unpackhi_pd(a, b); }
+ORK_INLINE f32x4 evens(f32x4 a, f32x4 b) { return _mm_shuffle_ps(a, b, 0x88); }
+ORK_INLINE f32x4 odds(f32x4 a, f32x4 b) { return _mm_shuffle_ps(a, b, 0xDD); }
+
+// first[i], second[i] <- pairs[2 i], f(pairs[2 i + 1]). One of them may be `pairs` itself.
+template <class R, class F>
+ORK_INLINE void split(int32_t n, const R* pairs, R* first, R* second, F f) {
+  constexpr int w = simd<R>::width;
+  int32_t i = 0;
+  for (; n - i >= w; i += w) {
+    const vec_of<R> a = load(pairs + 2 * i), b = load(pairs + 2 * i + w);
+    store(first + i, evens(a, b));
+    store(second + i, f(odds(a, b)));
+  }
+  for (; i < n; ++i) {
+    const R a = pairs[2 * i], b = pairs[2 * i + 1];
+    first[i] = a;
+    second[i] = f(b);
+  }
+}
+
+// t, but the displacement where that is above t: rounding never leads below it.
+ORK_INLINE f64x2 at_least(double a, f64x2 t) { return _mm_max_pd(splat(a), t); }
+ORK_INLINE f32x4 at_least(float a, f32x4 t) { return _mm_max_ps(splat(a), t); }
+template <class R>
+ORK_INLINE R at_least(R a, R t) {
+  return a > t ? a : t;
+}
+ORK_INLINE f64x2 at_most(double b, f64x2 t) { return _mm_min_pd(splat(b), t); }
+ORK_INLINE f32x4 at_most(float b, f32x4 t) { return _mm_min_ps(splat(b), t); }
+template <class R>
+ORK_INLINE R at_most(R b, R t) {
+  return t > b ? b : t;
+}
+
+}  // namespace ork::rua

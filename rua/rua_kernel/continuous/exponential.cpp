@@ -1,0 +1,31 @@
+// Exponential: a - beta ln(u).
+#include "frame/export.hpp"
+#include "rua_kernel/continuous/elementwise.hpp"
+#include "rua_kernel/continuous/guard.hpp"
+#include "rua_kernel/continuous/uniform.hpp"
+
+using namespace ork::rua;
+
+namespace {
+
+template <class R>
+inline int32_t generate(RuaStream* stream, int32_t n, R* r, R a, R beta) {
+  const CallbackGuard guard(least_ln<R>);
+  const int32_t status = uniform(stream, n, r, 0, 1);
+  if (status < 0) return status;
+  apply(Tables<R>::ln, n, r);
+  each(n, r, [=](auto x) { return at_least(a, a - x * beta); });
+  return status;
+}
+
+}  // namespace
+
+ORK_EXPORT int32_t _ruadRngExponential(int32_t, RuaStream* stream, int32_t n, double* r, double a,
+                                       double beta) {
+  return generate(stream, n, r, a, beta);
+}
+
+ORK_EXPORT int32_t _ruasRngExponential(int32_t, RuaStream* stream, int32_t n, float* r, float a,
+                                       float beta) {
+  return generate(stream, n, r, a, beta);
+}

@@ -1,0 +1,335 @@
+// Moments, sums, covariance: set-up, the shares of the threads, and what becomes of them.
+#include "rua_kernel/ss/moments/basic.hpp"
+
+#include <string.h>
+
+#include "ork/dense.h"
+#include "rua_kernel/ss/moments/finish.hpp"
+#include "rua_kernel/ss/moments/merge.hpp"
+#include "rua_kernel/ss/moments/tables.hpp"
+#include "rua_sub_kernel/math/scratch.hpp"
+
+namespace ork::ss {
+namespace {
+
+template <class R>
+struct Dense;
+template <>
+struct Dense<double> {
+  static constexpr auto syr = ork_blas_dsyr;
+  static constexpr auto syrk = ork_blas_dsyrk;
+  static constexpr auto gemm = ork_blas_dgemm;
+};
+template <>
+struct Dense<float> {
+  static constexpr auto syr = ork_blas_ssyr;
+  static constexpr auto syrk = ork_blas_ssyrk;
+  static constexpr auto gemm = ork_blas_sgemm;
+};
+
+template <class R>
+struct Work {
+  Data<R> data;
+  Kernel<R> kernel;
+  bool rows;
+  bool by_products;  // cross-products by the dense layer, not by the kernel
+  Share<R>* shares;  // of the threads
+};
+
+// Observations that the kernel and the dense layer go through in turn: 256 KB, 128 at least.
+template <class R>
+int block_length(int p, int n) {
+  const int cached = int(0x40000 / sizeof(R) / uint32_t(p)), length = cached > 128 ? cached : 128;
+  return length < n ? length : n;
+}
+
+// Adds the observations' weighted products to s, block after block while they are in the cache.
+// Row after row, the lower triangle is what the dense layer calls the upper one.
+template <class R>
+void take_products(const Work<R>& work, Share<R>& share, int first, int last) {
+  typedef Dense<R> D;
+  const Data<R>& data = work.data;
+  const int p = data.p, n = data.n, one_step = 1;
+  const R one = 1, minus = -1;
+  // About the origin while observations come in, about the mean before and after.
+  const auto shift = [&](R sign) {
+    const R w = sign * share.weight.w;
+    D::syr("U", &p, &w, share.orders[kMean], &one_step, share.s, &p);
+  };
+  const int length = block_length<R>(p, n);
+  R* const scaled = share.scratch;
+
+  shift(one);
+  for (int at = first; at < last; at += length) {
+    const int count = last - at < length ? last - at : length;
+    work.kernel(data, at, at + count, share.weight, share.orders, nullptr, nullptr);
+    const R* x = data.x + (work.rows ? size_t(at) : size_t(at) * p);
+    const int& ld = work.rows ? n : p;
+    if (!data.w) {
+      D::syrk("U", work.rows ? "T" : "N", &p, &count, &one, x, &ld, &one, share.s, &p);
+      continue;
+    }
+    const R* w = data.w + at;
+    if (work.rows) {
+      for (int j = 0; j < p; ++j)
+        for (int i = 0; i < count; ++i) scaled[size_t(j) * count + i] = w[i] * x[size_t(j) * n + i];
+      D::gemm("T", "N", &p, &p, &count, &one, scaled, &count, x, &n, &one, share.s, &p);
+    } else {
+      for (int i = 0; i < count; ++i)
+        for (int j = 0; j < p; ++j) scaled[size_t(i) * p + j] = w[i] * x[size_t(i) * p + j];
+      D::gemm("N", "T", &p, &p, &count, &one, scaled, &p, x, &p, &one, share.s, &p);
+    }
+  }
+  shift(minus);
+}
+
+// The observations of thread `index`. The caller's table may run it on any stack.
+template <class R>
+__attribute__((force_align_arg_pointer)) void take_share(int index, int, int threads,
+                                                         void* context) {
+  Work<R>& work = *static_cast<Work<R>*>(context);
+  Share<R>& share = work.shares[index];
+  const int each = work.data.n / threads, first = index * each;
+  const int last = index == threads - 1 ? work.data.n : first + each;
+  if (work.by_products) {
+    take_products(work, share, first, last);
+  } else {
+    work.kernel(work.data, first, last, share.weight, share.orders, share.s, share.scratch);
+  }
+}
+
+// One block of reals, dealt out in pieces that start on cache lines of their own.
+template <class R>
+class Arena {
+ public:
+  // Counts as long as there is no block, then deals.
+  R* take(uint64_t count) {
+    R* piece = block_ ? block_.get() + size_t(used_) : nullptr;
+    used_ += (count + 31) / 32 * 32;
+    return piece;
+  }
+  bool allocate() {
+    if (used_ == 0) return true;
+    block_ = Scratch<R>(used_);
+    used_ = 0;
+    return bool(block_);
+  }
+
+ private:
+  Scratch<R> block_;
+  uint64_t used_ = 0;
+};
+
+int threads_for(int n, const ork_threader* threader) {
+  constexpr int least = 1000;  // observations of a thread
+  int threads = threader ? threader->max_threads() : 1;
+  if (threads < 1) threads = 1;
+  if (n / threads < least) threads = n / least > 0 ? n / least : 1;
+  return threads;
+}
+
+// Fills a working array of thread 0 from an earlier result, or with zeros. `own`: it is not one
+// of the caller's.
+template <class R>
+void start_order(const Task<R>& t, int order, R* working, bool own, const Weight<R>& sum) {
+  const int p = t.p();
+  const R *total = t.sums[order], *moment = t.moments[order], *from = total ? total : moment;
+  if (sum.w == 0 || (own && (!(sum.w > 0) || !from))) {
+    memset(working, 0, size_t(p) * sizeof(R));
+    return;
+  }
+  if (!(sum.w > 0)) return;
+  R factor = 1;
+  if (order <= kRaw4 && total) factor = 1 / sum.w;
+  if (order >= kCentral2 && !total) factor = central_divisor(Order(order), sum);
+  for (int j = 0; j < p; ++j) working[j] = factor * from[j];
+}
+
+// The matrix that s starts from: the first that is asked for.
+template <class R>
+Symmetric<R> first_matrix(const Task<R>& t, const Request& q, Form& form) {
+  const int p = t.p();
+  if (q.asks(kCrossProduct)) {
+    form = Form::kCrossProduct;
+    return {t.crossProduct, p, code_of(t, t.crossProductStorage)};
+  }
+  if (q.asks(kCov)) {
+    form = Form::kCovariance;
+    return {t.cov, p, code_of(t, t.covStorage)};
+  }
+  form = Form::kCorrelation;
+  return {t.cor, p, code_of(t, t.corStorage)};
+}
+
+template <class R>
+void start_matrix(const Symmetric<R>& from, Form form, R* s, const Weight<R>& sum) {
+  if (sum.w > 0)
+    to_working(from, form, sum.w - sum.w2 / sum.w, s);
+  else if (s != from.a || sum.w == 0)
+    memset(s, 0, size_t(from.p) * from.p * sizeof(R));
+}
+
+template <class R>
+int32_t from_sums(const Task<R>& t, const Request& q) {
+  Weight<R> sum;
+  if (t.accumulatedWeight)
+    sum = {t.accumulatedWeight[0], t.accumulatedWeight[1]};
+  else
+    sum.w = sum.w2 = R(t.n());
+  if (q.asks_matrix()) {
+    const int p = t.p();
+    const Symmetric<R> products{t.crossProduct, p, code_of(t, t.crossProductStorage)};
+    Scratch<R> unpacked;
+    if (!products.full()) {
+      unpacked = Scratch<R>(uint64_t(p) * p);
+      if (!unpacked) return ORK_SS_NO_MEMORY;
+      to_working(products, Form::kCrossProduct, R(1), unpacked.get());
+    }
+    finish_matrices(t, q, sum, unpacked ? unpacked.get() : products.a);
+  }
+  finish_from_sums(t, q, sum);
+  return ORK_SS_OK;
+}
+
+template <class R>
+struct Choice {
+  Kernel<R> kernel;
+  uint32_t kept;  // orders that are written
+};
+
+template <class R>
+Choice<R> choose(const Request& q, bool rows, bool weighted) {
+#define ORK_KEPT(Orders, from)                   \
+  (index == 0   ? mask_of<from>(Orders<0>::kept) \
+   : index == 1 ? mask_of<from>(Orders<1>::kept) \
+   : index == 2 ? mask_of<from>(Orders<2>::kept) \
+                : mask_of<from>(Orders<3>::kept))
+  const int index = q.order_index();
+  switch (q.method) {
+    case Method::kFast:
+      return {Kernels<R>::fast[rows][weighted][index], ORK_KEPT(FastOrders, 0)};
+    case Method::kTwoPass:
+      return {Kernels<R>::two_pass[rows][weighted][index], ORK_KEPT(TwoPassOrders, 1)};
+    default:
+      return {Kernels<R>::one_pass[rows][weighted][q.asks_matrix()][index],
+              ORK_KEPT(OnePassOrders, 0)};
+  }
+#undef ORK_KEPT
+}
+
+}  // namespace
+
+template <class R>
+int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threader* threader) {
+  const Request q = request(t, estimates, method);
+  if (q.status != ORK_SS_OK) return q.status;
+  if (q.method == Method::kFromSums) return from_sums(t, q);
+
+  const int p = t.p(), n = t.n(), threads = threads_for(n, threader);
+  const bool given_mean = q.method == Method::kTwoPass, matrix = q.asks_matrix();
+  const bool rows = t.rows() || p == 1, one_pass = q.method == Method::kOnePass;
+  const Choice<R> choice = choose<R>(q, rows, t.weights != nullptr);
+  Work<R> work{
+      {n, p, t.observations, t.weights}, choice.kernel, rows, matrix && !one_pass, nullptr};
+
+  Weight<R> sum{0, 0};
+  if (t.accumulatedWeight) sum = {t.accumulatedWeight[0], t.accumulatedWeight[1]};
+
+  // The caller's arrays serve thread 0 where they can; with a mask, variables that are left out
+  // must keep their results.
+  Form form = Form::kCrossProduct;
+  Symmetric<R> first{};
+  if (matrix) first = first_matrix(t, q, form);
+  const bool own_matrix = matrix && (t.variableMask || !first.full());
+  const auto borrowed = [&](int order) -> R* {
+    if (t.variableMask) return nullptr;
+    return t.sums[order] ? t.sums[order] : t.moments[order];
+  };
+  const uint64_t scratch_size = !matrix     ? 0
+                                : one_pass  ? cross_scratch<R>(p)
+                                : t.weights ? uint64_t(block_length<R>(p, n)) * p
+                                            : 0;
+  const bool need_mean = given_mean && !t.moments[kMean];
+
+  Scratch<Share<R>> more;
+  Share<R> one;
+  work.shares = &one;
+  if (threads > 1) {
+    more = Scratch<Share<R>>(threads);
+    if (!more) return ORK_SS_NO_MEMORY;
+    work.shares = more.get();
+  }
+  Arena<R> arena;
+  R* zero_mean = nullptr;
+  const auto deal = [&] {
+    if (need_mean) zero_mean = arena.take(p);
+    for (int k = 0; k < threads; ++k) {
+      Share<R>& share = work.shares[k];
+      share.weight = k == 0 ? sum : Weight<R>{0, 0};
+      for (int order = 0; order < kOrders; ++order) {
+        R* array = nullptr;
+        if (choice.kept & bit(order)) {
+          if (k == 0) array = borrowed(order);
+          if (!array) array = arena.take(p);
+        }
+        share.orders[order] = array;
+      }
+      if (given_mean) share.orders[kMean] = need_mean ? zero_mean : t.moments[kMean];
+      share.s = nullptr;
+      if (matrix) share.s = k > 0 || own_matrix ? arena.take(uint64_t(p) * p) : first.a;
+      share.scratch = arena.take(scratch_size);
+    }
+  };
+  deal();
+  if (!arena.allocate()) return ORK_SS_NO_MEMORY;
+  deal();
+
+  // From here on outputs change.
+  if (need_mean) memset(zero_mean, 0, size_t(p) * sizeof(R));
+  for (int k = 0; k < threads; ++k) {
+    const Share<R>& share = work.shares[k];
+    for (int order = 0; order < kOrders; ++order) {
+      if (!(choice.kept & bit(order))) continue;
+      if (k == 0)
+        start_order(t, order, share.orders[order], !borrowed(order), sum);
+      else
+        memset(share.orders[order], 0, size_t(p) * sizeof(R));
+    }
+    if (matrix && k == 0) start_matrix(first, form, share.s, sum);
+    if (matrix && k > 0) memset(share.s, 0, size_t(p) * p * sizeof(R));
+    if (scratch_size) memset(share.scratch, 0, size_t(scratch_size) * sizeof(R));
+  }
+
+  if (threads > 1)
+    threader->parallel(threads, &work, take_share<R>);
+  else
+    take_share<R>(0, 0, 1, &work);
+
+  Share<R>& total = work.shares[0];
+  for (int k = 1; k < threads; ++k) merge(p, total, work.shares[k], given_mean);
+  if (matrix) finish_matrices(t, q, total.weight, total.s);
+  if (t.accumulatedWeight) {
+    t.accumulatedWeight[0] = total.weight.w;
+    t.accumulatedWeight[1] = total.weight.w2;
+  }
+  finish_moments(t, q, total.weight, total.orders);
+  return ORK_SS_OK;
+}
+
+template int32_t basic(Task<double>&, uint64_t, uint64_t, const ork_threader*);
+template int32_t basic(Task<float>&, uint64_t, uint64_t, const ork_threader*);
+
+ORK_EXPORT int32_t _ruadSSBasic(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                uint32_t method_low, uint32_t method_high,
+                                const ork_threader* threader) {
+  return basic(record_of<double>(task), join(estimates_low, estimates_high),
+               join(method_low, method_high), threader);
+}
+ORK_EXPORT int32_t _ruasSSBasic(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                uint32_t method_low, uint32_t method_high,
+                                const ork_threader* threader) {
+  return basic(record_of<float>(task), join(estimates_low, estimates_high),
+               join(method_low, method_high), threader);
+}
+
+}  // namespace ork::ss

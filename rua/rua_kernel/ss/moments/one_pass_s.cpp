@@ -1,0 +1,5 @@
+#include "rua_kernel/ss/moments/one_pass.hpp"
+
+namespace ork::ss {
+template const Kernel<float> Kernels<float>::one_pass[2][2][2][kIndices];
+}

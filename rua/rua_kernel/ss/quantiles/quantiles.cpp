@@ -1,0 +1,161 @@
+// Exact quantiles and sorted copies: a sort when the sorted values are asked for, selections
+// when they are not.
+#include "rua_kernel/ss/quantiles/quantiles.hpp"
+
+#include <string.h>
+
+#include "rua_kernel/ss/quantiles/sorts.hpp"
+#include "rua_sub_kernel/math/scratch.hpp"
+
+namespace ork::ss {
+namespace {
+
+constexpr int kLayouts = ORK_SS_ROWS | ORK_SS_COLUMNS;
+
+template <class R>
+int32_t check(const Task<R>& t, uint64_t estimates, uint64_t method) {
+  if (!(t.integer(t.storageFormat) & kLayouts)) return ORK_SS_BAD_STORAGE;
+  if (estimates & ORK_SS_QUANTILES) {
+    if (!t.quantiles) return ORK_SS_NULL_QUANTILES;
+    if (!t.quantileOrders) return ORK_SS_NULL_QUANTILE_ORDERS;
+    if (!t.quantileCount || t.integer(t.quantileCount) < 0) return ORK_SS_BAD_QUANTILES;
+    if (!orders_in_range(t.quantileOrders, int(t.integer(t.quantileCount))))
+      return ORK_SS_BAD_QUANTILES;
+  }
+  if (estimates & ORK_SS_ORDER_STATS) {
+    if (!t.orderStatistics) return ORK_SS_NULL_ORDER_STATS;
+    if (!t.orderStatisticsStorage) return ORK_SS_NULL_STORAGE;
+    if (!(t.integer(t.orderStatisticsStorage) & kLayouts)) return ORK_SS_BAD_STORAGE;
+  }
+  return method & ORK_SS_FAST ? ORK_SS_OK : ORK_SS_BAD_METHOD;
+}
+
+template <class R>
+struct Work {
+  const Task<R>& task;
+  int p, n, count;  // count: quantile orders
+  bool rows;        // of the observations
+  bool quantiles, sorted;
+  bool sorted_rows;
+  const int* variables;  // selected
+  R* scratch;            // n reals for each thread
+};
+
+// Linear between the values of two neighbouring ranks: value(k), then next(k + 1).
+template <class R, class Value, class Next>
+void put_quantiles(const Work<R>& work, R* to, Value value, Next next) {
+  for (int i = 0; i < work.count; ++i) {
+    const R place = work.task.quantileOrders[i] * R(work.n - 1);
+    int k = int(place);
+    if (k < 0) k = 0;                    // from NaN
+    if (k > work.n - 1) k = work.n - 1;  // n - 1 was rounded up
+    const R f = place - R(k);
+    const R below = value(k), above = k + 1 < work.n ? next(k + 1) : below;
+    to[i] = (1 - f) * below + f * above;
+  }
+}
+
+template <class R>
+R least(const R* x, int n) {
+  constexpr int chains = 4;
+  R now[chains] = {x[0], x[0], x[0], x[0]};
+  int i = 0;
+  for (; i + chains <= n; i += chains)
+#pragma GCC unroll 4
+    for (int c = 0; c < chains; ++c) now[c] = x[i + c] < now[c] ? x[i + c] : now[c];
+  for (; i < n; ++i) now[0] = x[i] < now[0] ? x[i] : now[0];
+  for (int c = 1; c < chains; ++c) now[0] = now[c] < now[0] ? now[c] : now[0];
+  return now[0];
+}
+
+template <class R>
+__attribute__((force_align_arg_pointer)) void take_variable(int item, int thread, int,
+                                                            void* context) {
+  const Work<R>& work = *static_cast<const Work<R>*>(context);
+  const Task<R>& t = work.task;
+  const int n = work.n, p = work.p, variable = work.variables[item];
+  const R* x = t.observations + (work.rows ? size_t(variable) * n : size_t(variable));
+  const size_t step = work.rows ? 1 : p;
+  const auto copy = [&](R* to, size_t to_step) {
+    if (step == 1 && to_step == 1)
+      memcpy(to, x, size_t(n) * sizeof(R));
+    else
+      for (int i = 0; i < n; ++i) to[i * to_step] = x[i * step];
+  };
+  R* const scratch = work.scratch + size_t(thread) * n;
+  R* const quantiles = work.quantiles ? t.quantiles + size_t(item) * work.count : nullptr;
+  if (work.sorted) {
+    const size_t stride = work.sorted_rows ? 1 : p;
+    R* place = t.orderStatistics + (work.sorted_rows ? size_t(item) * n : size_t(item));
+    copy(place, stride);
+    if (stride == 1)
+      Sort<R>::radix(place, scratch, n);
+    else
+      Sort<R>::strided(n, place, int(stride));
+    const auto value = [&](int k) { return place[k * stride]; };
+    if (quantiles) put_quantiles(work, quantiles, value, value);
+  } else if (quantiles) {
+    copy(scratch, 1);
+    // Behind the element selected nothing is below it: the next rank is the least of those.
+    put_quantiles(
+        work, quantiles, [&](int k) { return Sort<R>::select(n, scratch, k); },
+        [&](int k) { return least(scratch + k, n - k); });
+  }
+}
+
+}  // namespace
+
+template <class R>
+int32_t quantiles(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threader* threader) {
+  if (const int32_t status = check(t, estimates, method)) return status;
+  const int p = t.p(), n = t.n();
+  Work<R> work{t, p, n, 0, t.rows(), false, false, false, nullptr, nullptr};
+  if (estimates & ORK_SS_QUANTILES) {
+    work.count = int(t.integer(t.quantileCount));
+    work.quantiles = true;
+  }
+  if (estimates & ORK_SS_ORDER_STATS) {
+    work.sorted = true;
+    work.sorted_rows = t.integer(t.orderStatisticsStorage) & ORK_SS_ROWS;
+  }
+  if (n < 1) return ORK_SS_OK;
+
+  // Threads that need no more than 10 MB of scratch.
+  const uint64_t fit = 10485760 / (uint64_t(n) * sizeof(R));
+  int threads = threader ? threader->max_threads() : 1;
+  if (threads > p) threads = p;
+  if (uint64_t(threads) > (fit > 1 ? fit : 1)) threads = fit > 1 ? int(fit) : 1;
+  if (threads < 1) threads = 1;
+  const Scratch<R> scratch(uint64_t(threads) * n);
+  if (!scratch) return ORK_SS_NO_MEMORY;
+  const Scratch<int> variables(p);
+  if (!variables) return ORK_SS_NO_MEMORY;
+  int selected = 0;
+  for (int j = 0; j < p; ++j)
+    if (t.selected(j)) variables[selected++] = j;
+  work.scratch = scratch.get();
+  work.variables = variables.get();
+  if (threads > 1)
+    threader->parallel_for(selected, threads, &work, take_variable<R>);
+  else
+    for (int item = 0; item < selected; ++item) take_variable<R>(item, 0, 0, &work);
+  return ORK_SS_OK;
+}
+
+template int32_t quantiles(Task<double>&, uint64_t, uint64_t, const ork_threader*);
+template int32_t quantiles(Task<float>&, uint64_t, uint64_t, const ork_threader*);
+
+ORK_EXPORT int32_t _ruadSSQuantiles(ork_ss_task* task, uint32_t estimates_low,
+                                    uint32_t estimates_high, uint32_t method_low,
+                                    uint32_t method_high, const ork_threader* threader) {
+  return quantiles(record_of<double>(task), join(estimates_low, estimates_high),
+                   join(method_low, method_high), threader);
+}
+ORK_EXPORT int32_t _ruasSSQuantiles(ork_ss_task* task, uint32_t estimates_low,
+                                    uint32_t estimates_high, uint32_t method_low,
+                                    uint32_t method_high, const ork_threader* threader) {
+  return quantiles(record_of<float>(task), join(estimates_low, estimates_high),
+                   join(method_low, method_high), threader);
+}
+
+}  // namespace ork::ss

@@ -1,0 +1,224 @@
+// Sorting and selection: every pattern that partitions and digits could trip over, between
+// inaccessible pages.
+#include <algorithm>
+#include <functional>
+#include <numeric>
+#include <random>
+
+#include "ork/ss_math.h"
+#include "support/bits.hpp"
+#include "support/memory.hpp"
+#include "support/pch.hpp"
+#include "support/special.hpp"
+
+namespace {
+
+template <class R>
+struct Api;
+#define API(t, R, width)                                               \
+  template <>                                                          \
+  struct Api<R> {                                                      \
+    static constexpr auto select = __rua##t##QSortSelect;              \
+    static constexpr auto sort = __rua##t##QSort;                      \
+    static constexpr auto sort_step = __rua##t##QSortStep;             \
+    static constexpr auto map_sort = _v##t##SSQuickMapSort;            \
+    static constexpr auto radix = v8_opxsSortRadixAscend_##width##f_I; \
+  };
+API(d, double, 64)
+API(s, float, 32)
+
+std::mt19937 generator(7);
+template <class R>
+struct Pattern {
+  const char* name;
+  std::function<R(int i, int n)> value;
+};
+template <class R>
+const std::vector<Pattern<R>>& patterns() {
+  static std::normal_distribution<R> gauss;
+  static const R edges[] = {R(0),
+                            R(-0.0),
+                            R(1),
+                            R(-1),
+                            inf<R>,
+                            -inf<R>,
+                            largest<R>,
+                            -largest<R>,
+                            smallest_denormal<R>,
+                            -smallest_denormal<R>,
+                            smallest_normal<R>};
+  static const std::vector<Pattern<R>> all = {
+      {"random", [](int, int) { return gauss(generator); }},
+      {"sorted", [](int i, int) { return R(i); }},
+      {"reversed", [](int i, int) { return R(-i); }},
+      {"constant", [](int, int) { return R(2.5); }},
+      {"two values", [](int, int) { return R(generator() % 2); }},
+      {"few values", [](int, int) { return R(generator() % 5) - 2; }},
+      {"organ pipe", [](int i, int n) { return R(std::min(i, n - i)); }},
+      {"saw", [](int i, int) { return R(i % 17); }},
+      {"scales",
+       [](int, int) { return std::ldexp(gauss(generator), int(generator() % 200) - 100); }},
+      {"edges", [](int, int) { return edges[generator() % std::size(edges)]; }},
+  };
+  return all;
+}
+const int sizes[] = {1,  2,  3,   4,   5,   6,   7,   8,   9,    15,  16,
+                     31, 64, 127, 130, 131, 132, 200, 257, 1000, 5003};
+
+template <class R>
+using Values = std::vector<R>;
+// By bits, so that zeros and NaNs are told apart.
+template <class R>
+Values<uint64_t> images(const Values<R>& v) {
+  Values<uint64_t> out(v.size());
+  std::transform(v.begin(), v.end(), out.begin(), [](R x) { return uint64_t(bits(x)); });
+  std::sort(out.begin(), out.end());
+  return out;
+}
+
+template <class R>
+struct Sorting : ::testing::Test {
+  GuardedPages pages{5003 * sizeof(R)}, more{5003 * sizeof(R)};
+  // Runs f over arrays that end at one guard page, then over ones that begin at the other.
+  template <class F>
+  void each(F f) {
+    for (const auto& pattern : patterns<R>())
+      for (const int n : sizes) {
+        SCOPED_TRACE(std::string(pattern.name) + ", n = " + std::to_string(n));
+        Values<R> v(n);
+        for (int i = 0; i < n; ++i) v[i] = pattern.value(i, n);
+        for (R* a : {pages.at_end<R>(n), pages.at_start<R>()}) {
+          std::copy(v.begin(), v.end(), a);
+          f(v, a, n);
+        }
+      }
+  }
+};
+typedef ::testing::Types<double, float> RealTypes;
+TYPED_TEST_SUITE(Sorting, RealTypes);
+
+TYPED_TEST(Sorting, QuicksortGivesTheSameValuesInOrder) {
+  typedef TypeParam R;
+  this->each([](const Values<R>& v, R* a, int n) {
+    Api<R>::sort(n, a);
+    const Values<R> got(a, a + n);
+    EXPECT_TRUE(std::is_sorted(got.begin(), got.end()));
+    EXPECT_EQ(images(got), images(v));
+  });
+}
+
+TYPED_TEST(Sorting, RadixSortOrdersZerosByTheirSign) {
+  typedef TypeParam R;
+  this->each([&](const Values<R>& v, R* a, int n) {
+    R* const scratch = this->more.template at_end<R>(n);
+    ASSERT_EQ(Api<R>::radix(a, scratch, n), 0);
+    Values<R> want = v;
+    std::sort(want.begin(), want.end(),
+              [](R x, R y) { return x < y || (x == y && std::signbit(x) && !std::signbit(y)); });
+    EXPECT_EQ(memcmp(a, want.data(), n * sizeof(R)), 0);
+  });
+  R a[2] = {2, 1}, b[2];
+  EXPECT_EQ(Api<R>::radix(nullptr, b, 2), -8);
+  EXPECT_EQ(Api<R>::radix(a, nullptr, 0), -8);
+  EXPECT_EQ(Api<R>::radix(a, b, 0), -6);
+  EXPECT_EQ(Api<R>::radix(a, b, -1), -6);
+  EXPECT_EQ(a[0], 2);
+}
+
+TYPED_TEST(Sorting, StridedSortLeavesWhatLiesBetween) {
+  typedef TypeParam R;
+  for (const int stride : {1, 2, 5})
+    for (const auto& pattern : patterns<R>())
+      for (const int n : {1, 2, 7, 8, 40, 400}) {
+        SCOPED_TRACE(std::string(pattern.name) + ", n = " + std::to_string(n));
+        const int length = (n - 1) * stride + 1;
+        R* const a = this->pages.template at_end<R>(length);
+        Values<R> v(n), got(n);
+        for (int i = 0; i < length; ++i) a[i] = R(-1234 - i);
+        for (int i = 0; i < n; ++i) a[i * stride] = v[i] = pattern.value(i, n);
+        Api<R>::sort_step(n, a, stride);
+        for (int i = 0; i < length; ++i)
+          if (i % stride != 0) {
+            ASSERT_EQ(a[i], R(-1234 - i));
+          }
+        for (int i = 0; i < n; ++i) got[i] = a[i * stride];
+        EXPECT_TRUE(std::is_sorted(got.begin(), got.end()));
+        EXPECT_EQ(images(got), images(v));
+      }
+}
+
+TYPED_TEST(Sorting, MapSortKeepsEachValueWithItsKey) {
+  typedef TypeParam R;
+  this->each([&](const Values<R>& v, R* keys, int n) {
+    R* const values = this->more.template at_start<R>();
+    std::iota(values, values + n, R(0));
+    Api<R>::map_sort(n, keys, values);
+    EXPECT_TRUE(std::is_sorted(keys, keys + n));
+    std::vector<bool> seen(n);
+    for (int i = 0; i < n; ++i) {
+      const int from = int(values[i]);
+      ASSERT_EQ(bits(v[from]), bits(keys[i]));
+      ASSERT_FALSE(seen[from]);
+      seen[from] = true;
+    }
+  });
+}
+
+TYPED_TEST(Sorting, SelectionSplitsAtTheAnswer) {
+  typedef TypeParam R;
+  this->each([](const Values<R>& v, R* a, int n) {
+    Values<R> sorted = v;
+    std::sort(sorted.begin(), sorted.end());
+    const int step = n <= 16 ? 1 : n / 7;
+    for (int k = 0; k < n; k += step) {
+      // Repeated on what the last selection left, as the two neighbours of a quantile are.
+      const R got = Api<R>::select(n, a, k);
+      ASSERT_EQ(got, sorted[k]) << k;
+      ASSERT_EQ(bits(got), bits(a[k]));
+      ASSERT_LE(*std::max_element(a, a + k + 1), got);
+      ASSERT_GE(*std::min_element(a + k, a + n), got);
+    }
+    EXPECT_EQ(images(Values<R>(a, a + n)), images(v));
+  });
+}
+
+TYPED_TEST(Sorting, NaNsLoseNoValueAndLeaveNoArray) {
+  typedef TypeParam R;
+  for (const int one_in : {1, 2, 10})
+    for (const int n : {2, 3, 8, 100, 300, 3000}) {
+      Values<R> v(n);
+      for (auto& x : v) x = generator() % one_in == 0 ? quiet_nan<R> : R(generator() % 100);
+      for (R* a : {this->pages.template at_end<R>(n), this->pages.template at_start<R>()}) {
+        std::copy(v.begin(), v.end(), a);
+        Api<R>::select(n, a, n / 2);
+        EXPECT_EQ(images(Values<R>(a, a + n)), images(v));
+        std::copy(v.begin(), v.end(), a);
+        Api<R>::sort(n, a);
+        EXPECT_EQ(images(Values<R>(a, a + n)), images(v));
+      }
+    }
+}
+
+TEST(Blocks, CopyAndClearTouchWhatTheyAreGiven) {
+  for (const int n : {-1, 0, 1, 3, 100}) {
+    float from[102], to[102];
+    int32_t words[102];
+    uint8_t source[102], bytes[102], cleared[102];
+    for (int i = 0; i < 102; ++i) from[i] = float(i), to[i] = words[i] = -1, source[i] = uint8_t(i);
+    memset(bytes, 0xEE, sizeof bytes);
+    memset(cleared, 0xEE, sizeof cleared);
+    v8_opxsCopy_32f(from + 1, to + 1, n);
+    v8_opxsZero_32s(words + 1, n);
+    v8_ownsCopy_8u(source + 1, bytes + 1, n);
+    v8_ownsZero_8u(cleared + 1, n);
+    for (int i = 0; i < 102; ++i) {
+      const bool inside = i >= 1 && i <= n;
+      EXPECT_EQ(to[i], inside ? float(i) : -1);
+      EXPECT_EQ(words[i], inside ? 0 : -1);
+      EXPECT_EQ(bytes[i], inside ? i : 0xEE);
+      EXPECT_EQ(cleared[i], inside ? 0 : 0xEE);
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+#pragma once
+// Erfc: erfc(|x|) = exp(-x^2) g_i(t), t = |x| - x_i, x_i the left end of a quarter of a binade
+// (row 0: all below 0.25), g polynomials near exp(x^2) erfc(x). x < 0 gives 2 - erfc(|x|).
+// -x^2 = N ln 2/128 + r, exp(-x^2) = 2^k T_j exp(r), N = 128 k + j.
+// Rare: from where erfc is below the normal range (all of these report it), and NaN.
+#include "erfinv/inverse.hpp"
+
+namespace ork {
+
+struct ErfcPower {
+  double high, low;
+};
+alignas(16) inline constexpr ErfcPower erfc_powers[128] = {
+#include "erfc/powers.inc"
+};
+
+// x^2 = x_hi^2 + rest; exp(-x^2) = scale (T + T_low) exp(r), the scale being 2^k times 2^`bias`.
+struct ErfcExp {
+  f64x2 r, t, t_low, scale;
+};
+template <int bias>
+ORK_INLINE ErfcExp erfc_exp(f64x2 x_hi, f64x2 rest) {
+  const f64x2 square = x_hi * x_hi;  // exact
+  const f64x2 shifted = square * -184.66496523378731 + 6755399441055744.0;
+  const f64x2 n = shifted - 6755399441055744.0;
+  ErfcExp e;
+  e.r = (((0.0 - square) - n * 0.0054152123630046844) - rest) - n * -1.4880111718420063e-11;
+  const u32x4 image = as<u32x4>(shifted);
+  e.scale = as<f64x2>((as<u64x2>(image & u32x4{0xFFFFFF80, 0, 0xFFFFFF80, 0}) << 45) +
+                      splat_u64((uint64_t)(1023 + bias) << 52));
+  const u32x4 row = image & 127;
+  gather_pairs(&erfc_powers[word<0>(row)].high, &erfc_powers[word<4>(row)].high, e.t, e.t_low);
+  return e;
+}
+
+// Row and t of |x|.
+template <int last, int columns>
+ORK_INLINE f64x2 erfc_row(const double (*table)[columns], f64x2 ax, const double*& p0,
+                          const double*& p1) {
+  const __m128i row = _mm_min_epi16(
+      _mm_max_epi16(_mm_sub_epi16(as<__m128i>(as<u64x2>(ax) >> 50), _mm_set1_epi16(0xFF3)),
+                    _mm_setzero_si128()),
+      _mm_set1_epi16(last));
+  p0 = table[word<0>(row)];
+  p1 = table[word<4>(row)];
+  const u64x2 beyond = (u64x2)(ax >= 0.25);
+  return ax - and_bits(ax, beyond & splat_u64(0x7FFC000000000000));
+}
+
+ORK_INLINE u64x2 sign_of(f64x2 x) { return as<u64x2>(x) & sign_f64x2; }
+// B of the last sum: `two` where x has a sign, else 0.
+ORK_INLINE f64x2 erfc_base(f64x2 x, double two) {
+  return and_bits(splat(two), (u64x2)((i32x4)high_words(x) >> 31));
+}
+
+// One rare element: eval is the vector formula, which serves up to `reach`.
+template <class T>
+inline int erfc_special(const T* a, T* r, T reach, T underflow, T (*value)(T)) {
+  const T x = *a, size = x < 0 ? -x : x;
+  if (x != x) {
+    *r = x + x;
+    return 0;
+  }
+  *r = size < reach ? value(x) : x < 0 ? T(2) : T(0);
+  return x > underflow && x <= (sizeof(T) == 8 ? T(__DBL_MAX__) : T(__FLT_MAX__))
+             ? ZEM_STATUS_UNDERFLOW
+             : ZEM_STATUS_NONE;
+}
+
+template <class Formula>
+struct ErfcD : Core<double> {
+  static constexpr char name[] = "vdErfc";
+  static f64x2 eval(f64x2 x, u32x4& rare) {
+    rare |= outside(as<u32x4>(abs(x)), 0, 0x403A8B12);
+    return Formula::value(x);
+  }
+  static int special(const double* x, double* r) {
+    return erfc_special<double>(x, r, 27.226017111108366, 26.543258454250978,
+                                [](double y) { return Formula::value(splat(y))[0]; });
+  }
+};
+
+template <class Formula>
+struct ErfcS : Core<float> {
+  static constexpr char name[] = "vsErfc";
+  static constexpr int vectors = 1;
+  static f32x4 value(f32x4 x) {
+    const f32x4 low = _mm_cvtpd_ps(Formula::value(_mm_cvtps_pd(x)));
+    const f32x4 high = _mm_cvtpd_ps(Formula::value(_mm_cvtps_pd(_mm_movehl_ps(x, x))));
+    return _mm_movelh_ps(low, high);
+  }
+  static f32x4 eval(f32x4 x, u32x4& rare) {
+    rare |= outside(as<u32x4>(abs(x)), 0, 0x41131CE0);
+    return value(x);
+  }
+  static int special(const float* x, float* r) {
+    // The float after 0x4120DDFC, and the one before 0x41131CE0.
+    return erfc_special<float>(x, r, as<float>(0x4120DDFDu), as<float>(0x41131CDFu),
+                               [](float y) { return value(splat(y))[0]; });
+  }
+};
+
+// Single, in double: x^2 is exact, T needs no low part.
+template <class Level>
+struct ErfcFormulaS {
+  static f64x2 value(f64x2 x) {
+    const f64x2 ax = _mm_min_pd(abs(x), splat(20.0));
+    const double *p0, *p1;
+    const f64x2 t = erfc_row<22, Level::columns>(Level::table, ax, p0, p1);
+    const ErfcExp e = erfc_exp<0>(ax, f64x2{});
+    const f64x2 p = 1.0 + e.r * Level::series(e.r);
+    const f64x2 v = (e.scale * (e.t + e.t_low)) * (p * row_polynomial<Level::columns>(p0, p1, t));
+    return erfc_base(x, 2.0) + xor_bits(v, sign_of(x));
+  }
+};
+
+}  // namespace ork

@@ -1,0 +1,34 @@
+// Erfc, double, LA (EP, too): low parts of -x^2, of T and of the last addition in g.
+#include "erfc/erfc.hpp"
+
+namespace ork {
+namespace {
+
+alignas(16) constexpr double table[][16] = {
+#include "erfc/rows_d_la.inc"
+};
+
+struct FormulaLa {
+  static f64x2 value(f64x2 x) {
+    const f64x2 ax = abs(x), x_hi = and_bits(ax, splat_u64(0x7FFFFFFFF8000000));
+    const double *p0, *p1;
+    const f64x2 t = erfc_row<27, 16>(table, ax, p0, p1);
+    const ErfcExp e = erfc_exp<154>(x_hi, (ax - x_hi) * (ax + x_hi));
+    const f64x2 p = e.r * horner(e.r, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664,
+                                 0.0083333333333333332);
+    f64x2 c0, c1;
+    gather_pairs(p0, p1, c0, c1);
+    const f64x2 slope = t * (c1 + t * row_polynomial<12>(p0 + 2, p1 + 2, t));
+    const f64x2 g = c0 + slope, lost = (c0 - g) + slope, tg = e.t * g;
+    const f64x2 tail = e.t * lost + (e.t_low * g + ((e.t + e.t_low) * g) * p);
+    const f64x2 v = ((tg + tail) * e.scale) * 4.3790577010150533e-47;
+    return erfc_base(x, 2.0) + xor_bits(v, sign_of(x));
+  }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_dErfc_W7LAynn(int n, const double* a, double* r) {
+  ork::block<ork::ErfcD<ork::FormulaLa>>(n, {{a}, {r}});
+}

@@ -1,0 +1,22 @@
+// Erfc, single, EP: in double, g of degree 3.
+#include "erfc/erfc.hpp"
+
+namespace ork {
+namespace {
+
+alignas(16) constexpr double rows[][4] = {
+#include "erfc/rows_s_ep.inc"
+};
+
+struct Parts {
+  static constexpr int columns = 4;
+  static constexpr const double (*table)[4] = rows;
+  static f64x2 series(f64x2 r) { return (1.0 + r * 0.5); }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sErfc_W7EPnnn(int n, const float* a, float* r) {
+  ork::block<ork::ErfcS<ork::ErfcFormulaS<ork::Parts>>>(n, {{a}, {r}});
+}

@@ -1,0 +1,11 @@
+#pragma once
+// Gamma(x) of one element; writes *r and returns the status. Any rounding mode; the x87 control
+// word is as before on return.
+#include "frame/element.hpp"
+
+namespace ork {
+
+int vdtgamma_cout_rare(const double* a, double* r);
+int vstgamma_cout_rare(const float* a, float* r);
+
+}  // namespace ork
