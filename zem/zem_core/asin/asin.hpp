@@ -86,12 +86,12 @@ template <class T, bool ep> struct AsinShort {
   using ivec = typename simd<T>::ivec;
   vec v, rest;
   vec add(vec base, vec base_low, ivec sign) const {
-    const vec sum = base + xor_bits(v, sign), low = xor_bits(rest, sign);
+    const vec head = xor_bits(v, sign), low = xor_bits(rest, sign);
     // In double the angle's low word is half an ulp of the results below 1.
     if constexpr (sizeof(T) == 8 && !ep)
-      return base + (xor_bits(v, sign) + (low + base_low));
+      return base + (head + (low + base_low));
     else
-      return sum + low;
+      return (base + head) + low;
   }
 };
 template <class T> struct AsinLong {
