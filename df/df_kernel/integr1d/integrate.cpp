@@ -1,10 +1,10 @@
 // The integration entry: checks the request, and serves blocks of 128 pairs over threads.
 #include "integr1d/integration.hpp"
+#include "service/blocks.hpp"
 
 namespace df {
 namespace {
 
-constexpr int task_blocks = 5;  // blocks of a task of the first level
 constexpr int values_on_stack = 2048;
 
 // One of the two arrays of limits.
@@ -71,64 +71,36 @@ int integrate_block(const Integration<T>& job, int first, int n, int32_t (&state
   return ORK_DF_OK;
 }
 
+// Each task starts the sorted search anew, so that results do not depend on threads.
 template <class T>
-struct Launch {
+struct IntegrateTask {
   const Integration<T>& job;
-  int first, blocks;  // first pair of the level, blocks of each task
-  T* values;          // a slice for each thread
+  T* values;  // a slice for each thread
   size_t slice;
-  int status;
 
-  int run(int item, int thread) const {
+  int run(int first, int blocks, int thread) const {
     int32_t state[2] = {0, 0};
-    const int start = first + item * blocks * pair_block;
     for (int b = 0; b < blocks; ++b) {
-      const int code = integrate_block(job, start + b * pair_block, pair_block, state,
+      const int code = integrate_block(job, first + b * pair_block, pair_block, state,
                                        values + static_cast<size_t>(thread) * slice);
       if (code < 0) return code;
     }
     return ORK_DF_OK;
   }
-  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
-                                                            void* context) {
-    auto& launch = *static_cast<Launch*>(context);
-    const int code = launch.run(item, thread);
-    if (code < 0) __atomic_store_n(&launch.status, code, __ATOMIC_RELAXED);
-  }
+  int run_in_team(int first, int blocks, int thread) const { return run(first, blocks, thread); }
 };
 
 template <class T>
 int integrate_blocks(const Integration<T>& job, const ork_threader* threader) {
-  const int count[2] = {job.nlim / (task_blocks * pair_block),
-                        job.nlim % (task_blocks * pair_block) / pair_block};
-  const int widest = count[0] > count[1] ? count[0] : count[1];
-  const int limit = widest > 0 ? thread_limit(threader) : 1;
-  const int threads = limit < widest ? limit : widest > 0 ? widest : 1;
-  Launch<T> launch = {job, 0, task_blocks, nullptr, 0, ORK_DF_OK};
-  uint64_t needed = 0;
-  if (job.parts.any()) {
-    launch.slice = static_cast<size_t>(pair_block) * job.fit.ny;
-    needed = uint64_t{pair_block} * job.fit.ny * threads;
-  }
+  const BlockPlan plan(job.nlim, pair_block, job.nlim < pair_block ? 1 : thread_limit(threader));
+  const uint64_t slice = job.parts.any() ? uint64_t{pair_block} * job.fit.ny : 0;
+  const uint64_t needed = slice * plan.threads;
   const auto run = [&](T* values) -> int {
-    launch.values = values;
-    for (int level = 0; level < 2; ++level) {
-      if (limit > 1 && count[level] > 0) {
-        const int used = threads < count[level] ? threads : count[level];
-        threader->parallel_for(count[level], used, &launch, Launch<T>::body);
-        if (launch.status < 0) return launch.status;
-      } else {
-        for (int item = 0; item < count[level]; ++item) {
-          const int code = launch.run(item, 0);
-          if (code < 0) return code;
-        }
-      }
-      launch.first += count[level] * launch.blocks * pair_block;
-      launch.blocks = 1;
-    }
-    const int rest = job.nlim - launch.first;
+    const int status =
+        serve_blocks(plan, threader, IntegrateTask<T>{job, values, static_cast<size_t>(slice)});
+    const int first = plan.served(), rest = job.nlim - first;
     int32_t state[2] = {0, 0};
-    return rest > 0 ? integrate_block(job, launch.first, rest, state, values) : ORK_DF_OK;
+    return status < 0 || rest == 0 ? status : integrate_block(job, first, rest, state, values);
   };
   if (needed <= values_on_stack) {
     T values[values_on_stack];

@@ -4,6 +4,8 @@
 
 #include <string.h>
 
+#include "service/blocks.hpp"
+
 namespace df {
 
 template <class T>
@@ -41,37 +43,32 @@ int interpolate_block(const Interpolation<T>& job, int first, int n, int32_t& st
 
 namespace {
 
-constexpr int task_blocks = 5;  // blocks of a task of the first level
 constexpr int least_for_threads = 513;
 constexpr int least_for_blocks = 32;
 constexpr int values_in_block = 2048;
 constexpr size_t block_bytes = 18256;
 
 template <class T>
-struct Launch {
+struct InterpolateTask {
   const Interpolation<T>& job;
-  int first, blocks;  // first site of the level, blocks of each task
-  T* values;          // a slice for each thread
+  BlockWork<T>& work;  // the calling thread's; a team's threads bring their own
+  T* values;           // a slice for each thread
   size_t slice;
-  int status;
 
   // Each task starts the sorted search anew, so that results do not depend on threads.
-  int run(int item, int thread, BlockWork<T>& work) const {
+  int serve(int first, int blocks, int thread, BlockWork<T>& own) const {
     int32_t state = 0;
-    const int start = first + item * blocks * block;
     for (int b = 0; b < blocks; ++b) {
-      const int code = interpolate_block(job, start + b * block, block, state, work,
+      const int code = interpolate_block(job, first + b * block, block, state, own,
                                          values + static_cast<size_t>(thread) * slice);
       if (code < 0) return code;
     }
     return ORK_DF_OK;
   }
-  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
-                                                            void* context) {
-    auto& launch = *static_cast<Launch*>(context);
-    BlockWork<T> work;
-    const int code = launch.run(item, thread, work);
-    if (code < 0) __atomic_store_n(&launch.status, code, __ATOMIC_RELAXED);
+  int run(int first, int blocks, int thread) const { return serve(first, blocks, thread, work); }
+  int run_in_team(int first, int blocks, int thread) const {
+    BlockWork<T> own;
+    return serve(first, blocks, thread, own);
   }
 };
 
@@ -87,39 +84,18 @@ int interpolate_blocks(const Interpolation<T>& job, const ork_threader* threader
   if (!room_block) return ORK_DF_NO_MEMORY;
   Room& room = *reinterpret_cast<Room*>(room_block.get());
 
-  const int limit = job.nsite >= least_for_threads ? thread_limit(threader) : 1;
-  const int count[2] = {job.nsite / (task_blocks * block),
-                        job.nsite % (task_blocks * block) / block};
-  const int widest = count[0] > count[1] ? count[0] : count[1];
-  const int threads = limit < widest ? limit : widest > 0 ? widest : 1;
-
-  Launch<T> launch = {job, 0, task_blocks, room.values, 0, ORK_DF_OK};
-  uint64_t needed = 0;
-  if (job.has_callbacks()) {
-    const uint64_t slice = uint64_t{block} * job.fit.ny * job.request.count;
-    launch.slice = static_cast<size_t>(slice);
-    needed = slice * threads;
-  }
+  const BlockPlan plan(job.nsite, block,
+                       job.nsite >= least_for_threads ? thread_limit(threader) : 1);
+  const uint64_t slice =
+      job.has_callbacks() ? uint64_t{block} * job.fit.ny * job.request.count : 0;
+  const uint64_t needed = slice * plan.threads;
   const auto run = [&](T* values) -> int {
-    launch.values = values;
-    for (int level = 0; level < 2; ++level) {
-      if (limit > 1 && count[level] > 0) {
-        const int used = threads < count[level] ? threads : count[level];
-        threader->parallel_for(count[level], used, &launch, Launch<T>::body);
-        if (launch.status < 0) return launch.status;
-      } else {
-        for (int item = 0; item < count[level]; ++item) {
-          const int code = launch.run(item, 0, room.work);
-          if (code < 0) return code;
-        }
-      }
-      launch.first += count[level] * launch.blocks * block;
-      launch.blocks = 1;
-    }
-    const int rest = job.nsite - launch.first;
+    const int status = serve_blocks(
+        plan, threader, InterpolateTask<T>{job, room.work, values, static_cast<size_t>(slice)});
+    const int first = plan.served(), rest = job.nsite - first;
     int32_t state = 0;
-    return rest > 0 ? interpolate_block(job, launch.first, rest, state, room.work, values)
-                    : ORK_DF_OK;
+    return status < 0 || rest == 0 ? status
+                                   : interpolate_block(job, first, rest, state, room.work, values);
   };
   if (needed <= values_in_block) return run(room.values);
   Scratch<T> slices(needed);
