@@ -37,7 +37,7 @@ ORK_INLINE void arith(int n, const T* a, const T* b, T* r, const T* lead) {
   const int peel = peel_count(lead);
   int i = 0;
   const auto scalar_loop = [&](int end) {
-    for (; i < end; ++i) r[i] = Op::eval(a[i], b[i]);
+    for (; i < end; ++i) write_one(r + i, Op::eval(read_one(a + i), read_one(b + i)));
   };
   if (peel >= 0 && n >= peel + block) {
     scalar_loop(peel);

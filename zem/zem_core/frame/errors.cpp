@@ -5,9 +5,12 @@
 
 #include "frame/export.hpp"
 #include "frame/mode.hpp"
+#include "frame/vec.hpp"
 #include "ork/serv.h"
 
+using ork::read_one;
 using ork::thread_state;
+using ork::write_one;
 
 namespace {
 
@@ -115,15 +118,15 @@ void dispatch(int status, int index, const T* a, const T* b, T* r, T* r2, const 
       status != ZEM_STATUS_BAD_ARGUMENT && status != ZEM_STATUS_BAD_ACCESS;
   const int i = index * parts;
   if (has_element) {
-    e.a1 = a[i];
-    e.a2 = b[i];
-    e.r1 = r[i];
-    e.r2 = r2[i];
+    e.a1 = read_one(a + i);
+    e.a2 = read_one(b + i);
+    e.r1 = read_one(r + i);
+    e.r2 = read_one(r2 + i);
     if constexpr (parts == 2) {
-      e.a1_im = a[i + 1];
-      e.a2_im = b[i + 1];
-      e.r1_im = r[i + 1];
-      e.r2_im = r2[i + 1];
+      e.a1_im = read_one(a + i + 1);
+      e.a2_im = read_one(b + i + 1);
+      e.r1_im = read_one(r + i + 1);
+      e.r2_im = read_one(r2 + i + 1);
     }
   }
 
@@ -135,10 +138,10 @@ void dispatch(int status, int index, const T* a, const T* b, T* r, T* r2, const 
 
   if (has_element) {
     // The first result last: it stands where both are one array.
-    r2[i] = (T)e.r2;
-    if constexpr (parts == 2) r2[i + 1] = (T)e.r2_im;
-    r[i] = (T)e.r1;
-    if constexpr (parts == 2) r[i + 1] = (T)e.r1_im;
+    write_one(r2 + i, (T)e.r2);
+    if constexpr (parts == 2) write_one(r2 + i + 1, (T)e.r2_im);
+    write_one(r + i, (T)e.r1);
+    if constexpr (parts == 2) write_one(r + i + 1, (T)e.r1_im);
   }
 }
 

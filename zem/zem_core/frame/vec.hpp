@@ -42,6 +42,14 @@ ORK_INLINE f32x4 splat(float x) { return f32x4{x, x, x, x}; }
 ORK_INLINE u32x4 splat_u32(uint32_t x) { return u32x4{x, x, x, x}; }
 ORK_INLINE u64x2 splat_u64(uint64_t x) { return u64x2{x, x}; }
 
+// One element; arrays may stand at any address.
+template <class T> ORK_INLINE T read_one(const T* p) {
+  T x;
+  __builtin_memcpy(&x, p, sizeof x);
+  return x;
+}
+template <class T> ORK_INLINE void write_one(T* p, T x) { __builtin_memcpy(p, &x, sizeof x); }
+
 ORK_INLINE f64x2 load(const double* p) { return _mm_loadu_pd(p); }
 ORK_INLINE f32x4 load(const float* p) { return _mm_loadu_ps(p); }
 ORK_INLINE void store(double* p, f64x2 x) { _mm_storeu_pd(p, x); }
@@ -53,11 +61,11 @@ ORK_INLINE void store_aligned(float* p, f32x4 x) { _mm_store_ps(p, x); }
 
 // The first `count` lanes (below the width) from memory, the others a repetition of the
 // first; nothing is read beyond them.
-ORK_INLINE f64x2 load_part(const double* p, int) { return _mm_loaddup_pd(p); }
+ORK_INLINE f64x2 load_part(const double* p, int) { return splat(read_one(p)); }
 ORK_INLINE f32x4 load_part(const float* p, int count) {
-  f32x4 x = _mm_load1_ps(p);
-  if (count > 1) x[1] = p[1];
-  if (count > 2) x[2] = p[2];
+  f32x4 x = splat(read_one(p));
+  if (count > 1) x[1] = read_one(p + 1);
+  if (count > 2) x[2] = read_one(p + 2);
   return x;
 }
 
