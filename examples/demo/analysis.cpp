@@ -1,16 +1,9 @@
 #include "analysis.hpp"
 
 #include "fail.hpp"
-#include "ork/ss.h"
-#include "ork/zem_kernels.h"
+#include "ork/front.h"
 
 namespace demo {
-namespace {
-
-uint32_t low(uint64_t mask) { return uint32_t(mask); }
-uint32_t high(uint64_t mask) { return uint32_t(mask >> 32); }
-
-}  // namespace
 
 Analysis analyse(const Quarters& quarters) {
   const int32_t p = int32_t(quarters.series.size()), n = int32_t(quarters.series[0].values.size());
@@ -30,24 +23,24 @@ Analysis analyse(const Quarters& quarters) {
   a.sorted.resize(x.size());
 
   ork_ss_task* task = nullptr;
-  require(__ruadSSNewTask(&task, &p, &n, &rows, x.data(), nullptr, nullptr, 0), "a statistics task");
-  __ruadSSEditMoments(task, mean.data(), raw[0].data(), raw[1].data(), raw[2].data(), central[0].data(),
-                      central[1].data(), central[2].data());
+  require(__ruadSSNewTask(&task, &p, &n, &rows, x.data(), nullptr, nullptr, 0),
+          "a statistics task");
+  __ruadSSEditMoments(task, mean.data(), raw[0].data(), raw[1].data(), raw[2].data(),
+                      central[0].data(), central[1].data(), central[2].data());
   __ruadSSEditTask(task, ORK_SS_EDIT_KURTOSIS, kurtosis.data());
   __ruadSSEditTask(task, ORK_SS_EDIT_SKEWNESS, skewness.data());
   __ruadSSEditCovCor(task, nullptr, nullptr, nullptr, a.correlation.data(), &full);
   __ruadSSEditQuantiles(task, &orders, quantile_orders, a.quantiles.data(), a.sorted.data(), &rows);
 
-  constexpr uint64_t basic =
+  constexpr uint64_t moments =
       ORK_SS_MEAN | ORK_SS_CENTRAL2 | ORK_SS_KURTOSIS | ORK_SS_SKEWNESS | ORK_SS_COR;
   constexpr uint64_t places = ORK_SS_QUANTILES | ORK_SS_ORDER_STATS;
-  require(_ruadSSBasic(task, low(basic), high(basic), low(ORK_SS_ONE_PASS), 0, &ork_threader_parallel),
+  require(ork_ss_compute(task, moments, ORK_SS_ONE_PASS, &ork_threader_parallel),
           "computing moments");
-  require(_ruadSSQuantiles(task, low(places), high(places), low(ORK_SS_FAST), 0, &ork_threader_parallel),
-          "computing quantiles");
+  require(ork_ss_compute(task, places, ORK_SS_FAST, &ork_threader_parallel), "computing quantiles");
   __ruaSSDeleteTask(&task);
 
-  _zemdSqrt(p, central[0].data(), deviation.data());
+  ork_dSqrt(p, central[0].data(), deviation.data());
   for (size_t i = 0; i < P; ++i) {
     const double* q = a.quantiles_of(i);
     if (q[0] == q[quantile_count - 1])
@@ -55,7 +48,8 @@ Analysis analyse(const Quarters& quarters) {
     a.moments.push_back({mean[i], deviation[i], skewness[i], kurtosis[i]});
     a.correlation[i * P + i] = 1;  // the task leaves the variances there
   }
-  a.slope = a.cor(gdp_growth, unemployment_change) * deviation[unemployment_change] / deviation[gdp_growth];
+  a.slope = a.cor(gdp_growth, unemployment_change) * deviation[unemployment_change] /
+            deviation[gdp_growth];
   a.intercept = mean[unemployment_change] - a.slope * mean[gdp_growth];
   return a;
 }

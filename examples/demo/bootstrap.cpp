@@ -6,9 +6,7 @@
 #include <cstring>
 
 #include "fail.hpp"
-#include "ork/rua_distributions.h"
-#include "ork/ss.h"
-#include "ork/zem_kernels.h"
+#include "ork/front.h"
 
 namespace demo {
 namespace {
@@ -19,14 +17,14 @@ constexpr uint32_t seed = 1959;
 
 RuaStream* new_stream() {
   RuaStream* stream = nullptr;
-  require(__ruaNewStreamEx(&stream, RUA_BRNG_MCG59, 1, &seed), "a stream");
+  require(ork_stream_new(&stream, RUA_BRNG_MCG59, seed), "a stream");
   return stream;
 }
 
 // Worker `w` gets elements w, w + workers, w + 2 workers... of the sequence.
 RuaStream* new_leapfrog_stream(int w) {
   RuaStream* stream = new_stream();
-  require(__ruaLeapfrogStream(stream, w, workers), "leapfrog");
+  require(ork_stream_leapfrog(stream, w, workers), "leapfrog");
   return stream;
 }
 
@@ -50,30 +48,33 @@ void open(Worker& worker, int number, int32_t n) {
   worker.n = n;
   worker.uniform.resize(size_t(n)), worker.twin_uniform.resize(size_t(n));
   worker.sample.resize(size_t(2 * n)), worker.index.resize(size_t(n));
-  require(__ruadSSNewTask(&worker.task, &p, &worker.n, &rows, worker.sample.data(), nullptr, nullptr, 0),
+  require(__ruadSSNewTask(&worker.task, &p, &worker.n, &rows, worker.sample.data(), nullptr,
+                          nullptr, 0),
           "a statistics task");
   __ruadSSEditCovCor(worker.task, worker.mean, nullptr, nullptr, worker.correlation, &full);
 }
 
 void close(Worker& worker) {
   __ruaSSDeleteTask(&worker.task);
-  __ruaDeleteStream(&worker.twin);
-  __ruaDeleteStream(&worker.stream);
+  ork_stream_delete(&worker.twin);
+  ork_stream_delete(&worker.stream);
 }
 
 // Draws n quarters with replacement, and returns the correlation of the two variables in them.
 double replicate(Worker& w, const double* growth, const double* change) {
   const int32_t n = w.n;
-  w.status |= _ruadRngUniform(0, w.stream, n, w.uniform.data(), 0, n);
+  w.status |= ork_dRngUniform(0, w.stream, n, w.uniform.data(), 0, n);
   if (w.twin) {
-    w.status |= _ruadRngUniform(0, w.twin, n, w.twin_uniform.data(), 0, n);
-    w.differs |= std::memcmp(w.uniform.data(), w.twin_uniform.data(), size_t(n) * sizeof(double)) != 0;
+    w.status |= ork_dRngUniform(0, w.twin, n, w.twin_uniform.data(), 0, n);
+    w.differs |=
+        std::memcmp(w.uniform.data(), w.twin_uniform.data(), size_t(n) * sizeof(double)) != 0;
     w.compared += n;
   }
-  for (int32_t i = 0; i < n; ++i) w.index[size_t(i)] = std::min(int32_t(w.uniform[size_t(i)]), n - 1);
-  _zemdPackV(n, 0, growth, w.index.data(), w.sample.data(), 1);
-  _zemdPackV(n, 0, change, w.index.data(), w.sample.data() + n, 1);
-  w.status |= _ruadSSBasic(w.task, uint32_t(ORK_SS_COR), 0, uint32_t(ORK_SS_ONE_PASS), 0, &ork_threader_serial);
+  for (int32_t i = 0; i < n; ++i)
+    w.index[size_t(i)] = std::min(int32_t(w.uniform[size_t(i)]), n - 1);
+  ork_dPackV(n, growth, w.index.data(), w.sample.data());
+  ork_dPackV(n, change, w.index.data(), w.sample.data() + n);
+  w.status |= ork_ss_compute(w.task, ORK_SS_COR, ORK_SS_ONE_PASS, &ork_threader_serial);
   return w.correlation[1];
 }
 
@@ -93,10 +94,10 @@ void run_worker(int number, int, int, void* context) {
 // The worker goes on with a stream read from a file; the one it had stays as the twin.
 int save_and_restore(Worker& worker, const std::string& file) {
   RuaStream* restored = nullptr;
-  const int32_t saved = __ruaSaveStreamF(worker.stream, file.c_str(), -1);
-  const int32_t loaded = saved == 0 ? __ruaLoadStreamF(&restored, file.c_str(), -1) : 0;
+  const int saved = ork_stream_save(worker.stream, file.c_str());
+  const int loaded = saved == 0 ? ork_stream_load(&restored, file.c_str()) : 0;
   std::remove(file.c_str());
-  if (saved != 0) fail("%s: the stream cannot be saved (status %d)", file.c_str(), int(saved));
+  if (saved != 0) fail("%s: the stream cannot be saved (status %d)", file.c_str(), saved);
   require(loaded, "restoring the stream");
   worker.twin = worker.stream;
   worker.stream = restored;
@@ -108,12 +109,12 @@ int64_t check_leapfrog() {
   constexpr int each = 1000;
   std::vector<double> all(each * workers), part(each);
   RuaStream* whole = new_stream();
-  require(_ruadRngUniform(0, whole, each * workers, all.data(), 0, 1), "drawing uniform numbers");
-  __ruaDeleteStream(&whole);
+  require(ork_dRngUniform(0, whole, each * workers, all.data(), 0, 1), "drawing uniform numbers");
+  ork_stream_delete(&whole);
   for (int w = 0; w < workers; ++w) {
     RuaStream* stream = new_leapfrog_stream(w);
-    require(_ruadRngUniform(0, stream, each, part.data(), 0, 1), "drawing uniform numbers");
-    __ruaDeleteStream(&stream);
+    require(ork_dRngUniform(0, stream, each, part.data(), 0, 1), "drawing uniform numbers");
+    ork_stream_delete(&stream);
     for (int i = 0; i < each; ++i)
       if (std::memcmp(&part[size_t(i)], &all[size_t(i * workers + w)], sizeof(double)) != 0)
         fail("leapfrog: number %d of worker %d differs from the undivided sequence", i, w);
@@ -127,14 +128,14 @@ void summarise(Bootstrap& b) {
   const double order[2] = {0.025, 0.975};
   double raw2, central2, ends[2];
   ork_ss_task* task = nullptr;
-  require(__ruadSSNewTask(&task, &p, &n, &rows, b.draws.data(), nullptr, nullptr, 0), "a statistics task");
+  require(__ruadSSNewTask(&task, &p, &n, &rows, b.draws.data(), nullptr, nullptr, 0),
+          "a statistics task");
   __ruadSSEditMoments(task, &b.mean, &raw2, nullptr, nullptr, &central2, nullptr, nullptr);
   __ruadSSEditQuantiles(task, &orders, order, ends, nullptr, nullptr);
-  require(_ruadSSBasic(task, uint32_t(ORK_SS_MEAN | ORK_SS_CENTRAL2), 0, uint32_t(ORK_SS_ONE_PASS), 0,
-                       &ork_threader_parallel),
-          "computing moments of the draws");
-  require(_ruadSSQuantiles(task, uint32_t(ORK_SS_QUANTILES), 0, uint32_t(ORK_SS_FAST), 0,
-                           &ork_threader_parallel),
+  require(
+      ork_ss_compute(task, ORK_SS_MEAN | ORK_SS_CENTRAL2, ORK_SS_ONE_PASS, &ork_threader_parallel),
+      "computing moments of the draws");
+  require(ork_ss_compute(task, ORK_SS_QUANTILES, ORK_SS_FAST, &ork_threader_parallel),
           "computing quantiles of the draws");
   __ruaSSDeleteTask(&task);
   b.deviation = std::sqrt(central2), b.low = ends[0], b.high = ends[1];
@@ -146,28 +147,31 @@ void add_theory(Bootstrap& b, double rho, int sample_size) {
   constexpr int points = 241;
   const auto [least, greatest] = std::minmax_element(b.draws.begin(), b.draws.end());
   const double from = std::max(*least, -0.9999), to = std::min(*greatest, 0.9999);
-  const double s = 1 / std::sqrt(sample_size - 3.0), centre = std::atanh(std::clamp(rho, -0.9999, 0.9999));
+  const double s = 1 / std::sqrt(sample_size - 3.0),
+               centre = std::atanh(std::clamp(rho, -0.9999, 0.9999));
   auto &x = b.theory_x, &y = b.theory_y;
   for (int i = 0; i < points; ++i) x.push_back(from + (to - from) * i / (points - 1));
   std::vector<double> jacobian(x.size());
   y.resize(x.size());
-  _zemdSqr(points, x.data(), jacobian.data());
-  _zemdLinearFrac(points, x.data(), jacobian.data(), 0, 1, -1, 1, jacobian.data());  // 1 / (1 - x^2)
-  _zemdAtanh(points, x.data(), y.data());
-  _zemdLinearFrac(points, y.data(), y.data(), 1 / s, -centre / s, 0, 1, y.data());
-  _zemdSqr(points, y.data(), y.data());
-  _zemdLinearFrac(points, y.data(), y.data(), -0.5, 0, 0, 1, y.data());
-  _zemdExp(points, y.data(), y.data());
-  _zemdMul(points, y.data(), jacobian.data(), y.data());
-  _zemdLinearFrac(points, y.data(), y.data(), 1 / (std::sqrt(2 * M_PI) * s), 0, 0, 1, y.data());
+  ork_dSqr(points, x.data(), jacobian.data());
+  ork_dLinearFrac(points, x.data(), jacobian.data(), 0, 1, -1, 1,
+                  jacobian.data());  // 1 / (1 - x^2)
+  ork_dAtanh(points, x.data(), y.data());
+  ork_dLinearFrac(points, y.data(), y.data(), 1 / s, -centre / s, 0, 1, y.data());
+  ork_dSqr(points, y.data(), y.data());
+  ork_dLinearFrac(points, y.data(), y.data(), -0.5, 0, 0, 1, y.data());
+  ork_dExp(points, y.data(), y.data());
+  ork_dMul(points, y.data(), jacobian.data(), y.data());
+  ork_dLinearFrac(points, y.data(), y.data(), 1 / (std::sqrt(2 * M_PI) * s), 0, 0, 1, y.data());
 }
 
 }  // namespace
 
-Bootstrap bootstrap(const Quarters& quarters, const Analysis& analysis, const std::string& image_file,
-                    Progress& progress) {
+Bootstrap bootstrap(const Quarters& quarters, const Analysis& analysis,
+                    const std::string& image_file, Progress& progress) {
   progress.step("bootstrap");
-  const auto &growth = quarters.series[gdp_growth].values, &change = quarters.series[unemployment_change].values;
+  const auto &growth = quarters.series[gdp_growth].values,
+             &change = quarters.series[unemployment_change].values;
   Bootstrap b;
   b.workers = workers;
   b.threads = std::min(workers, ork_threader_parallel.max_threads());
@@ -184,7 +188,8 @@ Bootstrap bootstrap(const Quarters& quarters, const Analysis& analysis, const st
     progress.at(double(round + 1) / rounds);
   }
   for (Worker& w : worker) require(w.status, "the bootstrap");
-  if (worker[workers - 1].differs) fail("the restored stream gave other numbers than the saved one");
+  if (worker[workers - 1].differs)
+    fail("the restored stream gave other numbers than the saved one");
   b.restored_compared = worker[workers - 1].compared;
   for (Worker& w : worker) close(w);
 

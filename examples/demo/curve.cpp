@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "fail.hpp"
-#include "ork/df.h"
+#include "ork/front.h"
 
 namespace demo {
 namespace {
@@ -16,8 +16,10 @@ void add_knots(Curve& c, const Quarters& q) {
   for (size_t i = 0; i < q.size();) {
     double time = 0, value = 0;
     const size_t first = i;
-    for (; i < q.size() && q.year[i] == q.year[first]; ++i) time += q.time[i], value += q.unemployment[i];
-    c.knot_time.push_back(time / double(i - first)), c.knot_value.push_back(value / double(i - first));
+    for (; i < q.size() && q.year[i] == q.year[first]; ++i)
+      time += q.time[i], value += q.unemployment[i];
+    c.knot_time.push_back(time / double(i - first)),
+        c.knot_value.push_back(value / double(i - first));
   }
 }
 
@@ -55,23 +57,21 @@ void add_spans(Curve& c, const Quarters& q) {
   }
 }
 
-// Values, and slopes if wanted, of the spline at the sites; slopes follow the values.
-void evaluate(const ork_df_task* task, const std::vector<double>& sites, bool slopes, double* result) {
-  const int32_t flags[2] = {1, 1};
-  require(ork_df_kernel_dDFInterpolate1D(task, 1, 0, int64_t(sites.size()), sites.data(), ORK_DF_SITES_SORTED,
-                                         slopes ? 2 : 1, flags, nullptr, result, ORK_DF_RESULT_DEFAULT, nullptr,
-                                         nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                         &ork_threader_parallel),
+// Values of the spline at ascending sites, then its slopes there.
+void values_and_slopes(const ork_df_task* task, const std::vector<double>& sites, double* result) {
+  const int32_t orders[2] = {1, 1};
+  require(ork_df_kernel_dDFInterpolate1D(
+              task, 1, 0, int64_t(sites.size()), sites.data(), ORK_DF_SITES_SORTED, 2, orders,
+              nullptr, result, ORK_DF_RESULT_DEFAULT, nullptr, nullptr, nullptr, nullptr, nullptr,
+              nullptr, nullptr, nullptr, nullptr, &ork_threader_parallel),
           "evaluating the spline");
 }
 
 void integrate(const ork_df_task* task, Curve& c) {
   std::vector<double> from, to, integral(c.spans.size());
   for (const Span& s : c.spans) from.push_back(s.from), to.push_back(s.to);
-  require(ork_df_kernel_dDFIntegrate1D(task, 0, int64_t(from.size()), from.data(), ORK_DF_SITES_SORTED, to.data(),
-                                       ORK_DF_SITES_SORTED, nullptr, nullptr, integral.data(), ORK_DF_RESULT_DEFAULT,
-                                       nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                       &ork_threader_parallel),
+  require(ork_dDFIntegrate(task, int64_t(from.size()), from.data(), to.data(), integral.data(),
+                           &ork_threader_parallel),
           "integrating the spline");
   for (size_t i = 0; i < c.spans.size(); ++i) c.spans[i].by_curve = integral[i] / (to[i] - from[i]);
 }
@@ -86,30 +86,33 @@ Curve fit_curve(const Quarters& q) {
   const double ends[2] = {0, 0};
 
   ork_df_task* task = nullptr;
-  require(ork_df_kernel_dNewTask1D(&task, knots, c.knot_time.data(), ORK_DF_X_QUASI_UNIFORM, 1, c.knot_value.data(),
-                                   ORK_DF_ROWS_DEFAULT, 0),
+  require(ork_df_kernel_dNewTask1D(&task, knots, c.knot_time.data(), ORK_DF_X_QUASI_UNIFORM, 1,
+                                   c.knot_value.data(), ORK_DF_ROWS_DEFAULT, 0),
           "a data fitting task");
-  constexpr int order = 4, natural = 2;
-  require(ork_df_kernel_dEditPPSpline1D(task, order, natural, ORK_DF_BC_FREE_END, ends, 0, nullptr,
-                                        coefficients.data(), ORK_DF_ROWS_DEFAULT),
+  constexpr int order = 4;
+  require(ork_df_kernel_dEditPPSpline1D(task, order, ORK_DF_TYPE_NATURAL, ORK_DF_BC_FREE_END, ends,
+                                        0, nullptr, coefficients.data(), ORK_DF_ROWS_DEFAULT),
           "describing the spline");
-  require(ork_df_kernel_dDFNaturalCubicSpline1D(task, 0, 0, &ork_threader_parallel), "constructing the spline");
+  require(ork_dDFConstruct(task, &ork_threader_parallel), "constructing the spline");
 
   const double from = q.time.front(), to = q.time.back();
   const int points = int((to - from) * grid_points_a_year) + 1;
   for (int i = 0; i < points; ++i) c.time.push_back(from + (to - from) * i / (points - 1));
   std::vector<double> both(size_t(2 * points));
-  evaluate(task, c.time, true, both.data());
+  values_and_slopes(task, c.time, both.data());
   c.value.assign(both.begin(), both.begin() + points);
   c.slope.assign(both.begin() + points, both.end());
   c.at_quarters.resize(q.size());
-  evaluate(task, q.time, false, c.at_quarters.data());
+  require(ork_dDFInterpolate(task, int64_t(q.size()), q.time.data(), ORK_DF_SITES_SORTED,
+                             c.at_quarters.data(), &ork_threader_parallel),
+          "evaluating the spline");
   add_spans(c, q);
   integrate(task, c);
   ork_df_kernel_DeleteTask(&task);
 
   double squares = 0;
-  for (size_t i = 0; i < q.size(); ++i) squares += std::pow(q.unemployment[i] - c.at_quarters[i], 2);
+  for (size_t i = 0; i < q.size(); ++i)
+    squares += std::pow(q.unemployment[i] - c.at_quarters[i], 2);
   c.rms = std::sqrt(squares / double(q.size()));
   const auto [fall, rise] = std::minmax_element(c.slope.begin(), c.slope.end());
   c.fall = {c.time[size_t(fall - c.slope.begin())], *fall};

@@ -22,7 +22,7 @@ struct Curve {
   std::vector<double> knot_time, knot_value;
   std::vector<double> time, value, slope;  // a fine even grid; points a year
   std::vector<double> at_quarters;
-  double rms;  // of quarters less curve
+  double rms;          // of quarters less curve
   Extreme rise, fall;  // the steepest slopes
   std::vector<Extreme> peaks;
   std::vector<Span> spans;

@@ -17,7 +17,7 @@ struct Measurement {
 
 struct Measured {
   std::string name, range;  // "exp", or "expf" in single precision; the arguments
-  Measurement level[3];  // low accuracy, high accuracy, enhanced performance
+  Measurement level[3];     // low accuracy, high accuracy, enhanced performance
   Measurement c_library;
 };
 

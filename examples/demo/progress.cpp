@@ -20,7 +20,8 @@ void Progress::at(double fraction) {
   if (Clock::now() - shown_ < wait) return;
   shown_ = Clock::now();
   open_ = true;
-  std::fprintf(stderr, terminal ? "\r%s: %3.0f %%" : "%s: %.0f %%\n", name_.c_str(), 100 * fraction);
+  std::fprintf(stderr, terminal ? "\r%s: %3.0f %%" : "%s: %.0f %%\n", name_.c_str(),
+               100 * fraction);
 }
 
 void Progress::end() {

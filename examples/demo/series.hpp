@@ -12,12 +12,20 @@ namespace demo {
 struct Series {
   const char* key;
   const char* name;
+  const char* short_name;
   const char* unit;
   std::vector<double> values;
 };
 
 // Series of interest by their place.
-enum { gdp_growth, consumption_growth, investment_growth, inflation, bill_rate, unemployment_change };
+enum {
+  gdp_growth,
+  consumption_growth,
+  investment_growth,
+  inflation,
+  bill_rate,
+  unemployment_change
+};
 
 struct Quarters {
   std::vector<int> year, quarter;

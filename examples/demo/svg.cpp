@@ -72,11 +72,20 @@ std::string escaped(const std::string& text) {
   std::string out;
   for (char c : text) {
     switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      default: out += c;
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += "&quot;";
+        break;
+      default:
+        out += c;
     }
   }
   return out;
@@ -84,19 +93,25 @@ std::string escaped(const std::string& text) {
 
 Plot::Plot(int width, int height, Range x, Range y, const std::string& label)
     : width_(width), height_(height), x_(x), y_(y) {
-  body_ = "<svg class=\"" + std::string(narrow() ? "narrow" : "wide") + "\" viewBox=\"0 0 " + std::to_string(width) +
-          " " + std::to_string(height) + "\" role=\"img\" aria-label=\"" + escaped(label) + "\">\n";
+  body_ = "<svg class=\"" + std::string(narrow() ? "narrow" : "wide") + "\" viewBox=\"0 0 " +
+          std::to_string(width) + " " + std::to_string(height) + "\" role=\"img\" aria-label=\"" +
+          escaped(label) + "\">\n";
 }
 
-double Plot::px(double x) const { return left + (x - x_.low) / (x_.high - x_.low) * (width_ - left - right); }
-double Plot::py(double y) const { return top + (y_.high - y) / (y_.high - y_.low) * (height_ - top - bottom); }
+double Plot::px(double x) const {
+  return left + (x - x_.low) / (x_.high - x_.low) * (width_ - left - right);
+}
+double Plot::py(double y) const {
+  return top + (y_.high - y) / (y_.high - y_.low) * (height_ - top - bottom);
+}
 
 void Plot::axes(const std::string& x_name, const std::string& y_name) {
   y_axis(y_name, labelled(ticks_of(y_, 7)));
   x_axis(x_name, labelled(ticks_of(x_, narrow() ? 6 : 10)));
 }
 
-void Plot::x_axis(const std::string& name, const std::vector<std::pair<double, std::string>>& ticks) {
+void Plot::x_axis(const std::string& name,
+                  const std::vector<std::pair<double, std::string>>& ticks) {
   segment(x_.low, y_.low, x_.high, y_.low, "axis");
   for (const auto& [at, label] : ticks) {
     body_ += "<path class=\"axis\" d=\"M" + pixel(px(at)) + " " + pixel(py(y_.low)) + "v5\"/>\n";
@@ -105,7 +120,8 @@ void Plot::x_axis(const std::string& name, const std::vector<std::pair<double, s
   text(x_.high, y_.low, 0, 36, Anchor::end, name, "name");
 }
 
-void Plot::y_axis(const std::string& name, const std::vector<std::pair<double, std::string>>& ticks) {
+void Plot::y_axis(const std::string& name,
+                  const std::vector<std::pair<double, std::string>>& ticks) {
   for (const auto& [at, label] : ticks) {
     segment(x_.low, at, x_.high, at, "grid");
     text(x_.low, at, -7, 4, Anchor::end, label, "tick");
@@ -115,26 +131,33 @@ void Plot::y_axis(const std::string& name, const std::vector<std::pair<double, s
 
 void Plot::line(const std::vector<double>& x, const std::vector<double>& y, const char* style) {
   body_ += std::string("<path class=\"") + style + "\" d=\"";
-  for (size_t i = 0; i < x.size(); ++i) body_ += (i ? "L" : "M") + pixel(px(x[i])) + " " + pixel(py(y[i]));
+  for (size_t i = 0; i < x.size(); ++i)
+    body_ += (i ? "L" : "M") + pixel(px(x[i])) + " " + pixel(py(y[i]));
   body_ += "\"/>\n";
 }
 
-void Plot::segment(double x0, double y0, double x1, double y1, const char* style) { line({x0, x1}, {y0, y1}, style); }
+void Plot::segment(double x0, double y0, double x1, double y1, const char* style) {
+  line({x0, x1}, {y0, y1}, style);
+}
 
 void Plot::dot(double x, double y, double radius, const char* style, const std::string& tip) {
-  body_ += std::string("<circle class=\"") + style + "\"" + attribute("cx", px(x)) + attribute("cy", py(y)) +
-           attribute("r", radius) + with_tip("circle", tip);
+  body_ += std::string("<circle class=\"") + style + "\"" + attribute("cx", px(x)) +
+           attribute("cy", py(y)) + attribute("r", radius) + with_tip("circle", tip);
 }
 
-void Plot::box(double x0, double y0, double x1, double y1, const char* style, const std::string& tip) {
-  body_ += std::string("<rect class=\"") + style + "\"" + attribute("x", px(x0)) + attribute("y", py(y1)) +
-           attribute("width", px(x1) - px(x0)) + attribute("height", py(y0) - py(y1)) + with_tip("rect", tip);
+void Plot::box(double x0, double y0, double x1, double y1, const char* style,
+               const std::string& tip) {
+  body_ += std::string("<rect class=\"") + style + "\"" + attribute("x", px(x0)) +
+           attribute("y", py(y1)) + attribute("width", px(x1) - px(x0)) +
+           attribute("height", py(y0) - py(y1)) + with_tip("rect", tip);
 }
 
-void Plot::text(double x, double y, double dx, double dy, Anchor anchor, const std::string& text, const char* style) {
+void Plot::text(double x, double y, double dx, double dy, Anchor anchor, const std::string& text,
+                const char* style) {
   static const char* const anchors[] = {"start", "middle", "end"};
-  body_ += std::string("<text class=\"") + style + "\"" + attribute("x", px(x) + dx) + attribute("y", py(y) + dy) +
-           " text-anchor=\"" + anchors[int(anchor)] + "\">" + escaped(text) + "</text>\n";
+  body_ += std::string("<text class=\"") + style + "\"" + attribute("x", px(x) + dx) +
+           attribute("y", py(y) + dy) + " text-anchor=\"" + anchors[int(anchor)] + "\">" +
+           escaped(text) + "</text>\n";
 }
 
 }  // namespace demo

@@ -41,9 +41,11 @@ class Plot {
   void line(const std::vector<double>& x, const std::vector<double>& y, const char* style);
   void segment(double x0, double y0, double x1, double y1, const char* style);
   void dot(double x, double y, double radius, const char* style, const std::string& tip = "");
-  void box(double x0, double y0, double x1, double y1, const char* style, const std::string& tip = "");
+  void box(double x0, double y0, double x1, double y1, const char* style,
+           const std::string& tip = "");
   // dx, dy: pixels away from the point.
-  void text(double x, double y, double dx, double dy, Anchor anchor, const std::string& text, const char* style);
+  void text(double x, double y, double dx, double dy, Anchor anchor, const std::string& text,
+            const char* style);
 
   Range x_range() const { return x_; }
   Range y_range() const { return y_; }
