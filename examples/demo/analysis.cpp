@@ -1,5 +1,7 @@
 #include "analysis.hpp"
 
+#include <cmath>
+
 #include "fail.hpp"
 #include "ork/front.h"
 
@@ -45,6 +47,9 @@ Analysis analyse(const Quarters& quarters) {
     const double* q = a.quantiles_of(i);
     if (q[0] == q[quantile_count - 1])
       fail("%s is %g throughout; there is nothing to analyse", quarters.series[i].name, q[0]);
+    if (!std::isfinite(kurtosis[i] + skewness[i]))
+      fail("%s, from %g to %g, varies too little to be analysed", quarters.series[i].name, q[0],
+           q[quantile_count - 1]);
     a.moments.push_back({mean[i], deviation[i], skewness[i], kurtosis[i]});
     a.correlation[i * P + i] = 1;  // the task leaves the variances there
   }

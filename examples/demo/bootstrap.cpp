@@ -147,8 +147,7 @@ void add_theory(Bootstrap& b, double rho, int sample_size) {
   constexpr int points = 241;
   const auto [least, greatest] = std::minmax_element(b.draws.begin(), b.draws.end());
   const double from = std::max(*least, -0.9999), to = std::min(*greatest, 0.9999);
-  const double s = 1 / std::sqrt(sample_size - 3.0),
-               centre = std::atanh(std::clamp(rho, -0.9999, 0.9999));
+  const double s = 1 / std::sqrt(sample_size - 3.0), centre = std::atanh(rho);
   auto &x = b.theory_x, &y = b.theory_y;
   for (int i = 0; i < points; ++i) x.push_back(from + (to - from) * i / (points - 1));
   std::vector<double> jacobian(x.size());
@@ -172,6 +171,9 @@ Bootstrap bootstrap(const Quarters& quarters, const Analysis& analysis,
   progress.step("bootstrap");
   const auto &growth = quarters.series[gdp_growth].values,
              &change = quarters.series[unemployment_change].values;
+  const double rho = analysis.cor(gdp_growth, unemployment_change);
+  if (!(std::fabs(rho) < 0.9999))
+    fail("growth and the change of unemployment correlate by %.6f: nothing to resample", rho);
   Bootstrap b;
   b.workers = workers;
   b.threads = std::min(workers, ork_threader_parallel.max_threads());
@@ -196,7 +198,7 @@ Bootstrap bootstrap(const Quarters& quarters, const Analysis& analysis,
   for (double r : b.draws)
     if (!std::isfinite(r)) fail("growth and unemployment vary too little: a resample was constant");
   summarise(b);
-  add_theory(b, analysis.cor(gdp_growth, unemployment_change), int(growth.size()));
+  add_theory(b, rho, int(growth.size()));
   return b;
 }
 

@@ -27,11 +27,21 @@ void write_whole(const std::string& file, const std::string& text) {
   fail("%s: cannot be written: %s", file.c_str(), std::strerror(error));
 }
 
+// Tells early of a place where no report can be written.
+void check_writable(const std::string& file) {
+  const std::string part = file + ".part";
+  FILE* stream = std::fopen(part.c_str(), "w");
+  if (!stream) fail("%s: cannot be written: %s", file.c_str(), std::strerror(errno));
+  std::fclose(stream);
+  std::remove(part.c_str());
+}
+
 int run(const std::string& input, const std::string& output) {
   Progress progress;
   Results r;
   r.table = read_table(input);
   r.quarters = transform(r.table);
+  check_writable(output);
   r.analysis = analyse(r.quarters);
   r.curve = fit_curve(r.quarters);
   r.bootstrap = bootstrap(r.quarters, r.analysis, output + ".stream", progress);

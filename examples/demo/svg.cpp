@@ -46,7 +46,8 @@ Range widened(Range range, double part) {
 
 Range range_of(const std::vector<double>& values) {
   const auto [low, high] = std::minmax_element(values.begin(), values.end());
-  return {*low, *high};
+  const double least = 1e-6 * std::max({std::fabs(*low), std::fabs(*high), 1e-6}) - (*high - *low);
+  return least > 0 ? Range{*low - least / 2, *high + least / 2} : Range{*low, *high};
 }
 
 std::vector<double> ticks_of(Range range, int most) {

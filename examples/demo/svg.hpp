@@ -13,6 +13,7 @@ struct Range {
 
 // A range with a margin, as a part of its width.
 Range widened(Range range, double part);
+// Never narrower than a millionth of its size.
 Range range_of(const std::vector<double>& values);
 
 // The multiples of 1, 2 or 5 times a power of ten in the range, at most `most` of them.
