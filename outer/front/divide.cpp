@@ -19,7 +19,8 @@ using ork::front::Bound;
 constexpr int grain = 128;
 constexpr int most_slices = 128;
 
-// About 15 microseconds of work a slice on a machine of 2.5 GHz; a launch costs 2 to 5.
+// Some 40000 cycles a slice: a launch costs 5000, and two threads break even near 30000 of work
+// (bench/results/front.txt).
 constexpr float default_threshold = 100000;
 
 std::atomic<int> threads_allowed{0};  // 0: what the threader table says
