@@ -36,6 +36,8 @@ std::string figure(const std::string& plot, const std::string& caption) {
 
 std::string cell(const std::string& text) { return "<td>" + text + "</td>"; }
 
+std::string unbroken(std::string label) { return label.replace(label.find(' '), 1, "\u00a0"); }
+
 // ---- Sections ----------------------------------------------------------------------------
 
 std::string tile(const std::string& value, const std::string& unit, const std::string& name) {
@@ -52,11 +54,12 @@ std::string head(const Results& r) {
   return "<h1>Growth and unemployment</h1>\n<p class=\"lead\">" + q.label(0) + " to " +
          q.label(q.size() - 1) + ", " + std::to_string(q.size()) + " quarters from <code>" +
          escaped(file_name(r.table.file)) +
-         "</code>. Every figure on this page was computed by the kernels of "
+         "</code>. The figures on this page were computed with "
          "<code>ork_zem_p4m</code> on " +
          escaped(processor_name()) + ".</p>\n<div class=\"tiles\">\n" +
          tile(number(r.analysis.moments[gdp_growth].mean, 1), "% a year", "average growth of GDP") +
-         tile(number(q.unemployment[top], 1), "%", "highest unemployment, " + q.label(top)) +
+         tile(number(q.unemployment[top], 1), "%",
+              "highest unemployment, " + unbroken(q.label(top))) +
          tile(number(r.analysis.cor(gdp_growth, unemployment_change), 2),
               number(b.low, 2) + " to " + number(b.high, 2),
               "correlation of growth and the change of unemployment") +
