@@ -170,7 +170,7 @@ std::string bootstrap_section(const Results& r) {
              "Correlations of " + grouped(int64_t(b.draws.size())) +
                  " resamples, quarters drawn anew with replacement; 95\u202f% of them lie from " +
                  data("boot-low", b.low, 3) + " to " + data("boot-high", b.high, 3) +
-                 " (the paler bars lie outside). The curve is the density by Fisher\u2019s "
+                 " (the fainter bars lie outside). The curve is the density by Fisher\u2019s "
                  "transformation, which takes the data for normal. The draws spread " +
                  number(std::fabs(100 * (b.deviation / theory - 1)), 0) + "\u202f% " +
                  (b.deviation > theory ? "wider" : "less") + ": standard deviation " +
@@ -222,14 +222,15 @@ std::string quantile_section(const Results& r) {
 
 std::string speed_section(const Results& r) {
   std::string text = "<h2>Kernels on this machine</h2>\n";
-  text += figure(speed_figure(r.measured),
-                 "Time-stamp cycles per element, on a logarithmic scale: <i class=\"key "
-                 "performance\"></i>enhanced performance, "
-                 "<i class=\"key low-accuracy\"></i>low accuracy, <i class=\"key "
-                 "high-accuracy\"></i>high accuracy, "
-                 "<i class=\"key c-library\"></i>the C library in a loop. 1024 elements in the "
-                 "first-level cache, one thread, the "
-                 "least of many runs. Names with f are single precision.");
+  text +=
+      figure(speed_figure(r.measured),
+             "Time-stamp cycles per element, on a logarithmic scale: <i class=\"key "
+             "performance\"></i>enhanced performance, "
+             "<i class=\"key low-accuracy\"></i>low accuracy, <i class=\"key "
+             "high-accuracy\"></i>high accuracy, "
+             "<i class=\"key c-library\"></i>the C library in a loop. 1024 elements in the "
+             "first-level cache, one thread, the "
+             "least of many runs. Levels may share a kernel. Names with f are single precision.");
   text += "<h3>Worst error of " + grouped(sample_points) +
           " arguments, and cycles per element</h3>\n"
           "<div class=\"scroll\"><table>\n<thead>\n<tr><th rowspan=\"2\">Function</th><th "
