@@ -94,7 +94,7 @@ void body(int item, int, int, void* context) {
 
 int slices_for(int n, float cost) {
   const float work = float(n) * cost, least = least_work.load(std::memory_order_relaxed);
-  if (!(work >= 2 * least)) return 1;
+  if (!(work >= 2 * least)) return 1;  // a short vector asks no further
   const int allowed = threads_allowed.load(std::memory_order_relaxed);
   int slices = allowed > 0 ? allowed : ork_threader_parallel.max_threads();
   if (slices > most_slices) slices = most_slices;

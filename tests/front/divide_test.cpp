@@ -143,11 +143,23 @@ TEST_F(DivideEvents, TheLastInTheVectorStandsWhicheverComesLast) {
 }
 
 TEST_F(DivideEvents, ACallWithoutEventsReturns0AndLeavesStatusAndErrno) {
-  ork_zem_kernel_SetErrStatus(3);
-  errno = ENOTTY;
-  EXPECT_EQ(ork_dLn(n, a.data(), r.data()), 0);
-  EXPECT_EQ(ork_zem_kernel_GetErrStatus(), 3);
-  EXPECT_EQ(errno, ENOTTY);
+  for (const int threads : {1, 3}) {
+    ork_set_threads(threads);
+    ork_zem_kernel_SetErrStatus(3);
+    errno = ENOTTY;
+    EXPECT_EQ(ork_dLn(n, a.data(), r.data()), 0);
+    EXPECT_EQ(ork_zem_kernel_GetErrStatus(), 3);
+    EXPECT_EQ(errno, ENOTTY);
+  }
+}
+
+TEST_F(DivideEvents, NoMoreSlicesThanThereAreRecordsFor) {
+  constexpr int long_n = 40000;
+  std::vector<double> x(long_n, 4.0), y(long_n);
+  ork_set_threads(1000);
+  x[long_n - 1] = -1;
+  EXPECT_EQ(ork_dSqrt(long_n, x.data(), y.data()), ZEM_STATUS_DOMAIN);
+  EXPECT_EQ(std::count(y.begin(), y.end(), 2.0), long_n - 1);
 }
 
 TEST_F(DivideEvents, FloatingPointFlagsOfWorkersReachTheCaller) {

@@ -73,6 +73,19 @@ TEST(FrontStreams, NothingIsLeftOfAStreamThatCouldNotBeMade) {
   EXPECT_EQ(blocks::live(), before);
 }
 
+TEST(FrontStreams, NothingIsLeftWhenTheGeneratorRefusesTheSeed) {
+  RuaBrngProperties row;
+  ASSERT_EQ(__ruaGetBrngProperties(RUA_BRNG_MCG59, &row), 0);
+  row.initStream = [](int32_t, RuaStream*, int32_t, const uint32_t*) { return int32_t{-3}; };
+  const int32_t brng = __ruaRegisterBrng(&row);
+  ASSERT_GT(brng, 0);
+  const int before = blocks::live();
+  RuaStream* stream;
+  EXPECT_EQ(ork_stream_new(&stream, brng, 1), -3);
+  EXPECT_EQ(stream, nullptr);
+  EXPECT_EQ(blocks::live(), before);
+}
+
 // A distribution by both letters and by the kernel behind it. p and q have to be valid, and
 // `bad` to name the places of parameters that must be above 0.
 struct Distribution {
@@ -128,11 +141,12 @@ template <class T, class F, class K> void check_draws(const Distribution& d, con
       q[k] = bad;
       expect(-3, 0, s, n, r, q.data(), "bad parameter");
     }
-  for (int m = 0; m < d.methods; ++m) {
-    EXPECT_EQ(front(m, s, n, r, p), 0) << d.name;
-    EXPECT_EQ(kernel(m, twin, n, expected, p), 0);
-    EXPECT_EQ(memcmp(r, expected, sizeof r), 0) << d.name << " " << m;
-  }
+  for (int m = 0; m < d.methods; ++m)
+    for (const int flag : {0, RUA_METHOD_ACCURATE}) {  // more than one method: it says nothing
+      EXPECT_EQ(front(m | flag, s, n, r, p), 0) << d.name;
+      EXPECT_EQ(kernel(d.methods > 1 ? m : m | flag, twin, n, expected, p), 0);
+      EXPECT_EQ(memcmp(r, expected, sizeof r), 0) << d.name << " " << m << " " << flag;
+    }
 }
 
 TEST(FrontStreams, DistributionsCheckAndDrawAsTheirKernels) {
