@@ -14,7 +14,7 @@
 #include "ork/rua_distributions.h"
 #include "ork/ss.h"
 #include "ork/threader.h"
-#include "ork/zem.h"
+#include "ork/zem_kernels.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -59,7 +59,8 @@ int ork_set_threads(int threads);
 
 /* The least work that a slice is worth, in elements times cost per element (the figures of
  * ork_zem_kernel_<t><Function>_ctab, 0.3 to 0.8 cycles each); 100000 at the start. A vector of
- * less than two such slices stays whole. Returns the setting before; 0, a negative number or NaN only asks. */
+ * less than two such slices stays whole. Returns the setting before; 0, a negative number or NaN
+ * only asks. */
 float ork_set_threshold(float work);
 
 /* ---- Streams ------------------------------------------------------------------------------

@@ -18,7 +18,8 @@ constexpr int n = 3001, slice = 1024;
 // Built without OpenMP the parallel table is the serial one.
 const bool parallel = ork_threader_parallel.parallel_for != ork_threader_serial.parallel_for;
 
-template <class T> struct Divide : testing::Test {
+template <class T>
+struct Divide : testing::Test {
   StateGuard state;
   DivisionGuard division;
 };
@@ -26,13 +27,16 @@ using Types = testing::Types<double, float>;
 TYPED_TEST_SUITE(Divide, Types);
 
 // Ordinary values, and bit patterns of all kinds every few elements.
-template <class T> std::vector<T> mixed_values(int count, unsigned seed) {
+template <class T>
+std::vector<T> mixed_values(int count, unsigned seed) {
   std::mt19937_64 random(seed);
   std::vector<T> values(size_t(count) + 4);
   for (T& v : values) {
     const uint64_t bits = random();
-    if (random() % 7 == 0) memcpy(&v, &bits, sizeof v);
-    else v = T(int64_t(bits) * 0x1p-61);
+    if (random() % 7 == 0)
+      memcpy(&v, &bits, sizeof v);
+    else
+      v = T(int64_t(bits) * 0x1p-61);
     if (std::isnan(v)) v = std::numeric_limits<T>::quiet_NaN();
   }
   return values;
@@ -56,8 +60,10 @@ TYPED_TEST(Divide, EveryFunctionGivesTheBitsAndStatusOfAWholeCall) {
         status[way] = ork_zem_kernel_GetErrStatus();
       }
       for (int way = 1; way < 4; ++way) {
-        EXPECT_EQ(memcmp(r[0].data(), r[way].data(), r[0].size() * sizeof(T)), 0) << row.name(int(level) - 1) << " " << way;
-        EXPECT_EQ(memcmp(r2[0].data(), r2[way].data(), r2[0].size() * sizeof(T)), 0) << row.name(int(level) - 1) << " " << way;
+        EXPECT_EQ(memcmp(r[0].data(), r[way].data(), r[0].size() * sizeof(T)), 0)
+            << row.name(int(level) - 1) << " " << way;
+        EXPECT_EQ(memcmp(r2[0].data(), r2[way].data(), r2[0].size() * sizeof(T)), 0)
+            << row.name(int(level) - 1) << " " << way;
         EXPECT_EQ(status[0], status[way]) << row.name(int(level) - 1) << " " << way;
       }
     });
@@ -77,7 +83,8 @@ TYPED_TEST(Divide, LengthsAroundTheGrainAndInPlace) {
         std::copy(a.begin() + length, a.begin() + 2000, whole.begin() + length);
         divide_all(threads);
         front(length, r.data(), r.data(), r.data(), nullptr);
-        EXPECT_EQ(memcmp(r.data(), whole.data(), 2000 * sizeof(T)), 0) << row.function << " " << length << " " << threads;
+        EXPECT_EQ(memcmp(r.data(), whole.data(), 2000 * sizeof(T)), 0)
+            << row.function << " " << length << " " << threads;
       }
   });
 }
@@ -218,7 +225,11 @@ TEST_F(DivideEvents, ShortVectorsAndOneThreadStayWhole) {
   ork_zem_kernel_SetErrorCallBack(note);
   a[n - 1] = -1;
   const float work = n * ork_zem_kernel_dLn_ctab[1];
-  const struct { int threads; float threshold; bool own; } rows[] = {
+  const struct {
+    int threads;
+    float threshold;
+    bool own;
+  } rows[] = {
       {1, 1e-6f, true}, {3, work * 0.51f, true}, {3, work * 0.49f, false}, {3, 1e30f, true}};
   for (const auto& row : rows) {
     seen.clear();
