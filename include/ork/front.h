@@ -49,7 +49,7 @@ extern "C" {
  * reported indices, errno and floating-point flags are those of a whole call. Workers run under
  * the caller's error mode, denormal handling, rounding and callback, and go back to their own.
  * The callback runs on the thread that raises the event, for several events at once on several
- * threads; its changes to a worker's mode end with the slice. A call that is divided or rejected
+ * threads; its changes to a worker's mode end with the slice; it may call these functions. A call that is divided or rejected
  * leaves ork_zem_kernel_SetInterfInputVectorPointer at null; other calls do not touch it. */
 
 /* The greatest number of threads for one elementwise call of this process: 0, as at the start,
