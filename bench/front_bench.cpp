@@ -16,11 +16,12 @@ struct Row {
   const ork_d_unary* table;
   const float* costs;
 };
-const Row rows[] = {{"Sqr", ork_dSqr, ork_zem_kernel_dSqr_ttab, ork_zem_kernel_dSqr_ctab},
-                    {"Sqrt", ork_dSqrt, ork_zem_kernel_dSqrt_ttab, ork_zem_kernel_dSqrt_ctab},
-                    {"Exp", ork_dExp, ork_zem_kernel_dExp_ttab, ork_zem_kernel_dExp_ctab},
-                    {"Tan", ork_dTan, ork_zem_kernel_dTan_ttab, ork_zem_kernel_dTan_ctab},
-                    {"LGamma", ork_dLGamma, ork_zem_kernel_dLGamma_ttab, ork_zem_kernel_dLGamma_ctab}};
+const Row rows[] = {
+    {"Sqr", ork_dSqr, ork_zem_kernel_dSqr_ttab, ork_zem_kernel_dSqr_ctab},
+    {"Sqrt", ork_dSqrt, ork_zem_kernel_dSqrt_ttab, ork_zem_kernel_dSqrt_ctab},
+    {"Exp", ork_dExp, ork_zem_kernel_dExp_ttab, ork_zem_kernel_dExp_ctab},
+    {"Tan", ork_dTan, ork_zem_kernel_dTan_ttab, ork_zem_kernel_dTan_ctab},
+    {"LGamma", ork_dLGamma, ork_zem_kernel_dLGamma_ttab, ork_zem_kernel_dLGamma_ctab}};
 
 }  // namespace
 
@@ -50,6 +51,10 @@ int main(int argc, char** argv) {
       const double whole = time_calls([&] { row.front(n, a.data(), r.data()); }, 200).least;
       ork_set_threads(2);
       const double divided = time_calls([&] { row.front(n, a.data(), r.data()); }, 200).least;
+      if (divided > 20 * whole) {  // another program holds the second processor
+        report.line(format("d %-8s %7d  no reading", row.name, n));
+        continue;
+      }
       report.line(format("d %-8s %7d %9.0f %7.0f  %7.0f  %4.2f  %.2f", row.name, n, double(work),
                          whole, divided, whole / divided, whole / work));
     }

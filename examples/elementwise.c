@@ -1,6 +1,6 @@
 /* Elementwise functions: statuses, an error callback that repairs results, accuracy levels. */
-#include <ork/front.h>
 #include <math.h>
+#include <ork/front.h>
 #include <stdio.h>
 
 #define N 6

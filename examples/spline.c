@@ -1,6 +1,6 @@
 /* A cubic spline: construct, evaluate, differentiate, integrate. */
-#include <ork/front.h>
 #include <math.h>
+#include <ork/front.h>
 #include <stdio.h>
 
 #define KNOTS 17
@@ -30,8 +30,7 @@ int main(void) {
   const double range[2] = {0, pi};
   status |= ork_dDFInterpolate(task, SITES, range, ORK_DF_SITES_UNIFORM, value, NULL);
   double worst = 0;
-  for (int j = 0; j < SITES; ++j)
-    worst = fmax(worst, fabs(value[j] - sin(pi * j / (SITES - 1))));
+  for (int j = 0; j < SITES; ++j) worst = fmax(worst, fabs(value[j] - sin(pi * j / (SITES - 1))));
   printf("largest error of the spline   %.1e\n", worst);
 
   /* 3. Value and slope together: flags for the derivatives of order 0 and 1, by the entry behind

@@ -14,7 +14,8 @@ void check(int status, const char* what) {
 }
 
 double milliseconds(std::chrono::steady_clock::time_point since) {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since).count();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since)
+      .count();
 }
 
 }  // namespace
@@ -50,17 +51,22 @@ int main() {
   __ruadSSEditCovCor(task, mean, cov, &full, cor, &full);
   __ruadSSEditQuantiles(task, &orders, order, quantile, nullptr, nullptr);
   check(ork_ss_compute(task, ORK_SS_MEAN | ORK_SS_CENTRAL2 | ORK_SS_COR | ORK_SS_QUANTILES,
-                       ORK_SS_FAST, &ork_threader_parallel), "estimates");
+                       ORK_SS_FAST, &ork_threader_parallel),
+        "estimates");
   check(__ruaSSDeleteTask(&task), "delete");
-  std::printf("lognormal: mean %.3f (exact 1.701), variance %.4f (exact 0.1866)\n", mean[0], variance[0]);
-  std::printf("uniform:   mean %.3f, variance %.4f; correlation %.3f\n", mean[1], variance[1], cor[1]);
+  std::printf("lognormal: mean %.3f (exact 1.701), variance %.4f (exact 0.1866)\n", mean[0],
+              variance[0]);
+  std::printf("uniform:   mean %.3f, variance %.4f; correlation %.3f\n", mean[1], variance[1],
+              cor[1]);
 
   // A spline through the deciles: the distribution function, read off at places between them.
   std::vector<double> coefficients(4 * 8);
   ork_df_task* curve = nullptr;
-  check(ork_df_kernel_dNewTask1D(&curve, 9, quantile, ORK_DF_X_NON_UNIFORM, 1, order, 0, 0), "curve");
-  check(ork_df_kernel_dEditPPSpline1D(curve, 4, ORK_DF_TYPE_AKIMA, ORK_DF_BC_NOT_A_KNOT, nullptr, 0, nullptr,
-                                      coefficients.data(), 0), "spline");
+  check(ork_df_kernel_dNewTask1D(&curve, 9, quantile, ORK_DF_X_NON_UNIFORM, 1, order, 0, 0),
+        "curve");
+  check(ork_df_kernel_dEditPPSpline1D(curve, 4, ORK_DF_TYPE_AKIMA, ORK_DF_BC_NOT_A_KNOT, nullptr, 0,
+                                      nullptr, coefficients.data(), 0),
+        "spline");
   check(ork_dDFConstruct(curve, nullptr), "construct");
   const double sites[] = {1.4, 1.64872127070012815, 2.0};
   double below[3];

@@ -14,7 +14,7 @@
 #include "ork/rua_distributions.h"
 #include "ork/ss.h"
 #include "ork/threader.h"
-#include "ork/zem.h"
+#include "ork/zem_kernels.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -49,7 +49,7 @@ extern "C" {
  * reported indices, errno and floating-point flags are those of a whole call. Workers run under
  * the caller's error mode, denormal handling, rounding and callback, and go back to their own.
  * The callback runs on the thread that raises the event, for several events at once on several
- * threads; its changes to a worker's mode end with the slice. A call that is divided or rejected
+ * threads; its changes to a worker's mode end with the slice; it may call these functions. A call that is divided or rejected
  * leaves ork_zem_kernel_SetInterfInputVectorPointer at null; other calls do not touch it. */
 
 /* The greatest number of threads for one elementwise call of this process: 0, as at the start,
@@ -59,7 +59,8 @@ int ork_set_threads(int threads);
 
 /* The least work that a slice is worth, in elements times cost per element (the figures of
  * ork_zem_kernel_<t><Function>_ctab, 0.3 to 0.8 cycles each); 100000 at the start. A vector of
- * less than two such slices stays whole. Returns the setting before; 0, a negative number or NaN only asks. */
+ * less than two such slices stays whole. Returns the setting before; 0, a negative number or NaN
+ * only asks. */
 float ork_set_threshold(float work);
 
 /* ---- Streams ------------------------------------------------------------------------------

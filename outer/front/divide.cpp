@@ -66,12 +66,21 @@ struct Job {
   Outcome outcomes[most_slices];
 };
 
+// The vector whose slice this thread runs, or null: a callback inside it may call again.
+__thread const void* whole_input;
+
+void count_from(const void* input) {
+  whole_input = input;
+  ork_zem_kernel_SetInterfInputVectorPointer(input);
+}
+
 Outcome run_slice(const Bound& bound, int begin, int n) {
   const int status_before = ork_zem_kernel_SetErrStatus(ZEM_STATUS_NONE), errno_before = errno;
   errno = 0;
-  ork_zem_kernel_SetInterfInputVectorPointer(bound.input);
+  const void* outer = whole_input;
+  count_from(bound.input);
   bound.run(bound.call, begin, n);
-  ork_zem_kernel_SetInterfInputVectorPointer(nullptr);
+  count_from(outer);
   const Outcome outcome = {ork_zem_kernel_SetErrStatus(status_before), errno,
                            fetestexcept(FE_ALL_EXCEPT)};
   errno = errno_before;
@@ -94,7 +103,7 @@ void body(int item, int, int, void* context) {
 
 int slices_for(int n, float cost) {
   const float work = float(n) * cost, least = least_work.load(std::memory_order_relaxed);
-  if (!(work >= 2 * least)) return 1;
+  if (!(work >= 2 * least)) return 1;  // a short vector asks no further
   const int allowed = threads_allowed.load(std::memory_order_relaxed);
   int slices = allowed > 0 ? allowed : ork_threader_parallel.max_threads();
   if (slices > most_slices) slices = most_slices;
@@ -105,14 +114,19 @@ int slices_for(int n, float cost) {
 }  // namespace
 
 int ork::front::rejected(int status, int argument, const char* name) {
-  ork_zem_kernel_SetInterfInputVectorPointer(nullptr);  // `argument` is no element to be shifted
+  const void* outer = whole_input;
+  count_from(nullptr);  // `argument` is no element to be shifted
   ork_zem_kernel_dError(status, argument, nullptr, nullptr, nullptr, nullptr, name);
+  count_from(outer);
   return status;
 }
 
 int ork::front::run_whole(const Bound& bound, int n) {
   const int before = ork_zem_kernel_SetErrStatus(ZEM_STATUS_NONE);
+  const void* outer = whole_input;
+  if (outer != nullptr) count_from(nullptr);
   bound.run(bound.call, 0, n);
+  if (outer != nullptr) count_from(outer);
   const int status = ork_zem_kernel_GetErrStatus();
   if (status == ZEM_STATUS_NONE) ork_zem_kernel_SetErrStatus(before);
   return status;

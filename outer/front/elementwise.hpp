@@ -28,14 +28,16 @@ inline int slot() {
   return index >= 0 && index < 3 ? index : 1;
 }
 
-template <class T> bool is_null(T value) {
+template <class T>
+bool is_null(T value) {
   if constexpr (std::is_pointer_v<T>)
     return value == nullptr;
   else
     return false;
 }
 
-template <class T> T advanced(T value, int by) {
+template <class T>
+T advanced(T value, int by) {
   if constexpr (std::is_pointer_v<T>)
     return value + by;
   else
@@ -43,13 +45,17 @@ template <class T> T advanced(T value, int by) {
 }
 
 // 0, or the status of a count below 0 or a null pointer. Nothing is asked of n = 0.
-template <class... A> int check(const char* name, int n, A... arguments) {
+template <class... A>
+int check(const char* name, int n, A... arguments) {
   if (n < 0) return rejected(ZEM_STATUS_BAD_ARGUMENT, 1, name);
   if (n > 0 && (is_null(arguments) || ...)) return rejected(ZEM_STATUS_BAD_ACCESS, 0, name);
   return ZEM_STATUS_NONE;
 }
 
-template <class A, class... Rest> A first(A a, Rest...) { return a; }
+template <class A, class... Rest>
+A first(A a, Rest...) {
+  return a;
+}
 
 // A function whose arrays all step by one element of their type: `divisible`; others run whole.
 template <bool divisible, class... A>

@@ -27,7 +27,8 @@ int construct(ork_df_task* task, ork_df_construct* linear, ork_df_construct* qua
   return entry != nullptr ? entry(task, 0, 0, threader) : ORK_DF_BAD_TYPE;
 }
 
-template <class... Array> int check(const ork_df_task* task, int64_t n, const void* result, Array... in) {
+template <class... Array>
+int check(const ork_df_task* task, int64_t n, const void* result, Array... in) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (n < 0 || n > INT32_MAX) return ORK_DF_BAD_NX;
   if (n == 0) return ORK_DF_OK;

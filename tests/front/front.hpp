@@ -43,10 +43,12 @@ struct FrontSlot {
   FrontSlot(const FrontSlot&) = delete;
 };
 
-template <class T> constexpr char type_letter = sizeof(T) == 8 ? 'd' : 's';
+template <class T>
+constexpr char type_letter = sizeof(T) == 8 ? 'd' : 's';
 
 // Every row of a type with an elementwise form.
-template <class T, class F> void for_each_function(F f) {
+template <class T, class F>
+void for_each_function(F f) {
   for (const Slot& row : slots) {
     if (row.type != type_letter<T> || row.form >= Form::pack_i) continue;
     const FrontSlot front(row);

@@ -10,7 +10,9 @@ namespace {
 
 struct Stream {
   RuaStream* handle = nullptr;
-  explicit Stream(int brng = RUA_BRNG_MCG59, uint32_t seed = 1) { EXPECT_EQ(ork_stream_new(&handle, brng, seed), 0); }
+  explicit Stream(int brng = RUA_BRNG_MCG59, uint32_t seed = 1) {
+    EXPECT_EQ(ork_stream_new(&handle, brng, seed), 0);
+  }
   ~Stream() { EXPECT_EQ(ork_stream_delete(&handle), 0); }
   Stream(const Stream&) = delete;
   operator RuaStream*() const { return handle; }
@@ -24,7 +26,8 @@ TEST(FrontStreams, BadArguments) {
       {"new, no place", -5, [&] { return ork_stream_new(nullptr, RUA_BRNG_MCG59, 1); }},
       {"new, unknown generator", -1000, [&] { return ork_stream_new(&out, 0x7F00000, 1); }},
       {"new, negative generator", -1000, [&] { return ork_stream_new(&out, -1, 1); }},
-      {"new, abstract generator", -1000, [&] { return ork_stream_new(&out, RUA_BRNG_DABSTRACT, 1); }},
+      {"new, abstract generator", -1000,
+       [&] { return ork_stream_new(&out, RUA_BRNG_DABSTRACT, 1); }},
       {"delete, no place", -5, [&] { return ork_stream_delete(nullptr); }},
       {"delete, null stream", 0, [&] { return ork_stream_delete(&out); }},
       {"copy, no place", -5, [&] { return ork_stream_copy(nullptr, s); }},
@@ -34,7 +37,8 @@ TEST(FrontStreams, BadArguments) {
       {"leapfrog, negative streams", -1013, [&] { return ork_stream_leapfrog(s, 0, -2); }},
       {"leapfrog, number too large", -3, [&] { return ork_stream_leapfrog(s, 2, 2); }},
       {"leapfrog, number negative", -3, [&] { return ork_stream_leapfrog(s, -1, 2); }},
-      {"leapfrog, not by this generator", -1002, [&] { return ork_stream_leapfrog(mersenne, 0, 2); }},
+      {"leapfrog, not by this generator", -1002,
+       [&] { return ork_stream_leapfrog(mersenne, 0, 2); }},
       {"skip, null", -5, [&] { return ork_stream_skip(nullptr, 1); }},
       {"skip back, not by this generator", -1003, [&] { return ork_stream_skip(mersenne, -1); }},
       {"save, null", -5, [&] { return ork_stream_save(nullptr, "x"); }},
@@ -73,6 +77,19 @@ TEST(FrontStreams, NothingIsLeftOfAStreamThatCouldNotBeMade) {
   EXPECT_EQ(blocks::live(), before);
 }
 
+TEST(FrontStreams, NothingIsLeftWhenTheGeneratorRefusesTheSeed) {
+  RuaBrngProperties row;
+  ASSERT_EQ(__ruaGetBrngProperties(RUA_BRNG_MCG59, &row), 0);
+  row.initStream = [](int32_t, RuaStream*, int32_t, const uint32_t*) { return int32_t{-3}; };
+  const int32_t brng = __ruaRegisterBrng(&row);
+  ASSERT_GT(brng, 0);
+  const int before = blocks::live();
+  RuaStream* stream;
+  EXPECT_EQ(ork_stream_new(&stream, brng, 1), -3);
+  EXPECT_EQ(stream, nullptr);
+  EXPECT_EQ(blocks::live(), before);
+}
+
 // A distribution by both letters and by the kernel behind it. p and q have to be valid, and
 // `bad` to name the places of parameters that must be above 0.
 struct Distribution {
@@ -87,10 +104,13 @@ struct Distribution {
 #define ARGUMENTS2 m, s, n, r, p[0], p[1]
 #define ARGUMENTS3 ARGUMENTS2, p[2]
 #define ARGUMENTS4 ARGUMENTS3, p[3]
-#define CALL(F, T, count) [](int m, RuaStream* s, int n, T* r, const double* p) { return F(ARGUMENTS##count); }
-#define DISTRIBUTION(name, methods, count, ...)                                          \
-  {#name, methods, CALL(ork_dRng##name, double, count), CALL(_ruadRng##name, double, count), \
-   CALL(ork_sRng##name, float, count), CALL(_ruasRng##name, float, count), __VA_ARGS__}
+#define CALL(F, T, count) \
+  [](int m, RuaStream* s, int n, T* r, const double* p) { return F(ARGUMENTS##count); }
+#define DISTRIBUTION(name, methods, count, ...)                                               \
+  {                                                                                           \
+#name, methods, CALL(ork_dRng##name, double, count), CALL(_ruadRng##name, double, count), \
+        CALL(ork_sRng##name, float, count), CALL(_ruasRng##name, float, count), __VA_ARGS__   \
+  }
 
 const Distribution distributions[] = {
     DISTRIBUTION(Uniform, 1, 2, {-1, 2}, {}),
@@ -104,12 +124,14 @@ const Distribution distributions[] = {
     DISTRIBUTION(Gumbel, 1, 2, {1, 2}, {1}),
 };
 
-template <class T, class F, class K> void check_draws(const Distribution& d, const F& front, const K& kernel) {
+template <class T, class F, class K>
+void check_draws(const Distribution& d, const F& front, const K& kernel) {
   constexpr int n = 33;
   Stream s, twin;
   T r[n] = {7}, expected[n];
   const double* p = d.parameters.data();
-  const auto expect = [&](int status, int m, RuaStream* stream, int count, T* out, const double* q, const char* what) {
+  const auto expect = [&](int status, int m, RuaStream* stream, int count, T* out, const double* q,
+                          const char* what) {
     EXPECT_EQ(front(m, stream, count, out, q), status) << d.name << ", " << what;
     EXPECT_EQ(r[0], 7) << d.name << ", " << what;
   };
@@ -128,11 +150,12 @@ template <class T, class F, class K> void check_draws(const Distribution& d, con
       q[k] = bad;
       expect(-3, 0, s, n, r, q.data(), "bad parameter");
     }
-  for (int m = 0; m < d.methods; ++m) {
-    EXPECT_EQ(front(m, s, n, r, p), 0) << d.name;
-    EXPECT_EQ(kernel(m, twin, n, expected, p), 0);
-    EXPECT_EQ(memcmp(r, expected, sizeof r), 0) << d.name << " " << m;
-  }
+  for (int m = 0; m < d.methods; ++m)
+    for (const int flag : {0, RUA_METHOD_ACCURATE}) {  // more than one method: it says nothing
+      EXPECT_EQ(front(m | flag, s, n, r, p), 0) << d.name;
+      EXPECT_EQ(kernel(d.methods > 1 ? m : m | flag, twin, n, expected, p), 0);
+      EXPECT_EQ(memcmp(r, expected, sizeof r), 0) << d.name << " " << m << " " << flag;
+    }
 }
 
 TEST(FrontStreams, DistributionsCheckAndDrawAsTheirKernels) {

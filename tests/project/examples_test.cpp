@@ -10,7 +10,7 @@
 namespace {
 
 struct Line {
-  const char* label;  // the line begins with it; once in the output
+  const char* label;            // the line begins with it; once in the output
   std::vector<double> numbers;  // what follows, other words skipped
   double tolerance;
 };
@@ -80,7 +80,8 @@ class Examples : public testing::TestWithParam<Example> {};
 TEST_P(Examples, PrintTheRightNumbers) {
   const Example& example = GetParam();
   const std::string image = testing::TempDir() + "ork_example_" + example.program;
-  const std::string command = ORK_BUILD_DIR "/bin/example_" + std::string(example.program) + " " + image + " 2>&1";
+  const std::string command =
+      ORK_BUILD_DIR "/bin/example_" + std::string(example.program) + " " + image + " 2>&1";
   FILE* pipe = popen(command.c_str(), "r");
   ASSERT_NE(pipe, nullptr);
   std::vector<std::string> output;
