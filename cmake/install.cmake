@@ -1,5 +1,5 @@
 # cmake --install: libraries, headers, a pkg-config file and a CMake package.
-install(TARGETS ork_zem_p4m ork_outer EXPORT ork_targets
+install(TARGETS ork_zem_p4m ork_outer ork_front EXPORT ork_targets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ork DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 

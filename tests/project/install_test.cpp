@@ -40,8 +40,8 @@ TEST_F(Install, CMakePackage) {
   run("cmake -G Ninja -S " ORK_SOURCE_DIR "/tests/project/installed -B " + (work / "user").string() +
       " -DCMAKE_PREFIX_PATH=" + (work / "tree").string() + " -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32");
   run("cmake --build " + (work / "user").string());
-  run((work / "user/program_c").string());
-  run((work / "user/program_cpp").string());
+  for (const char* program : {"program_c", "program_cpp", "front_c", "front_cpp"})
+    run((work / "user" / program).string());
 }
 
 // The fields of a .pc file with its variables filled in, as pkg-config would print them.
@@ -67,7 +67,10 @@ TEST_F(Install, PkgConfigFile) {
   ASSERT_TRUE(fs::exists(pc));
   const std::string flags = pc_field(pc, "Cflags"), libraries = pc_field(pc, "Libs");
   ASSERT_NE(flags.find("-I"), std::string::npos);
-  for (const auto& [compiler, source] : {std::pair{"gcc -std=c11", "program.c"}, {"g++ -std=c++17", "program.cpp"}}) {
+  for (const auto& [compiler, source] : {std::pair{"gcc -std=c11", "program.c"},
+                                         {"g++ -std=c++17", "program.cpp"},
+                                         {"gcc -std=c11", "front.c"},
+                                         {"g++ -std=c++17", "front.cpp"}}) {
     const std::string program = (work / (std::string("pc_") + source)).string() + ".out";
     run(std::string(compiler) + " -Wall -Werror -pedantic " ORK_SOURCE_DIR "/tests/project/installed/" + source +
         " -o " + program + " " + flags + " " + libraries);

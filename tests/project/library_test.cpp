@@ -57,16 +57,28 @@ std::set<std::string> missing_kernels() {
   return words_of(contents(ORK_SOURCE_DIR "/tests/project/missing_kernels.txt"));
 }
 
-TEST_F(Library, ExportsExactlyWhatIsMeant) {
+void check_exports(const std::string& file_of_library, const std::string& lists) {
   std::set<std::string> expected;
-  for (const auto& file : fs::directory_iterator(ORK_SOURCE_DIR "/tests/project/exports"))
+  for (const auto& file : fs::directory_iterator(ORK_SOURCE_DIR "/tests/project/" + lists))
     expected.merge(words_of(contents(file.path())));
   for (const auto& name : missing_kernels()) expected.erase(name);
   std::set<std::string> exported;
-  std::istringstream lines(output_of("nm -D --defined-only " + library));
+  std::istringstream lines(output_of("nm -D --defined-only " + file_of_library));
   for (std::string address, kind, name; lines >> address >> kind >> name;) exported.insert(name);
   for (const auto& name : exported) EXPECT_TRUE(expected.count(name)) << "exported, not meant to be: " << name;
   for (const auto& name : expected) EXPECT_TRUE(exported.count(name)) << "not exported: " << name;
+}
+
+TEST_F(Library, ExportsExactlyWhatIsMeant) { check_exports(library, "exports"); }
+
+TEST_F(Library, FrontExportsExactlyWhatIsMeantAndIsNeededByNone) {
+  const std::string front = ORK_LIB_DIR "/libork_front.so";
+  check_exports(front, "front_exports");
+  const std::string needs = output_of("readelf -dW " + front);
+  for (const char* name : {"[libork_zem_p4m.so]", "[libork_outer.so]", "[$ORIGIN]"})
+    EXPECT_NE(needs.find(name), std::string::npos) << name;
+  EXPECT_EQ(needs.find("libstdc++"), std::string::npos);
+  EXPECT_EQ(output_of("readelf -dW " ORK_LIB_DIR "/libork_outer.so").find("libork_front"), std::string::npos);
 }
 
 // Kernels still to be written, by name. The list only shrinks.

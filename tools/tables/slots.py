@@ -1,4 +1,4 @@
-"""Kernel tables, stubs, declarations and registries from zem_core/frame/slots.tsv."""
+"""Kernel tables, stubs, declarations, registries and the public layer's functions from zem_core/frame/slots.tsv."""
 import collections
 import pathlib
 
@@ -54,6 +54,17 @@ def stubs(row):
     low, fast = suffix[row.type]
     base = f"_zem{row.type}{row.function}"
     return [(base + low, 0), (base + "_HA", 1), (base, 1), (base + fast, 2)]
+
+
+# The public layer's functions of pack and unpack: 32-bit counts, strides, masks and indices.
+front_parameters = {
+    "pack_i": "int n, const E* a, int32_t stride, E* y",
+    "pack_m": "int n, const E* a, const int32_t* mask, E* y",
+    "pack_v": "int n, const E* a, const int32_t* index, E* y",
+    "unpack_i": "int n, const E* a, E* y, int32_t stride",
+    "unpack_m": "int n, const E* a, E* y, const int32_t* mask",
+    "unpack_v": "int n, const E* a, E* y, const int32_t* index",
+}
 
 
 def unique(items):
@@ -148,6 +159,59 @@ def exports(rows):
     return "\n".join(sorted(names)) + "\n"
 
 
+def front_signature(row):
+    p = front_parameters.get(row.form, parameters[row.form]).replace("E", element[row.type])
+    return f"int ork_{row.type}{row.function}({p})"
+
+
+def argument_names(declaration):
+    return [p.split()[-1].lstrip("*") for p in declaration.split(",")]
+
+
+def front_header(rows):
+    out = [f"/* {made_by}", """ *
+ * Elementwise functions: ork_<type><Function>, with the type letters s (float), d (double), and
+ * c and z (pairs of them, real part first; n counts pairs). What they return, check and do is
+ * told in front.h, which includes this file. */""",
+           "#ifndef ORK_FRONT_ELEMENTWISE_H", "#define ORK_FRONT_ELEMENTWISE_H", "",
+           "#include <stdint.h>", "", "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
+    out += [front_signature(row) + ";" for row in rows]
+    out += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
+    return "\n".join(out)
+
+
+def front_code(rows):
+    """Pack and unpack move elements by their stubs. Of the others, real ones may be divided
+    among threads; complex ones run whole: their arrays need not all step alike."""
+    out = [f"// {made_by}",
+           '#include "ork/front.h"', '#include "ork/zem_kernels.h"', '#include "outer/export.hpp"',
+           '#include "outer/front/elementwise.hpp"', "",
+           "using ork::front::call;", "using ork::front::check;", ""]
+    for row in rows:
+        name = row.type + row.function
+        out.append(f"ORK_OUTER {front_signature(row)} {{")
+        if row.form in front_parameters:
+            names = argument_names(front_parameters[row.form])
+            pointers = [n for n in names[1:] if n != "stride"]
+            words = []
+            for n in names:
+                words += [n, "0"] if n in ("n", "stride") else [n]
+            out.append(f'  const int status = check("v{name}", n, {", ".join(pointers)});')
+            out.append(f"  if (status == 0) _zem{name}({', '.join(words)}, 1);")
+            out.append("  return status;")
+        else:
+            names = argument_names(parameters[row.form])
+            divisible = "true" if row.type in "sd" else "false"
+            base = f"ork_zem_kernel_{name}"
+            out.append(f'  return call<{divisible}>("v{name}", {base}_ttab, {base}_ctab, {", ".join(names)});')
+        out.append("}")
+    return "\n".join(out) + "\n"
+
+
+def front_exports(rows):
+    return "\n".join(sorted(f"ork_{row.type}{row.function}" for row in rows)) + "\n"
+
+
 def generate():
     rows = read()
     return {
@@ -156,4 +220,7 @@ def generate():
         "zem/zem_core/frame/stubs.S": stub_code(rows),
         "tools/registry/slots.inc": registry(rows),
         "tests/project/exports/slots.txt": exports(rows),
+        "include/ork/front_elementwise.h": front_header(rows),
+        "outer/front/functions.cpp": front_code(rows),
+        "tests/project/front_exports/slots.txt": front_exports(rows),
     }

@@ -60,7 +60,7 @@ template <class C> ORK_INLINE void two_pass(int n, const double* a, double* r) {
       uint64_t image;
       __builtin_memcpy(&image, a + start + i, sizeof image);
       if (__builtin_expect(C::is_fast(image), 1)) {
-        buffer[i].y = C::first(__builtin_fabs(a[start + i]));
+        buffer[i].y = C::first(__builtin_fabs(as<double>(image)));
       } else {
         __builtin_memset(buffer + i, 0xFF, sizeof buffer[i]);
         const double x = as<double>(image);

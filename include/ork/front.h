@@ -1,0 +1,164 @@
+/* The library by its front door: functions that check what they are given.
+ *
+ * Link ork::ork_front (CMake) or what `pkg-config --libs ork` says; every other header of the
+ * library serves beside this one. All functions return 0 or a status of their domain; a call
+ * with bad arguments writes nothing. Memory is the caller's unless a comment says otherwise.
+ */
+#ifndef ORK_FRONT_H
+#define ORK_FRONT_H
+
+#include <stdint.h>
+
+#include "ork/df.h"
+#include "ork/front_elementwise.h"
+#include "ork/rua_distributions.h"
+#include "ork/ss.h"
+#include "ork/threader.h"
+#include "ork/zem_kernels.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Elementwise functions ---------------------------------------------------------------
+ *
+ * ork_dExp(n, a, r) and the others of front_elementwise.h: r[i] = exp(a[i]) for the n elements,
+ * at the accuracy of the thread's mode word (zem.h; high accuracy unless set otherwise, and
+ * where the word names none). Forms:
+ *
+ *   (n, a, r)                  most
+ *   (n, a, b, r)               Add Sub Mul Div Pow Hypot Atan2; Powx with one value b
+ *   (n, a, r, r2)              SinCos: sine, cosine; Modf: integer part, fraction
+ *   (n, a, b, scale_a, shift_a, scale_b, shift_b, r)
+ *                              LinearFrac: (scale_a a + shift_a) / (scale_b b + shift_b)
+ *   PackI, PackM, PackV        gather from a by stride, where mask[i] is not 0, by index[i]
+ *   UnpackI, UnpackM, UnpackV  scatter to y likewise. n is the number of elements moved, for
+ *                              the masked forms the length of the mask
+ *
+ * Arrays need no alignment. An output may be an input itself; arrays may not overlap otherwise.
+ * Indices and strides are not checked.
+ *
+ * Result: 0; or the status of the last element that raised one (1 domain, 2 singularity,
+ * 3 overflow, 4 underflow: all elements have their values nevertheless); or, nothing having been
+ * touched, -1 for n below 0 and -2 for a null array. n = 0 is fine, with null arrays too. The
+ * same status stays in the thread's error status, which a call without events leaves alone.
+ * Rejected calls go through the error dispatch like an element's event, with the argument's
+ * number (n is 1) as index for -1.
+ *
+ * A long vector is cut into slices for several threads (see below). Bits of results, statuses,
+ * reported indices, errno and floating-point flags are those of a whole call. Workers run under
+ * the caller's error mode, denormal handling, rounding and callback, and go back to their own.
+ * The callback runs on the thread that raises the event, for several events at once on several
+ * threads; its changes to a worker's mode end with the slice; it may call these functions. A call that is divided or rejected
+ * leaves ork_zem_kernel_SetInterfInputVectorPointer at null; other calls do not touch it. */
+
+/* The greatest number of threads for one elementwise call of this process: 0, as at the start,
+ * for what ork_threader_parallel says, 1 for none but the caller's, at most 128. Returns the
+ * setting before; a negative number only asks. */
+int ork_set_threads(int threads);
+
+/* The least work that a slice is worth, in elements times cost per element (the figures of
+ * ork_zem_kernel_<t><Function>_ctab, 0.3 to 0.8 cycles each); 100000 at the start. A vector of
+ * less than two such slices stays whole. Returns the setting before; 0, a negative number or NaN
+ * only asks. */
+float ork_set_threshold(float work);
+
+/* ---- Streams ------------------------------------------------------------------------------
+ *
+ * The functions of rua.h behind checks: RUA_STATUS_NULL_POINTER for a null stream, array or
+ * file name. Streams take no lock: one thread at a time for each. */
+
+/* A stream of generator `brng` (RUA_BRNG_...) from a seed of one word, in *stream, to be
+ * released by ork_stream_delete. After any failure *stream is null. */
+int ork_stream_new(RuaStream** stream, int32_t brng, uint32_t seed);
+
+/* Releases *stream, which may be null, and sets it to null. */
+int ork_stream_delete(RuaStream** stream);
+
+/* A second stream in *copy that goes on as the first would; null after a failure. */
+int ork_stream_copy(RuaStream** copy, const RuaStream* stream);
+
+/* The stream goes on with elements k, k + nstreams, k + 2 nstreams ... of its sequence.
+ * BAD_LEAPFROG_COUNT: nstreams below 1. BAD_ARGUMENT: k not from 0 to nstreams - 1.
+ * NO_LEAPFROG: the generator cannot. */
+int ork_stream_leapfrog(RuaStream* stream, int32_t k, int32_t nstreams);
+
+/* Passes over n elements. NO_SKIPAHEAD: the generator cannot, or not by that n. */
+int ork_stream_skip(RuaStream* stream, int64_t n);
+
+/* A stream's whole state as a file, and a new stream from it (null after a failure). */
+int ork_stream_save(const RuaStream* stream, const char* file);
+int ork_stream_load(RuaStream** stream, const char* file);
+
+/* n numbers of a distribution, with the methods and parameters of rua_distributions.h. Checked,
+ * in this order: stream null -5; method unknown -2; n below 0, a scale or shape not above 0
+ * (Uniform: a not below b), a parameter not finite -3; r null -5. n = 0 draws nothing. */
+int ork_dRngUniform(int method, RuaStream* stream, int n, double* r, double a, double b);
+int ork_sRngUniform(int method, RuaStream* stream, int n, float* r, float a, float b);
+int ork_dRngGaussian(int method, RuaStream* stream, int n, double* r, double a, double sigma);
+int ork_sRngGaussian(int method, RuaStream* stream, int n, float* r, float a, float sigma);
+int ork_dRngExponential(int method, RuaStream* stream, int n, double* r, double a, double beta);
+int ork_sRngExponential(int method, RuaStream* stream, int n, float* r, float a, float beta);
+int ork_dRngLaplace(int method, RuaStream* stream, int n, double* r, double a, double beta);
+int ork_sRngLaplace(int method, RuaStream* stream, int n, float* r, float a, float beta);
+int ork_dRngCauchy(int method, RuaStream* stream, int n, double* r, double a, double beta);
+int ork_sRngCauchy(int method, RuaStream* stream, int n, float* r, float a, float beta);
+int ork_dRngRayleigh(int method, RuaStream* stream, int n, double* r, double a, double beta);
+int ork_sRngRayleigh(int method, RuaStream* stream, int n, float* r, float a, float beta);
+int ork_dRngLognormal(int method, RuaStream* stream, int n, double* r, double a, double sigma,
+                      double b, double beta);
+int ork_sRngLognormal(int method, RuaStream* stream, int n, float* r, float a, float sigma, float b,
+                      float beta);
+int ork_dRngWeibull(int method, RuaStream* stream, int n, double* r, double alpha, double a,
+                    double beta);
+int ork_sRngWeibull(int method, RuaStream* stream, int n, float* r, float alpha, float a,
+                    float beta);
+int ork_dRngGumbel(int method, RuaStream* stream, int n, double* r, double a, double beta);
+int ork_sRngGumbel(int method, RuaStream* stream, int n, float* r, float a, float beta);
+
+/* ---- Statistics ---------------------------------------------------------------------------
+ *
+ * Computes the estimates (a mask of bits of ss.h) of a task made by __ruadSSNewTask or
+ * __ruasSSNewTask, each by the method bits that serve it: moments, sums and matrices first, then
+ * extremes, quantiles, deviations. QUANTILES by STREAM or STREAM_ADD are the streaming ones.
+ * threader null: one thread.
+ *
+ * NULL_TASK; BAD_METHOD for an estimate that no method bit serves, before anything is computed;
+ * then the first failing computation's status: what ran before it stands. */
+int ork_ss_compute(ork_ss_task* task, uint64_t estimates, uint64_t method,
+                   const ork_threader* threader);
+
+/* ---- Splines ------------------------------------------------------------------------------
+ *
+ * For tasks of df.h, made by the d or the s constructor and used with that letter; threader null:
+ * one thread. Callbacks, derivatives and hints are for the entries of df.h. */
+
+/* Types of cubic splines beside ORK_DF_TYPE_DEFAULT and ORK_DF_TYPE_HERMITE. */
+enum { ORK_DF_TYPE_NATURAL = 2, ORK_DF_TYPE_BESSEL = 4, ORK_DF_TYPE_AKIMA = 5 };
+
+/* Fills the coefficients of the spline that the task names: order 2 linear, order 3 quadratic
+ * (type 0 or ORK_DF_TYPE_SUBBOTIN), order 4 cubic by its type. Other orders have nothing to be
+ * constructed: BAD_TYPE. */
+int ork_dDFConstruct(ork_df_task* task, const ork_threader* threader);
+int ork_sDFConstruct(ork_df_task* task, const ork_threader* threader);
+
+/* Values of all functions at the sites: function f, site j at result[f * nsite + j]. siteHint: 0,
+ * ORK_DF_SITES_SORTED, or ORK_DF_SITES_UNIFORM with the first and the last site in `site`.
+ * NULL_TASK; BAD_NX: nsite below 0 or above 2^31 - 1; BAD_X: site null; NULL_RESULT. */
+int ork_dDFInterpolate(const ork_df_task* task, int64_t nsite, const double* site, int64_t siteHint,
+                       double* result, const ork_threader* threader);
+int ork_sDFInterpolate(const ork_df_task* task, int64_t nsite, const float* site, int64_t siteHint,
+                       float* result, const ork_threader* threader);
+
+/* Integrals of all functions from left[j] to right[j]: function f, pair j at
+ * result[f * nlim + j]. Statuses as above, BAD_X for either array of limits. */
+int ork_dDFIntegrate(const ork_df_task* task, int64_t nlim, const double* left, const double* right,
+                     double* result, const ork_threader* threader);
+int ork_sDFIntegrate(const ork_df_task* task, int64_t nlim, const float* left, const float* right,
+                     float* result, const ork_threader* threader);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
