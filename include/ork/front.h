@@ -49,8 +49,9 @@ extern "C" {
  * reported indices, errno and floating-point flags are those of a whole call. Workers run under
  * the caller's error mode, denormal handling, rounding and callback, and go back to their own.
  * The callback runs on the thread that raises the event, for several events at once on several
- * threads; its changes to a worker's mode end with the slice; it may call these functions. A call that is divided or rejected
- * leaves ork_zem_kernel_SetInterfInputVectorPointer at null; other calls do not touch it. */
+ * threads; its changes to a worker's mode end with the slice. It may call these functions. A call
+ * that is divided or rejected leaves ork_zem_kernel_SetInterfInputVectorPointer at null; other
+ * calls do not touch it. */
 
 /* The greatest number of threads for one elementwise call of this process: 0, as at the start,
  * for what ork_threader_parallel says, 1 for none but the caller's, at most 128. Returns the
