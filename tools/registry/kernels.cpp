@@ -1,5 +1,7 @@
 #include "registry/kernels.hpp"
 
+#include <cstring>
+
 #include <set>
 
 const std::vector<Slot> slots = {
@@ -18,8 +20,11 @@ template <class T> void Call<T>::operator()(int n, const T* a, const T* b, T* r,
       return reinterpret_cast<void (*)(int, const T*, T*)>(kernel)(n, a, r);
     case Form::binary:
       return reinterpret_cast<void (*)(int, const T*, const T*, T*)>(kernel)(n, a, b, r);
-    case Form::scalar:
-      return reinterpret_cast<void (*)(int, const T*, T, T*)>(kernel)(n, a, *b, r);
+    case Form::scalar: {
+      T second;
+      memcpy(&second, b, sizeof second);  // b may stand at any address
+      return reinterpret_cast<void (*)(int, const T*, T, T*)>(kernel)(n, a, second, r);
+    }
     case Form::two:
       return reinterpret_cast<void (*)(int, const T*, T*, T*)>(kernel)(n, a, r, r2);
     case Form::linear:

@@ -31,7 +31,7 @@ ORK_INLINE f64x2 ln_short(f64x2 y) {
 template <bool ep> ORK_INLINE f32x4 log1p_s(f32x4 u) {
   const f32x4 s = 1.0f + u;
   const f32x4 e = ((f32x4)_mm_max_ps(u, splat(1.0f)) - s) + (f32x4)_mm_min_ps(u, splat(1.0f));
-  const i32x4 d = as<i32x4>(s) - 0x3F2AAAAB, k = d >> 23;
+  const i32x4 d = as<i32x4>(as<u32x4>(s) - 0x3F2AAAAB), k = d >> 23;
   const f32x4 m = as<f32x4>((d & 0x7FFFFF) + 0x3F2AAAAB);
   const f32x4 scale = as<f32x4>((127 - k) << 23), n = _mm_cvtepi32_ps(as<__m128i>(k));
   const f32x4 v = (m - 1.0f) + e * scale;

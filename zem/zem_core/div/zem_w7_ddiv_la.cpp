@@ -17,30 +17,31 @@ struct DivLa : Core<double, 2> {
 };
 
 void one_element(const OperandsOf<DivLa>& o, int i) {
-  double pair[2] = {o.in[0][i], o.in[1][i]};  // the event is decided by the inputs, in place or not
+  double pair[2] = {read_one(o.in[0] + i), read_one(o.in[1] + i)};  // the event is decided by the inputs, in place or not
   const long double a = pair[0], b = pair[1];
   const bool regular = magnitude(pair + 1) - 1 < infinity_bits<double> - 1;
   const long double b2 = b * b;
   const long double q = regular ? 1 / (b2 * b2) * b2 * b * a : a / b;
-  o.out[0][i] = (double)q;
+  write_one(o.out[0] + i, (double)q);
   if (const int status = division_status(pair, pair + 1)) report(DivLa{}, o, i, status);
 }
 
 // False, with nothing stored, if the product of the denominators is out of range.
 ORK_INLINE bool four_elements(const double* a, const double* b, double* r) {
-  const long double p01 = (long double)b[0] * b[1], p23 = (long double)b[2] * b[3];
+  const long double b0 = read_one(b), b1 = read_one(b + 1), b2 = read_one(b + 2), b3 = read_one(b + 3);
+  const long double p01 = b0 * b1, p23 = b2 * b3;
   const long double p = p01 * p23;
   const uint32_t image = as<uint32_t>((float)p) << 1;
   if (__builtin_expect(image == 0 || image >= 0xFF000000, 0)) return false;
   const long double inv = 1 / p;
-  const long double r0 = b[1] * p23 * inv * a[0];
-  const long double r1 = b[0] * p23 * inv * a[1];
-  const long double r2 = b[3] * p01 * inv * a[2];
-  const long double r3 = b[2] * p01 * inv * a[3];
-  r[0] = (double)r0;
-  r[1] = (double)r1;
-  r[2] = (double)r2;
-  r[3] = (double)r3;
+  const long double r0 = b1 * p23 * inv * read_one(a);
+  const long double r1 = b0 * p23 * inv * read_one(a + 1);
+  const long double r2 = b3 * p01 * inv * read_one(a + 2);
+  const long double r3 = b2 * p01 * inv * read_one(a + 3);
+  write_one(r, (double)r0);
+  write_one(r + 1, (double)r1);
+  write_one(r + 2, (double)r2);
+  write_one(r + 3, (double)r3);
   return true;
 }
 

@@ -59,7 +59,7 @@ struct LinearFrac : Core<T> {
                           as<i32x4>(words(exponent - 3 * one_bit - 0x80000000)));
       }
       if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) {
-        for (const int end = i + block; i < end; ++i) r[i] = element<constant>(s, a[i], b[i]);
+        for (const int end = i + block; i < end; ++i) write_one(r + i, element<constant>(s, read_one(a + i), read_one(b + i)));
         i -= block;
         continue;
       }
@@ -77,14 +77,14 @@ struct LinearFrac : Core<T> {
 #pragma GCC unroll 4
       for (int k = 0; k < 4; ++k) store(r + i + k * width, quotient[k]);
     }
-    for (; i < n; ++i) r[i] = element<constant>(s, a[i], b[i]);
+    for (; i < n; ++i) write_one(r + i, element<constant>(s, read_one(a + i), read_one(b + i)));
   }
 
   ORK_INLINE void constant_denominator(const LinearFrac& s, int n, const T* a, T* r) {
     int i = 0;
     for (; i <= n - width; i += width)
       store(r + i, linear(load(a + i), s.scale_a, s.shift_a) / splat(s.shift_b));
-    for (; i < n; ++i) r[i] = linear(a[i], s.scale_a, s.shift_a) / s.shift_b;
+    for (; i < n; ++i) write_one(r + i, linear(read_one(a + i), s.scale_a, s.shift_a) / s.shift_b);
   }
 };
 
