@@ -177,7 +177,7 @@ template <class T, class Level> struct Asin : Core<T> {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'A', 's', 'i', 'n', 0};
-  static vec eval(vec x, u32x4& rare) {
+  ORK_INLINE vec eval(vec x, u32x4& rare) {
     const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec a = abs(x);
     rare |= as<u32x4>(not_below_or_equal(a, splat(T(1))));
@@ -195,7 +195,7 @@ template <class T, class Level> struct Acos : Core<T> {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'A', 'c', 'o', 's', 0};
-  static vec eval(vec x, u32x4& rare) {
+  ORK_INLINE vec eval(vec x, u32x4& rare) {
     const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec a = abs(x);
     rare |= as<u32x4>(not_below_or_equal(a, splat(T(1))));

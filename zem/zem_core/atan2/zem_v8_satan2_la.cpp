@@ -6,7 +6,7 @@ namespace {
 
 struct Atan2LaS : Core<float, 2> {
   static constexpr char name[] = "vsAtan2";
-  static f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
     rare |= atan2_rare(y, x);
     const Octant<float> o(y, x);
     const f32x4 q = o.small / o.large, z = q * q, w = z * z;

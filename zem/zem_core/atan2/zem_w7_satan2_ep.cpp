@@ -9,7 +9,7 @@ namespace {
 struct Atan2EpS : Core<float, 2> {
   static constexpr char name[] = "vsAtan2";
   static constexpr unsigned x87 = x87_extended;
-  static f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
     const f32x4 ay = abs(y), ax = abs(x);
     rare |= (as<u32x4>(ay) - 0x01000001) | (0x7CFFFFFF - as<u32x4>(ay)) |
             (as<u32x4>(ax) - 0x01000001) | (0x7CFFFFFF - as<u32x4>(ax));

@@ -16,7 +16,7 @@ alignas(16) constexpr ErfRowHa table[] = {
 
 struct ErfHaD : ErfCore<double> {
   static constexpr char name[] = "vdErf";
-  static f64x2 eval(f64x2 x, u32x4&) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4&) {
     const ErfReduced r = erf_reduce(x, [](f64x2 y) { return (u64x2)(y >= 0.02734375); });
     const f64x2 p =
         r.e * horner(r.e, -1.0, ratio<2, 3>, -ratio<1, 3>, ratio<2, 15>, -ratio<2, 45>) +

@@ -70,7 +70,7 @@ inline int erfc_special(const T* a, T* r, T reach, T underflow, T (*value)(T)) {
 template <class Formula>
 struct ErfcD : Core<double> {
   static constexpr char name[] = "vdErfc";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= outside(as<u32x4>(abs(x)), 0, 0x403A8B12);
     return Formula::value(x);
   }
@@ -89,7 +89,7 @@ struct ErfcS : Core<float> {
     const f32x4 high = _mm_cvtpd_ps(Formula::value(_mm_cvtps_pd(_mm_movehl_ps(x, x))));
     return _mm_movelh_ps(low, high);
   }
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= outside(as<u32x4>(abs(x)), 0, 0x41131CE0);
     return value(x);
   }

@@ -39,7 +39,7 @@ struct TanhBaseS : Core<float> {
 };
 
 template <bool low_word> struct TanhS : TanhBaseS {
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     const __m128i row = row_of(a, rare);
     f32x4 high[4], low[4];
@@ -54,7 +54,7 @@ template <bool low_word> struct TanhS : TanhBaseS {
 
 // Cubics; the centre is made of the argument's own bits, 0 in row 0.
 struct TanhEpS : TanhBaseS {
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     const __m128i row = row_of(a, rare);
     f32x4 c[4];
