@@ -1,5 +1,5 @@
 // Acos, single, EP: K = v + v S(z) as in Asin EP; pi/2 - K below 0.5, 2 K or pi - 2 K above.
-// Rare: |x| >= 1, NaN. Bound: 2^-11.
+// Rare: |x| >= 1, NaN. Bound: 2^-12.
 #include "asin/asin_s.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"

@@ -1,5 +1,5 @@
 // Asin, single, EP: as LA with v by rsqrt and a Newton step, S of degree 2.
-// Rare: |x| >= 1, NaN. Bound: 2^-11.
+// Rare: |x| >= 1, NaN. Bound: 2^-12.
 #include "asin/asin_s.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
