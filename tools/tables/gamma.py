@@ -116,7 +116,7 @@ ln |Gamma(zero + w t)|, t in [-1, 1]. Row 2 (n - 2) lies left, row 2 (n - 2) + 1
 n = 2..16. The row of zeros: no zero there.""", worst, rows)
 
 
-def sine(count):
+def sine(count, literal):
     """c[k] of f^2k in sin(pi f) / (pi f), |f| <= 1/2."""
     c, worst = approximate(lambda t: (lambda f: sin(pi * f) / (pi * f) if f else mpf(1))(mp.sqrt((t + 1) / 8)), count - 1)
     # from t = 8 g - 1 to g = f^2
@@ -127,7 +127,7 @@ def sine(count):
     head = f"""// c[k] of sum c[k] f^2k for sin(pi f) / (pi f), |f| <= 1/2.
 // Worst relative error {float(worst):.2e}; {mp.prec} bits of precision; made by ./dev tables gamma.
 """
-    return head + "".join(extended(v) + ",\n" for v in powers)
+    return head + "".join(literal(v) + ",\n" for v in powers)
 
 
 def ln_rows():
@@ -169,7 +169,8 @@ def generate():
                  (mpf("1.75"), 2, 2), (2, 4, 2)], 10)
     out[at + "roots.inc"] = roots()
     out[at + "ln.inc"] = ln_rows()
-    out[at + "sine.inc"] = sine(10)
+    out[at + "sine.inc"] = sine(10, extended)
+    out[at + "sine_s.inc"] = sine(6, lambda v: number(v, "d"))
     at = "zem/zem_core/tgamma/"
     out[at + "rows_d.inc"] = tgamma_rows(187, 4, 24, extended)
     out[at + "rows_s.inc"] = tgamma_rows(47, 1, 12, lambda v: number(v, "d"))
