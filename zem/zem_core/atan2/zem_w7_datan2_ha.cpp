@@ -1,9 +1,8 @@
-// Atan2, double, HA: what fpatan gives, to the bit. As the instruction takes 140 cycles, atan q
-// is first formed in two words: t = (small - b large)/(large + b small), its remainder divided
-// once more, and the steps' and octants' angles added with their low words; the error is below
-// 2^-64. A lane whose sum lies within 2^-62 of a border between two doubles, and every lane
-// with an exponent beyond +-400, is left to the instruction; so are no special values but
-// those of vdatan2_cout_rare. Bound: 0.51 ulp.
+// Atan2, double, HA: what fpatan gives, to the bit. The instruction takes 140 cycles, so atan q
+// is first formed in two words, with an error below 2^-64: t = (small - b large)/(large + b small),
+// its remainder divided once more, then the angles of step and octant with their low words.
+// Rare: lanes within 2^-62 of a border between two doubles, and those with an exponent beyond
+// +-400, both left to the instruction; zeros, infinities, NaNs. Bound: 0.51 ulp.
 #include "atan2/atan2.hpp"
 
 namespace ork {
