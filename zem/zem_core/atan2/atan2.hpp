@@ -76,7 +76,7 @@ ORK_INLINE f64x2 atan_step(f64x2 q, f64x2& high, f64x2& low) {
   return k - shifter;
 }
 
-// Double: the roundings of q and t and the last sums are the errors that count, 1.7 ulp in all. The series of
+// Double: the roundings of q and t and the last sums are the errors that count, 2 ulp in all. The series of
 // atan t is good to 2^-59.
 ORK_INLINE f64x2 atan2_la(f64x2 y, f64x2 x) {
   const Octant<double> o(y, x);

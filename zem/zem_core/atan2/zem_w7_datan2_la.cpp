@@ -1,4 +1,4 @@
-// Atan2, double, LA: see atan2.hpp. Bound: 2 ulp.
+// Atan2, double, LA: see atan2.hpp. Bound: 2.5 ulp.
 #include "atan2/atan2.hpp"
 
 namespace ork {
