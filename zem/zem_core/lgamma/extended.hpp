@@ -65,13 +65,19 @@ template <class T> ORK_INLINE long double ln_extended(long double x) {
   return (k * ln2_extended + row.t) + r * polynomial(Series<T>::ln, r);
 }
 
+// |x| of a finite x, in its own register: a 64-bit image would be stored in halves, and its load
+// would stall.
+ORK_INLINE double size_of(double x) { return __builtin_fabs(x); }
+ORK_INLINE float size_of(float x) { return __builtin_fabsf(x); }
+
 // x >= 0, below 2^63: the nearest integer n and x - n, exactly.
 struct Split {
   int64_t n;
   long double f;
   __attribute__((always_inline)) explicit Split(long double x) {
-    asm("fistpll %0" : "=m"(n) : "t"(x) : "st");
-    f = x - (long double)n;
+    long double whole;
+    asm("fistpll %1\n\tfildll %1" : "=t"(whole), "=m"(n) : "0"(x));
+    f = x - whole;
   }
 };
 

@@ -131,7 +131,7 @@ ORK_INLINE int rare(const T* a, T* r) {
     *r = 1 / zero;
     return ZEM_STATUS_SINGULARITY;
   }
-  const T x = as<T>(size);
+  const T x = size_of(*a);
   if (!sign(a)) {
     if (size > Rows<T>::overflow) {
       volatile long double largest =

@@ -87,7 +87,7 @@ ORK_INLINE int rare(const T* a, T* r) {
     *r = 1 / *a;
     return ZEM_STATUS_SINGULARITY;
   }
-  const T x = as<T>(size);
+  const T x = size_of(*a);
   if (!negative) {
     if (x > L::overflow) {
       volatile long double largest = L::largest;
