@@ -135,30 +135,30 @@ constexpr float s_ep[][4] = {
 };
 }  // namespace tanh_rows
 namespace gamma_rows {
-template <int factors> struct Lgamma {
+template <class C, int factors> struct Lgamma {
   double middle, per_half;
-  long double scale, factor[2 * factors];
+  C scale, factor[2 * factors];
 };
-template <int factors> struct Low {
+template <class C, int factors> struct Low {
   double middle, per_half;
-  long double scale;
+  C scale;
   int zero;
-  long double factor[2 * factors];
+  C factor[2 * factors];
 };
 struct Root {
   double high;
   long double low, per_width, c[24];
 };
-constexpr Lgamma<12> binades_d[] = {
+constexpr Lgamma<long double, 12> binades_d[] = {
 #include "../../zem/zem_core/lgamma/binades_d.inc"
 };
-constexpr Lgamma<6> binades_s[] = {
+constexpr Lgamma<double, 6> binades_s[] = {
 #include "../../zem/zem_core/lgamma/binades_s.inc"
 };
-constexpr Low<11> low_d[] = {
+constexpr Low<long double, 11> low_d[] = {
 #include "../../zem/zem_core/lgamma/low_d.inc"
 };
-constexpr Low<5> low_s[] = {
+constexpr Low<double, 5> low_s[] = {
 #include "../../zem/zem_core/lgamma/low_s.inc"
 };
 constexpr Root roots[] = {
@@ -330,7 +330,7 @@ TEST(Tables, Tanh) {
 TEST(Tables, Gamma) {
   const auto product = [](const auto& row, quad t) {
     quad y = row.scale;
-    for (int k = 0; k < count(row.factor); k += 2) y *= (t * t + row.factor[k + 1]) + row.factor[k] * t;
+    for (int k = 0; k < count(row.factor); k += 2) y *= (t * t + quad(row.factor[k + 1])) + quad(row.factor[k]) * t;
     return y;
   };
   const auto binade = [=](const auto& table) {

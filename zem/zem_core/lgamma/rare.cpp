@@ -12,31 +12,33 @@
 namespace ork {
 namespace {
 
+// C: the type of the coefficients. Those in double are memory operands of the arithmetic.
+template <class C>
 struct Factor {
-  long double p, q;
+  C p, q;
 };
-template <int factors>
+template <class C, int factors>
 struct Binade {
   double middle, per_half;
-  long double scale;
-  Factor factor[factors];
+  C scale;
+  Factor<C> factor[factors];
 };
-template <int factors>
+template <class C, int factors>
 struct Low {
   double middle, per_half;
-  long double scale;
+  C scale;
   int zero;
-  Factor factor[factors];
+  Factor<C> factor[factors];
 };
 
 template <class T>
 struct Rows;
 template <>
 struct Rows<double> {
-  static constexpr Binade<12> binades[] = {
+  static constexpr Binade<long double, 12> binades[] = {
 #include "lgamma/binades_d.inc"
   };
-  static constexpr Low<11> low[] = {
+  static constexpr Low<long double, 11> low[] = {
 #include "lgamma/low_d.inc"
   };
   static constexpr double lowest = 0.875, stirling = 512.0;
@@ -47,10 +49,10 @@ struct Rows<double> {
 };
 template <>
 struct Rows<float> {
-  static constexpr Binade<6> binades[] = {
+  static constexpr Binade<double, 6> binades[] = {
 #include "lgamma/binades_s.inc"
   };
-  static constexpr Low<5> low[] = {
+  static constexpr Low<double, 5> low[] = {
 #include "lgamma/low_s.inc"
   };
   static constexpr float lowest = 1.0f, stirling = 8192.0f;
@@ -71,7 +73,7 @@ static_assert(sizeof roots / sizeof *roots == 2 * (16 - 2 + 1));
 
 template <class Row>
 ORK_INLINE long double product(const Row& row, long double x) {
-  constexpr int count = sizeof row.factor / sizeof(Factor);
+  constexpr int count = sizeof row.factor / sizeof *row.factor;
   const long double t = (x - row.middle) * row.per_half, t2 = t * t;
   long double y = row.scale;
 #pragma GCC unroll 1  // unrolled, all coefficients would be loaded first, and spilled
