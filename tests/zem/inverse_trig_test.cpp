@@ -2,6 +2,7 @@
 #include <quadmath.h>
 
 #include <array>
+#include <random>
 
 #include "support/bits.hpp"
 #include "support/control.hpp"
@@ -22,14 +23,15 @@ TYPED_TEST_SUITE(InverseTrig, Types);
 TYPED_TEST(InverseTrig, SpecialValues) {
   using T = TypeParam;
   const T past_one = std::nextafter(T(1), T(2));
-  const T nan = quiet_nan<T>;
+  const T nan = quiet_nan<T>, denormal = smallest_denormal<T>;
   for (int level = 0; level < 3; ++level) {
     const bool ep = level == 2;
     check_special<T>({"Asin", level, wide<T> ? "vdAsin" : "vsAsin", T(0.3), 0,
-                      {{0, 0}, {-T(0), -T(0)}, {1, pi<T> / 2}, {-1, -pi<T> / 2}, {nan, nan},
+                      {{0, 0}, {-T(0), -T(0)}, {denormal, denormal}, {-3 * denormal, -3 * denormal},
+                       {1, pi<T> / 2}, {-1, -pi<T> / 2}, {nan, nan},
                        {past_one, nan, 1}, {-past_one, nan, 1}, {inf<T>, nan, 1}, {-inf<T>, nan, 1}}});
     check_special<T>({"Acos", level, wide<T> ? "vdAcos" : "vsAcos", T(0.3), 0,
-                      {{0, pi<T> / 2}, {-T(0), pi<T> / 2}, {1, 0}, {-1, pi<T>}, {nan, nan},
+                      {{0, pi<T> / 2}, {-T(0), pi<T> / 2}, {denormal, pi<T> / 2}, {-denormal, pi<T> / 2}, {1, 0}, {-1, pi<T>}, {nan, nan},
                        {past_one, nan, 1}, {-past_one, nan, 1}, {inf<T>, nan, 1}, {-inf<T>, nan, 1}}});
     SpecialTable<T> atan{"Atan", level, "", T(0.3), 0,
                          {{0, 0}, {-T(0), -T(0)}, {inf<T>, pi<T> / 2}, {-inf<T>, -pi<T> / 2}, {nan, nan},
@@ -75,11 +77,11 @@ TYPED_TEST(InverseTrig, DirectedPoints) {
   };
   const auto unit = inside(neighbours<T>({T(0.5), T(-0.5), T(1), T(-1), tiny<T>}, 20) + spread<T>(-1, 1, 4001));
   if (wide<T>) {
-    check_directed<T>("Asin", asinq, unit, {{2.5, 0.90, 0x1p-26}, {false, false, true}});
-    check_directed<T>("Acos", acosq, unit, {{2.5, 0.90, 0x1p-26}, {false, false, true}});
+    check_directed<T>("Asin", asinq, unit, {{2.5, 0.80, 0x1p-26}, {false, false, true}});
+    check_directed<T>("Acos", acosq, unit, {{2.5, 0.80, 0x1p-26}, {false, false, true}});
   } else {
-    check_directed<T>("Asin", asinq, unit, {{2.5, 0.66, 0x1p-12}, {false, false, true}});
-    check_directed<T>("Acos", acosq, unit, {{2.5, 0.66, 0x1p-12}, {false, false, true}});
+    check_directed<T>("Asin", asinq, unit, {{2.5, 0.51, 0x1p-12}, {false, false, true}});
+    check_directed<T>("Acos", acosq, unit, {{2.5, 0.51, 0x1p-12}, {false, false, true}});
   }
   std::vector<T> borders{T(1), T(-1), T(0.4375), T(0.72), T(2.29), T(0x1p54)};
   for (int i = 0; i < 126; ++i) borders.push_back(std::ldexp(1 + T(i % 16) / 16, i / 16 - 3));
@@ -91,10 +93,10 @@ TYPED_TEST(InverseTrig, DirectedPoints) {
 }
 
 TYPED_TEST(InverseTrig, HardCasesAsin) {
-  check_worst_cases<TypeParam>("Asin", "asin", {{2.5, wide<TypeParam> ? 0.90 : 0.66, 0x1p-11}, {false, false, true}});
+  check_worst_cases<TypeParam>("Asin", "asin", {{2.5, wide<TypeParam> ? 0.80 : 0.51, 0x1p-12}, {false, false, true}});
 }
 TYPED_TEST(InverseTrig, HardCasesAcos) {
-  check_worst_cases<TypeParam>("Acos", "acos", {{2.5, wide<TypeParam> ? 0.90 : 0.66, 0x1p-11}, {false, false, true}});
+  check_worst_cases<TypeParam>("Acos", "acos", {{2.5, wide<TypeParam> ? 0.80 : 0.51, 0x1p-12}, {false, false, true}});
 }
 TYPED_TEST(InverseTrig, HardCasesAtan) {
   check_worst_cases<TypeParam>("Atan", "atan", {{3.6, wide<TypeParam> ? 0.6 : 0.95, 0x1p-12}, {false, false, true}});
@@ -126,6 +128,45 @@ TYPED_TEST(InverseTrig, Atan2InEveryOctant) {
       const quad ulp = ldexpq(1, std::max(e, std::numeric_limits<T>::min_exponent) - digits);
       ASSERT_LE(double(fabsq(r[i] - exact) / ulp), bounds[call.level])
           << call.slot->name(call.level) << "(" << y[i] << ", " << x[i] << ") = " << r[i];
+    }
+  }
+}
+
+// Of the single kernels in blocks |x| > 1 yields this very NaN, and a NaN comes out as it went in.
+TEST(InverseTrigSingle, AsinKeepsNanImages) {
+  const float a[] = {2, -2, inf<float>, -inf<float>, from_bits<float>(0x7FC01234), from_bits<float>(0xFFC00001), 0.5f, 1};
+  for (int level = 0; level < 3; ++level) {
+    float r[8];
+    ork_zem_kernel_sAsin_ttab[level](8, a, r);
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(bits(r[i]), 0xFFC00000u) << level << " " << i;
+    for (int i = 4; i < 6; ++i) EXPECT_EQ(bits(r[i]), bits(a[i])) << level << " " << i;
+  }
+}
+
+// Double HA is what the x87's instruction gives, whichever way a lane went.
+TEST(InverseTrigHa, Atan2EqualsTheInstruction) {
+  std::mt19937_64 draw(5);
+  std::vector<double> y, x;
+  const auto number = [&](int spread) {
+    const int e = int(draw() % unsigned(2 * spread)) - spread;
+    const double d = std::ldexp(1 + double(draw() >> 12) * 0x1p-52, e);
+    return draw() & 1 ? -d : d;
+  };
+  for (const int spread : {1, 3, 70, 420, 1020})
+    for (int i = 0; i < 60000; ++i) y.push_back(number(spread)), x.push_back(number(spread));
+  for (int k = 0; k <= 64; ++k)  // quotients at the steps and half-way between them
+    for (int i = 1; i < 400; ++i) {
+      const double width = std::ldexp(1.0 + double(i), i % 60 - 30);
+      y.push_back((k + (i % 2) / 2.0) / 64 * width + std::ldexp(width, -10 - i % 50)), x.push_back(width);
+    }
+  std::vector<double> r(y.size());
+  for (const auto& call : elementwise_kernels<double>()) {
+    if (strcmp(call.slot->function, "Atan2") != 0 || call.level != 1) continue;
+    call(int(y.size()), y.data(), x.data(), r.data(), nullptr);
+    for (size_t i = 0; i < y.size(); ++i) {
+      double exact;
+      asm("fldl %1\n\tfldl %2\n\tfpatan\n\tfstpl %0" : "=m"(exact) : "m"(y[i]), "m"(x[i]));
+      ASSERT_EQ(r[i], exact) << "(" << y[i] << ", " << x[i] << ")";
     }
   }
 }

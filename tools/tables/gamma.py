@@ -16,6 +16,10 @@ def extended(x):
     return f"{'-' if x < 0 else ''}0x{m:X}p{e - 64}L"
 
 
+def double(x):
+    return number(x, "d")
+
+
 def approximate(f, degree):
     """Near-minimax coefficients on [-1, 1], highest power first, and their worst error relative to f."""
     seen = {}
@@ -59,18 +63,18 @@ def near_zero(x, zero):
     return loggamma(x) / u
 
 
-def lgamma_row(f, low, high, degree, origin=0):
+def lgamma_row(f, low, high, degree, literal, origin=0):
     """Middle - origin, 1/half-width, end scale and quadratics of f on [low, high]; the error."""
     middle, half = (mpf(low) + high) / 2, 1 / rounded(2 / (mpf(high) - low), 53)
     c, worst = approximate(lambda t: f(middle + half * t), degree)
     pairs, scale = quadratics(c)
-    return [number(middle - origin, "d"), number(1 / half, "d"), extended(scale)] + [
-        extended(v) for v in pairs], worst
+    return [number(middle - origin, "d"), number(1 / half, "d"), literal(scale)] + [
+        literal(v) for v in pairs], worst
 
 
-def lgamma_rows(binades, degree, intervals, low_degree):
-    high = [lgamma_row(loggamma, 2**k, 2**(k + 1), degree) for k in range(2, 2 + binades)]
-    low = [lgamma_row(lambda x: near_zero(x, zero), a, b, low_degree, 1) for a, b, zero in intervals]
+def lgamma_rows(binades, degree, intervals, low_degree, literal):
+    high = [lgamma_row(loggamma, 2**k, 2**(k + 1), degree, literal) for k in range(2, 2 + binades)]
+    low = [lgamma_row(lambda x: near_zero(x, zero), a, b, low_degree, literal, 1) for a, b, zero in intervals]
     for (row, _), (_, _, zero) in zip(low, intervals):
         row.insert(3, str(zero - 1))
     described = """1/half-width of an interval, scale, {}p, q of the quadratics whose product, times scale, approximates
@@ -116,7 +120,7 @@ ln |Gamma(zero + w t)|, t in [-1, 1]. Row 2 (n - 2) lies left, row 2 (n - 2) + 1
 n = 2..16. The row of zeros: no zero there.""", worst, rows)
 
 
-def sine(count):
+def sine(count, literal):
     """c[k] of f^2k in sin(pi f) / (pi f), |f| <= 1/2."""
     c, worst = approximate(lambda t: (lambda f: sin(pi * f) / (pi * f) if f else mpf(1))(mp.sqrt((t + 1) / 8)), count - 1)
     # from t = 8 g - 1 to g = f^2
@@ -127,7 +131,7 @@ def sine(count):
     head = f"""// c[k] of sum c[k] f^2k for sin(pi f) / (pi f), |f| <= 1/2.
 // Worst relative error {float(worst):.2e}; {mp.prec} bits of precision; made by ./dev tables gamma.
 """
-    return head + "".join(extended(v) + ",\n" for v in powers)
+    return head + "".join(literal(v) + ",\n" for v in powers)
 
 
 def ln_rows():
@@ -163,15 +167,16 @@ def generate():
     at = "zem/zem_core/lgamma/"
     out[at + "binades_d.inc"], out[at + "low_d.inc"] = lgamma_rows(
         7, 24, [(mpf("0.875"), mpf("1.25"), 1), (mpf("1.25"), mpf("1.75"), 2), (mpf("1.75"), mpf("2.25"), 2),
-                (mpf("2.25"), 4, 2)], 22)
+                (mpf("2.25"), 4, 2)], 22, extended)
     out[at + "binades_s.inc"], out[at + "low_s.inc"] = lgamma_rows(
         11, 12, [(1, mpf("1.25"), 1), (mpf("1.25"), mpf("1.5"), 1), (mpf("1.5"), mpf("1.75"), 2),
-                 (mpf("1.75"), 2, 2), (2, 4, 2)], 10)
+                 (mpf("1.75"), 2, 2), (2, 4, 2)], 10, double)
     out[at + "roots.inc"] = roots()
     out[at + "ln.inc"] = ln_rows()
-    out[at + "sine.inc"] = sine(10)
+    out[at + "sine.inc"] = sine(10, extended)
+    out[at + "sine_s.inc"] = sine(6, double)
     at = "zem/zem_core/tgamma/"
     out[at + "rows_d.inc"] = tgamma_rows(187, 4, 24, extended)
-    out[at + "rows_s.inc"] = tgamma_rows(47, 1, 12, lambda v: number(v, "d"))
+    out[at + "rows_s.inc"] = tgamma_rows(47, 1, 12, double)
     mp.prec = saved
     return out

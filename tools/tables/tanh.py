@@ -45,12 +45,18 @@ def rows(t, count, degree, first, layout):
     return [[number(x, t) for x in layout(row)] for row in result], float(worst)
 
 
+def split_slope(row):
+    """c2 with four bits first: times t, of 20 bits, it is exact."""
+    slope = rounded(row[2], 4)
+    return row[:2] + [slope, row[2] - slope] + row[3:-1]
+
+
 def generate():
     at = "zem/zem_core/tanh/"
     given_d = {1: "-2.26e-14", 2: "-0.33333333332733495", 4: "0.13333336553530611",
                6: "-0.053950559160515929", 8: "0.023253339490596985"}
     d, worst_d = rows("d", 60, 10, given_d, lambda row: row + [mpf(0)] * 3)
-    s, worst_s = rows("s", 52, 5, {}, lambda row: row)
+    s, worst_s = rows("s", 52, 5, {}, split_slope)
     ep, worst_ep = rows("s", 52, 3, {}, lambda row: row[1:-1])
     head = ("tanh a = c1 + (c2 t + c3 t^2 + ...) + c0, t = a + shift, in eighths of a binade from 0.125\n"
             "up; shift is the negated centre, c0 the low part of the value there. Row 0 serves the\n"
@@ -58,6 +64,6 @@ def generate():
             "A row: {}.")
     return {
         at + "rows_d.inc": table("tanh", head.format(worst_d, 20, "c0 to c11, shift, padding"), d),
-        at + "rows_s.inc": table("tanh", head.format(worst_s, 10, "c0 to c6, shift"), s),
+        at + "rows_s.inc": table("tanh", head.format(worst_s, 10, "c0, c1, c2 in two parts, c3 to c6; shift is made of the argument"), s),
         at + "rows_s_ep.inc": table("tanh", head.format(worst_ep, 10, "c1 to c4"), ep),
     }

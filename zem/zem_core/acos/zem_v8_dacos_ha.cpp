@@ -1,4 +1,4 @@
-// Acos, double, HA: see asin.hpp. Bound: 0.90 ulp.
+// Acos, double, HA: see asin.hpp. Bound: 0.80 ulp.
 #include "asin/asin.hpp"
 #include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"

@@ -4,5 +4,5 @@
 #include "ork/zem_kernels.h"
 
 ORK_EXPORT void ork_zem_kernel_sAcos_V8LAynn(int n, const float* a, float* r) {
-  ork::chunk<ork::Acos<float, ork::AsinLa>>(n, {{a}, {r}});
+  ork::chunk<ork::Acos<float, ork::AsinLaInSingle>>(n, {{a}, {r}});
 }

@@ -1,5 +1,5 @@
 // Acos, single, EP: K = v + v S(z) as in Asin EP; pi/2 - K below 0.5, 2 K or pi - 2 K above.
-// Rare: |x| >= 1, NaN. Bound: 2^-11.
+// Rare: |x| >= 1, NaN. Bound: 2^-12.
 #include "asin/asin_s.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
@@ -9,7 +9,7 @@ namespace {
 
 struct AcosEpS : Core<float> {
   static constexpr char name[] = "vsAcos";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(a, splat(1.0f)));
     const u32x4 outer = as<u32x4>((f32x4)_mm_cmple_ps(splat(0.5f), a));

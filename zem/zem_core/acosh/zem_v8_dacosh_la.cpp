@@ -7,7 +7,7 @@ namespace {
 
 struct AcoshLa : Core<double> {
   static constexpr char name[] = "vdAcosh";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= (0x5F2FFFFF - as<u32x4>(x)) | (as<u32x4>(x) - 0x3FF00000);
     const f64x2 t = x - 1.0;
     return log1p_la(t + sqrt((t + t) + t * t));

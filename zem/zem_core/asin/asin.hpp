@@ -11,29 +11,25 @@ ORK_INLINE f64x2 less(f64x2 x, f64x2 y) { return _mm_cmplt_pd(x, y); }
 ORK_INLINE f32x4 less(f32x4 x, f32x4 y) { return _mm_cmplt_ps(x, y); }
 ORK_INLINE f64x2 not_below_or_equal(f64x2 x, f64x2 y) { return _mm_cmpnle_pd(x, y); }
 ORK_INLINE f32x4 not_below_or_equal(f32x4 x, f32x4 y) { return _mm_cmpnle_ps(x, y); }
-ORK_INLINE f64x2 where_nonzero(f64x2 z, f64x2 x) { return _mm_and_pd(_mm_cmpneq_pd(z, splat(0.0)), x); }
-ORK_INLINE f32x4 where_nonzero(f32x4 z, f32x4 x) { return _mm_and_ps(_mm_cmpneq_ps(z, splat(0.0f)), x); }
 ORK_INLINE f64x2 smaller(f64x2 x, f64x2 y) { return _mm_min_pd(x, y); }
 ORK_INLINE f32x4 smaller(f32x4 x, f32x4 y) { return _mm_min_ps(x, y); }
 
-// 1/sqrt z to 12 bits; 0 for z = 0, which makes the root 0, too.
-ORK_INLINE f64x2 root_estimate(f64x2 z) {
-  return where_nonzero(z, _mm_cvtps_pd(rsqrt_est(_mm_cvtpd_ps(z))));
-}
-ORK_INLINE f32x4 root_estimate(f32x4 z) { return where_nonzero(z, rsqrt_est(z)); }
+// 1/sqrt z to 12 bits; finite for z = 0, so that z times it is 0. No other z is below 2^-54.
+ORK_INLINE f32x4 root_estimate(f32x4 z) { return rsqrt_est(_mm_max_ps(z, splat(__FLT_MIN__))); }
+ORK_INLINE f64x2 root_estimate(f64x2 z) { return _mm_cvtps_pd(root_estimate((f32x4)_mm_cvtpd_ps(z))); }
 
 // 2 sqrt z = S (1 + w/2)^(-1/2) with S = 2 z rsqrt z, w = S rsqrt z - 2, |w| < 1.5e-3.
 // Degree 2 in w is good to 2^-33, degree 4 to 2^-53. Constants: given.
-template <int degree> ORK_INLINE f64x2 twice_root(f64x2 z, f64x2 estimate) {
-  const f64x2 s = (z + z) * estimate, w = s * estimate - 2.0;
+template <int degree> ORK_INLINE f64x2 twice_root(f64x2 twice_z, f64x2 estimate) {
+  const f64x2 s = twice_z * estimate, w = s * estimate - 2.0;
   if constexpr (degree == 2)
     return s - s * (w * (0.24999999999999725 + w * -0.09374999999999499));
   else
     return s - s * (w * (0.24999999999999725 + w * (-0.09374999999999499 +
                     w * (0.039062512973409326 + w * -0.017089852669219818))));
 }
-template <int> ORK_INLINE f32x4 twice_root(f32x4 z, f32x4 estimate) {
-  const f32x4 s = (z + z) * estimate, w = s * estimate - 2.0f;
+ORK_INLINE f32x4 twice_root(f32x4 twice_z, f32x4 estimate) {
+  const f32x4 s = twice_z * estimate, w = s * estimate - 2.0f;
   return s - s * (w * (0.25000003f + w * -0.0937500298f));
 }
 
@@ -42,11 +38,11 @@ inline constexpr double asin_rest_d[] = {
 #include "asin/poly_d.inc"
 };
 ORK_INLINE f64x2 asin_poly(f64x2 y) {
-  const double* const c = asin_rest_d;
-  f64x2 p = splat(c[8]);
-#pragma GCC unroll 8
-  for (int n = 7; n >= 0; --n) p = c[n] + y * p;
-  return 0.16666666666664731 + y * (0.075000000004254969 + y * (0.044642856775805428 + y * p));
+  const double* const c = asin_rest_d - 3;
+  const f64x2 w = y * y;
+  const f64x2 even = 0.16666666666664731 + w * (0.044642856775805428 + w * (c[4] + w * (c[6] + w * (c[8] + w * c[10]))));
+  const f64x2 odd = 0.075000000004254969 + w * (c[3] + w * (c[5] + w * (c[7] + w * (c[9] + w * c[11]))));
+  return even + y * odd;
 }
 // Relative error of asin 2^-28. Constants: given.
 ORK_INLINE f64x2 asin_poly_ep(f64x2 y) {
@@ -54,13 +50,14 @@ ORK_INLINE f64x2 asin_poly_ep(f64x2 y) {
   return (0.16666656768980395 + y * 0.075006122693918847) + w * ((0.044501696981026712 +
          y * 0.031911494806822795) + w * (0.014101564261929104 + y * 0.037936060488222831));
 }
-ORK_INLINE f64x2 asin_poly_ha(f64x2 y) { return asin_poly(y); }
-inline constexpr float asin_ha_s[] = {
+// To 2^-32: for results that are rounded to single.
+inline constexpr double asin_c[] = {
 #include "asin/poly_s_ha.inc"
 };
-ORK_INLINE f32x4 asin_poly_ha(f32x4 y) {
-  const float* const c = asin_ha_s;
-  return c[0] + y * (c[1] + y * (c[2] + y * (c[3] + y * (c[4] + y * (c[5] + y * c[6])))));
+ORK_INLINE f64x2 asin_poly_single(f64x2 y) {
+  const double* const c = asin_c;
+  const f64x2 w = y * y;
+  return (c[0] + w * (c[2] + w * c[4])) + y * (c[1] + w * (c[3] + w * c[5]));
 }
 // Relative error of asin 2^-27. Constants: given.
 ORK_INLINE f32x4 asin_poly(f32x4 y) {
@@ -79,84 +76,81 @@ template <> struct Angle<float> {
   static constexpr float whole = 3.14159274f, whole_low = -8.74227766e-8f;
 };
 
-// K = v + rest in one word, or K = high + (low + rest). add: base + K, base being 0 or an
-// angle above K, `sign` the sign bits to flip in K.
-template <class T, bool ep> struct AsinShort {
-  using vec = vec_of<T>;
-  using ivec = typename simd<T>::ivec;
-  vec v, rest;
-  vec add(vec base, vec base_low, ivec sign) const {
-    const vec head = xor_bits(v, sign), low = xor_bits(rest, sign);
-    // In double the angle's low word is half an ulp of the results below 1.
-    if constexpr (sizeof(T) == 8 && !ep)
-      return base + (head + (low + base_low));
-    else
-      return (base + head) + low;
-  }
-};
-template <class T> struct AsinLong {
-  using vec = vec_of<T>;
-  using ivec = typename simd<T>::ivec;
-  vec high, low, rest;
-  vec add(vec base, vec base_low, ivec sign) const {
-    const vec h = xor_bits(high, sign), sum = base + h;
-    const vec lost = (base - sum) + h;  // exact: |base| >= |h| or base = 0
-    return sum + (((xor_bits(low, sign) + lost) + base_low) + xor_bits(rest, sign));
-  }
-};
-
-template <class T> ORK_INLINE vec_of<T> asin_variable(vec_of<T> a, vec_of<T>& z, vec_of<T>& y) {
-  z = T(0.5) * -a + T(0.5);
-  y = smaller(a * a, z);
+// z = (1 - a)/2, as twice_z/2 and so exact from a = 0.5 on.
+template <class T> ORK_INLINE vec_of<T> asin_variable(vec_of<T> a, vec_of<T>& twice_z, vec_of<T>& y) {
+  twice_z = T(1) - a;
+  y = smaller(a * a, T(0.5) * twice_z);
   return less(a, splat(T(0.5)));
 }
 
-template <int degree, class T> ORK_INLINE AsinShort<T, degree == 2> asin_short(vec_of<T> a, vec_of<T>& inner) {
-  using vec = vec_of<T>;
-  vec z, y;
-  inner = asin_variable<T>(a, z, y);
-  const vec v = select(inner, a, twice_root<degree>(z, root_estimate(z)));
-  if constexpr (degree == 2 && sizeof(T) == 8)
-    return {v, v * (y * asin_poly_ep(y))};
-  else
-    return {v, v * (y * asin_poly(y))};
-}
-
-// s = 2 sqrt z is split as high + low with high^2 and high * upper exact; what s^2 misses of
-// 4 z goes into low, a rsqrt estimate being enough to divide by.
-template <class T> ORK_INLINE AsinLong<T> asin_long(vec_of<T> a, vec_of<T>& inner) {
+// K = v + rest. add: base + K, base being 0 or an angle above K, `sign` the sign bits to flip
+// in K. In double the angle's low word is half an ulp of the results below 1.
+template <class T, class Level> struct AsinShort {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
-  constexpr bool d = sizeof(T) == 8;
-  const ivec split = ivec{} + (bits_of<T>)(d ? 0xFFFFFFFFFC000000 : 0xFFFFF000);
-  const ivec upper_split = ivec{} + (bits_of<T>)(d ? 0xFFFFFF8000000000 : 0xFFFFF000);
-  vec z, y;
-  inner = asin_variable<T>(a, z, y);
-  const vec estimate = root_estimate(z), s = twice_root<4>(z, estimate);
-  const vec high = and_bits(s, split), low = s - high;
-  vec miss = T(4) * z;
-  if constexpr (d) {  // high has 27 bits: its square takes 54
-    const vec upper = and_bits(high, upper_split);
-    miss = (miss - high * upper) - high * (high - upper);
-  } else {
-    miss -= high * high;
+  vec inner, v, rest;
+  __attribute__((always_inline)) explicit AsinShort(vec a) {
+    vec twice_z, y;
+    inner = asin_variable<T>(a, twice_z, y);
+    v = select(inner, a, Level::root(twice_z));
+    rest = v * (y * Level::poly(y));
   }
-  miss -= low * (s + high);
-  const vec s_low = low + miss * (T(0.25) * estimate);
-  const vec a_high = and_bits(a, split);
-  const vec v = select(inner, a, s);
-  return {select(inner, a_high, high),
-          select(inner, a - a_high, s_low), v * (y * asin_poly_ha(y))};
-}
+  __attribute__((always_inline)) vec add(vec base, vec base_low, ivec sign) const {
+    const vec head = xor_bits(v, sign), low = xor_bits(rest, sign);
+    return Level::low_angle ? base + (head + (low + base_low)) : (base + head) + low;
+  }
+};
 
 struct AsinEp {
-  template <class T> static AsinShort<T, true> value(vec_of<T> a, vec_of<T>& inner) { return asin_short<2, T>(a, inner); }
+  static constexpr bool low_angle = false;
+  ORK_INLINE f64x2 root(f64x2 twice_z) { return twice_root<2>(twice_z, root_estimate(0.5 * twice_z)); }
+  ORK_INLINE f64x2 poly(f64x2 y) { return asin_poly_ep(y); }
+  template <class T> using K = AsinShort<T, AsinEp>;
 };
+// The root of degree 2 would leave 2^-33 in double; sqrtpd is exact and no slower.
 struct AsinLa {
-  template <class T> static AsinShort<T, false> value(vec_of<T> a, vec_of<T>& inner) { return asin_short<4, T>(a, inner); }
+  static constexpr bool low_angle = true;
+  ORK_INLINE f64x2 root(f64x2 twice_z) { return sqrt(twice_z + twice_z); }
+  ORK_INLINE f64x2 poly(f64x2 y) { return asin_poly(y); }
+  template <class T> using K = AsinShort<T, AsinLa>;
+};
+struct AsinLaInSingle {
+  static constexpr bool low_angle = false;
+  ORK_INLINE f32x4 root(f32x4 twice_z) { return twice_root(twice_z, root_estimate(0.5f * twice_z)); }
+  ORK_INLINE f32x4 poly(f32x4 y) { return asin_poly(y); }
+  template <class T> using K = AsinShort<T, AsinLaInSingle>;
+};
+struct AsinHaInDouble : AsinLa {  // double lanes for single results
+  static constexpr bool low_angle = false;
+  ORK_INLINE f64x2 poly(f64x2 y) { return asin_poly_single(y); }
+  template <class T> using K = AsinShort<T, AsinHaInDouble>;
+};
+
+// K = high + (low + rest). s = 2 sqrt z is split with high^2 and high * upper exact; what s^2
+// misses of 4 z goes into low, a rsqrt estimate being enough to divide by.
+struct AsinLong {
+  f64x2 inner, high, low, rest;
+  __attribute__((always_inline)) explicit AsinLong(f64x2 a) {
+    const u64x2 split = splat_u64(0xFFFFFFFFFC000000), upper_split = splat_u64(0xFFFFFF8000000000);
+    f64x2 twice_z, y;
+    inner = asin_variable<double>(a, twice_z, y);
+    const f64x2 estimate = root_estimate(0.5 * twice_z), s = twice_root<4>(twice_z, estimate);
+    const f64x2 s_high = and_bits(s, split), s_low = s - s_high;  // 27 bits: the square takes 54
+    const f64x2 upper = and_bits(s_high, upper_split);
+    const f64x2 miss = (((twice_z + twice_z) - s_high * upper) - s_high * (s_high - upper)) - s_low * (s + s_high);
+    const f64x2 a_high = and_bits(a, split), v = select(inner, a, s);
+    high = select(inner, a_high, s_high);
+    low = select(inner, a - a_high, s_low + miss * (0.25 * estimate));
+    rest = v * (y * asin_poly(y));
+  }
+  __attribute__((always_inline)) f64x2 add(f64x2 base, f64x2 base_low, u64x2 sign) const {
+    const f64x2 h = xor_bits(high, sign), sum = base + h;
+    const f64x2 lost = (base - sum) + h;  // exact: |base| >= |h| or base = 0
+    return sum + (((xor_bits(low, sign) + lost) + base_low) + xor_bits(rest, sign));
+  }
 };
 struct AsinHa {
-  template <class T> static AsinLong<T> value(vec_of<T> a, vec_of<T>& inner) { return asin_long<T>(a, inner); }
+  template <class> using K = AsinLong;
 };
 
 // A lane with |x| > 1 or a NaN.
@@ -177,13 +171,12 @@ template <class T, class Level> struct Asin : Core<T> {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'A', 's', 'i', 'n', 0};
-  static vec eval(vec x, u32x4& rare) {
+  ORK_INLINE vec eval(vec x, u32x4& rare) {
     const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec a = abs(x);
     rare |= as<u32x4>(not_below_or_equal(a, splat(T(1))));
-    vec inner;
-    const auto k = Level::template value<T>(a, inner);
-    const ivec outer = ~as<ivec>(inner);
+    const typename Level::template K<T> k(a);
+    const ivec outer = ~as<ivec>(k.inner);
     const vec m = k.add(and_bits(splat(Angle<T>::half), outer), and_bits(splat(Angle<T>::half_low), outer), sign & outer);
     return or_bits(m, as<ivec>(x) & sign);
   }
@@ -195,20 +188,30 @@ template <class T, class Level> struct Acos : Core<T> {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'A', 'c', 'o', 's', 0};
-  static vec eval(vec x, u32x4& rare) {
+  ORK_INLINE vec eval(vec x, u32x4& rare) {
     const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec a = abs(x);
     rare |= as<u32x4>(not_below_or_equal(a, splat(T(1))));
-    vec inner;
-    const auto k = Level::template value<T>(a, inner);
-    const ivec below = as<ivec>(less(x, splat(T(0)))) & ~as<ivec>(inner);
+    const typename Level::template K<T> k(a);
+    const ivec inner = as<ivec>(k.inner), below = as<ivec>(less(x, splat(T(0)))) & ~inner;
     const auto base = [&](T half, T whole) {
-      return as<vec>((as<ivec>(inner) & as<ivec>(splat(half))) | (below & as<ivec>(splat(whole))));
+      return as<vec>((inner & as<ivec>(splat(half))) | (below & as<ivec>(splat(whole))));
     };
     return k.add(base(Angle<T>::half, Angle<T>::whole), base(Angle<T>::half_low, Angle<T>::whole_low),
-                 (as<ivec>(x) ^ as<ivec>(inner)) & sign);
+                 (as<ivec>(x) ^ inner) & sign);
   }
   static int special(const T* x, T* r) { return asin_rare(x, r); }
+};
+
+// Single HA: the four lanes through a double core with a short polynomial, rounded once.
+template <class Wide> struct InDouble : Core<float> {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
+    rare |= as<u32x4>(not_below_or_equal(abs(x), splat(1.0f)));
+    u32x4 none{};
+    const f64x2 low = Wide::eval(_mm_cvtps_pd(x), none), high = Wide::eval(_mm_cvtps_pd(_mm_movehl_ps(x, x)), none);
+    return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high));
+  }
+  static int special(const float* x, float* r) { return asin_rare(x, r); }
 };
 
 }  // namespace ork

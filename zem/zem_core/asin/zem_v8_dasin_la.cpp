@@ -1,4 +1,4 @@
-// Asin, double, LA: see asin.hpp. Bound: 2.5 ulp.
+// Asin, double, LA: see asin.hpp. Bound: 2 ulp.
 #include "asin/asin.hpp"
 #include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"

@@ -1,5 +1,5 @@
 // Asin, single, EP: as LA with v by rsqrt and a Newton step, S of degree 2.
-// Rare: |x| >= 1, NaN. Bound: 2^-11.
+// Rare: |x| >= 1, NaN. Bound: 2^-12.
 #include "asin/asin_s.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
@@ -9,7 +9,7 @@ namespace {
 
 struct AsinEpS : Core<float> {
   static constexpr char name[] = "vsAsin";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(a, splat(1.0f)));
     const u32x4 outer = as<u32x4>((f32x4)_mm_cmple_ps(splat(0.5f), a));

@@ -10,7 +10,7 @@ namespace {
 
 struct AsinLaS : Core<float> {
   static constexpr char name[] = "vsAsin";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(a, splat(1.0f)));
     const u32x4 outer = as<u32x4>((f32x4)_mm_cmple_ps(splat(0.5f), a));

@@ -8,10 +8,10 @@ namespace ork {
 // Rare: infinities and NaNs.
 struct AsinhHaS : Core<float> {
   static constexpr char name[] = "vsAsinh";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 magnitude = abs(x);
     rare |= 0x7F7FFFFF - as<u32x4>(magnitude);
-    const f32x4 y = in_double(magnitude, [](f64x2 a) {
+    const f32x4 y = in_double(magnitude, [](f64x2 a) __attribute__((always_inline)) {
       const f64x2 square = a * a, small = a - a * (square * (1.0 / 6));
       return select((f64x2)_mm_cmplt_pd(a, splat(0x1p-12)), small, ln_short(a + sqrt(square + 1.0)));
     });
@@ -27,7 +27,7 @@ struct AsinhHaS : Core<float> {
 // Rare: |x| >= 2^62, whose square would overflow; infinities and NaNs.
 template <bool ep> struct AsinhShortS : Core<float> {
   static constexpr char name[] = "vsAsinh";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x), square = a * a;
     rare |= 0x5E7FFFFF - as<u32x4>(a);
     const f32x4 u = a + square / (1.0f + sqrt(1.0f + square));

@@ -7,7 +7,7 @@ namespace {
 
 struct AsinhLa : Core<double> {
   static constexpr char name[] = "vdAsinh";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 a = abs(x), square = a * a;
     rare |= 0x5F2FFFFF - as<u32x4>(a);
     const f64x2 u = a + square / (1.0 + sqrt(1.0 + square));

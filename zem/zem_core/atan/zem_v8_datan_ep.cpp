@@ -9,7 +9,7 @@ namespace {
 
 struct AtanEp : Core<double> {
   static constexpr char name[] = "vdAtan";
-  static f64x2 eval(f64x2 x, u32x4&) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4&) {
     const f64x2 a = abs(x);
     const u64x2 large = as<u64x2>((f64x2)_mm_cmplt_pd(splat(1.0), a));
     const f64x2 t = select(large, splat(-1.0), a) / select(large, a, splat(1.0));

@@ -21,7 +21,7 @@ int vdatan_cout_rare(const double* x, double* r) {
 
 struct AtanHa : Core<double> {
   static constexpr char name[] = "vdAtan";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 a = abs(x);
     rare |= splat_u32(0x434FFFFF) - as<u32x4>(a);
     f64x2 high, low;

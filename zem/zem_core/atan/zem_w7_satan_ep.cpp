@@ -9,7 +9,7 @@ namespace {
 
 struct AtanEpS : Core<float> {
   static constexpr char name[] = "vsAtan";
-  static f32x4 eval(f32x4 x, u32x4&) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4&) {
     const f32x4 a = abs(x);
     const u32x4 large = as<u32x4>((f32x4)_mm_cmple_ps(splat(1.0f), a));
     const f32x4 t = select(large, -rcp_est(a), a), z = t * t, w = z * z;

@@ -22,7 +22,7 @@ struct AtanHaS : Core<float> {
     const uint32_t b2 = as<uint32_t>(c2), b3 = as<uint32_t>(c3), b4 = as<uint32_t>(c4);
     return as<f32x4>((second & b2) ^ (third & (b2 ^ b3)) ^ (fourth & (b3 ^ b4)));
   }
-  static f32x4 eval(f32x4 x, u32x4&) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4&) {
     const f32x4 a = abs(x);
     const u32x4 m2 = above(a, 0x3EE00000), m3 = above(a, 0x3F3851EC), m4 = above(a, 0x40128F5C);
     const f32x4 c = pick(m2, 0.53125f, m3, 1.0f, u32x4{}, 1.0f);

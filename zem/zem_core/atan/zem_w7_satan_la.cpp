@@ -9,7 +9,7 @@ namespace {
 
 struct AtanLaS : Core<float> {
   static constexpr char name[] = "vsAtan";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     const u32x4 large = as<u32x4>((f32x4)_mm_cmple_ps(splat(1.0f), a));
     rare |= as<u32x4>((f32x4)_mm_cmpeq_ps(a, splat(__builtin_inff())));

@@ -11,17 +11,21 @@ namespace ork {
 template <class T> struct Octant {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
-  vec small, large, base;
-  ivec flip;  // sign bits to flip in atan q
+  vec small, large;
+  vec base, base_low;  // 0, pi/2 or pi
+  ivec flip;           // sign bits to flip in atan q
 
   Octant(vec y, vec x) {
-    const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec ay = abs(y), ax = abs(x);
-    const ivec steep = (ivec)(ax < ay), left = (ivec)(x < T(0));
+    const ivec steep = (ivec)(ax < ay), left = (ivec)(x < T(0)), level = left & ~steep;
+    const auto either = [&](T half, T whole) {
+      return as<vec>((steep & as<ivec>(splat(half))) | (level & as<ivec>(splat(whole))));
+    };
+    constexpr bool d = sizeof(T) == 8;
     small = select(steep, ax, ay), large = select(steep, ay, ax);
-    base = as<vec>((steep & as<ivec>(splat(T(1.5707963267948966)))) |
-                   (left & ~steep & as<ivec>(splat(T(3.141592653589793)))));
-    flip = (steep ^ left) & sign;
+    base = either(T(1.5707963267948966), T(3.141592653589793));
+    base_low = either(d ? T(6.123233995736766e-17) : T(-4.37113883e-8), d ? T(1.2246467991473532e-16) : T(-8.74227766e-8));
+    flip = (steep ^ left) & as<ivec>(splat(T(-0.0)));
   }
 };
 
@@ -58,13 +62,29 @@ template <class T> int atan2_special(const T* y, const T* x, T* r) {
   return 0;
 }
 
-// Double: q's rounding and that of t are the errors that count, 1.5 ulp in all.
+// atan q = atan b + atan t with b = k/64 nearest to q, t = (q - b)/(1 + q b), |t| <= 1/128.
+alignas(16) inline constexpr double atan_steps[65][2] = {
+#include "atan2/steps_d.inc"
+};
+
+// b, with atan b = high + low. A NaN counts as 1.
+ORK_INLINE f64x2 atan_step(f64x2 q, f64x2& high, f64x2& low) {
+  const f64x2 shifter = splat(0x1.8p46);  // leaves k in the low bits
+  const f64x2 k = _mm_min_pd(q, splat(1.0)) + shifter;
+  const auto row = [](int j) { return atan_steps[j]; };
+  gather_pairs(row(word<0>(k)), row(word<4>(k)), high, low);
+  return k - shifter;
+}
+
+// Double: the roundings of q and t and the last sums are the errors that count, 2 ulp in all. The series of
+// atan t is good to 2^-59.
 ORK_INLINE f64x2 atan2_la(f64x2 y, f64x2 x) {
   const Octant<double> o(y, x);
   const f64x2 q = o.small / o.large;
   f64x2 high, low;
-  const f64x2 b = atan_break(q, high, low), t = (q - b) / (1.0 + q * b);
-  const f64x2 rest = t + (low + atan_tail(t));
+  const f64x2 b = atan_step(q, high, low), t = (q - b) / (1.0 + q * b), z = t * t;
+  const f64x2 series = z * (ratio<-1, 3> + z * (ratio<1, 5> + z * ratio<-1, 7>));
+  const f64x2 rest = t + (low + t * series);
   return or_bits((o.base + xor_bits(high, o.flip)) + xor_bits(rest, o.flip), as<u64x2>(y) & sign_f64x2);
 }
 

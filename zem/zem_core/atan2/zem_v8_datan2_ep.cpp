@@ -6,7 +6,7 @@ namespace {
 
 struct Atan2Ep : Core<double, 2> {
   static constexpr char name[] = "vdAtan2";
-  static f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
     rare |= atan2_rare(y, x);
     const Octant<double> o(y, x);
     const f64x2 v = atan_ep(o.small / o.large);

@@ -8,7 +8,7 @@ int vsatan2_cout_rare(const float* y, const float* x, float* r) { return atan2_s
 
 struct Atan2HaS : Core<float, 2> {
   static constexpr char name[] = "vsAtan2";
-  static f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
     rare |= atan2_rare(y, x);
     const f64x2 low = atan2_la(_mm_cvtps_pd(y), _mm_cvtps_pd(x));
     const f64x2 high = atan2_la(_mm_cvtps_pd(_mm_movehl_ps(y, y)), _mm_cvtps_pd(_mm_movehl_ps(x, x)));

@@ -1,4 +1,4 @@
-// Atan2, double, LA: the scheme of Atan on the quotient, see atan2.hpp. Bound: 2.5 ulp.
+// Atan2, double, LA: see atan2.hpp. Bound: 2.5 ulp.
 #include "atan2/atan2.hpp"
 
 namespace ork {
@@ -6,7 +6,7 @@ namespace {
 
 struct Atan2La : Core<double, 2> {
   static constexpr char name[] = "vdAtan2";
-  static f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
     rare |= atan2_rare(y, x);
     return atan2_la(y, x);
   }

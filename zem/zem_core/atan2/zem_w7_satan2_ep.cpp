@@ -1,6 +1,6 @@
 // Atan2, single, EP: t = -|x|/|y| for |x| <= |y|, else |y|/|x|, by rcp and a Newton step;
 // t P(t^2) plus pi/2 or 0, from pi for x < 0, with the sign of y. Constants: given.
-// Fast range: |x| and |y| above 2^-125 and below 1.06e37; beyond it fpatan. Bound: 2^-11.
+// Fast range: |x| and |y| above 2^-125 and below 1.06e37; beyond it fpatan. Bound: 2^-12.
 #include "atan2/atan2.hpp"
 
 namespace ork {
@@ -9,7 +9,7 @@ namespace {
 struct Atan2EpS : Core<float, 2> {
   static constexpr char name[] = "vsAtan2";
   static constexpr unsigned x87 = x87_extended;
-  static f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
     const f32x4 ay = abs(y), ax = abs(x);
     rare |= (as<u32x4>(ay) - 0x01000001) | (0x7CFFFFFF - as<u32x4>(ay)) |
             (as<u32x4>(ax) - 0x01000001) | (0x7CFFFFFF - as<u32x4>(ax));

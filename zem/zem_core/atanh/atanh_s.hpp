@@ -10,12 +10,12 @@ enum class AtanhLevel { ha, la, ep };
 
 template <AtanhLevel level> struct AtanhS : Core<float> {
   static constexpr char name[] = "vsAtanh";
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 magnitude = abs(x);
     rare |= 0x3F7FFFFF - as<u32x4>(magnitude);
     f32x4 y;
     if constexpr (level == AtanhLevel::ha)
-      y = in_double(magnitude, [](f64x2 a) {
+      y = in_double(magnitude, [](f64x2 a) __attribute__((always_inline)) {
         const f64x2 small = a + a * (a * a * (1.0 / 3));
         return select((f64x2)_mm_cmplt_pd(a, splat(0x1p-12)), small, 0.5 * ln_short((1.0 + a) / (1.0 - a)));
       });

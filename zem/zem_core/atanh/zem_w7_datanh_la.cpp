@@ -8,7 +8,7 @@ namespace {
 
 struct AtanhLa : Core<double> {
   static constexpr char name[] = "vdAtanh";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 a = abs(x);
     rare |= 0x3FEFFFFF - as<u32x4>(a);
     return or_bits(0.5 * log1p_la((a + a) / (1.0 - a)), as<u64x2>(x) & sign_f64x2);

@@ -16,7 +16,7 @@ struct CdfNormS : Core<float> {
     const CdfNormReduced r = cdfnorm_reduce<64>(x, 14.171875, 0x1p48);
     return cdfnorm_value(cdfnorm_rows_s, x, r, Series::p(r), 0x1p48);
   }
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(splat(cdfnorm_limit_s), x));
     const f32x4 low = _mm_cvtpd_ps(half(_mm_cvtps_pd(x)));
     const f32x4 high = _mm_cvtpd_ps(half(_mm_cvtps_pd(_mm_movehl_ps(x, x))));

@@ -10,7 +10,7 @@ alignas(16) constexpr double table[][4] = {
 };
 
 struct CdfNormHaD : CdfNormD {
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     test(x, rare);
     const CdfNormReduced r = cdfnorm_reduce<128>(x, 38.4921875, scale);
     const f64x2 p = cdfnorm_long(r);

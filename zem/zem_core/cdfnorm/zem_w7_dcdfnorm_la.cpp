@@ -9,7 +9,7 @@ alignas(16) constexpr double table[][2] = {
 };
 
 struct CdfNormLaD : CdfNormD {
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     test(x, rare);
     const CdfNormReduced r = cdfnorm_reduce<128>(x, 38.4921875, scale);
     return cdfnorm_value(table, x, r, cdfnorm_long(r), scale);

@@ -11,7 +11,7 @@ template <class Level> struct Cosh : Core<typename Level::type> {
   using T = typename Level::type;
   using vec = vec_of<T>;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'C', 'o', 's', 'h', 0};
-  static vec eval(vec x, u32x4& rare) {
+  ORK_INLINE vec eval(vec x, u32x4& rare) {
     const vec a = abs(x);
     rare |= Level::limit - as<u32x4>(a);
     return from_pair<Level, false>(a);

@@ -56,7 +56,7 @@ struct PairHa {
   using type = double;
   static constexpr bool long_sum = true;
   static constexpr uint32_t limit = 0x40862335;  // the highest high word of the fast range
-  static ExpPair<double> reduce(f64x2 a) {
+  ORK_INLINE ExpPair<double> reduce(f64x2 a) {
     const f64x2 t = a * 92.33248261689366 + 6755399441055744.0, n = t - 6755399441055744.0;
     ExpPair<double> e;
     e.r = a - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
@@ -64,8 +64,8 @@ struct PairHa {
     e.down = power64(-as<u32x4>(t), e.down_low);
     return e;
   }
-  static f64x2 even(f64x2 q) { return q * (0.49999999999945266 + q * 0.041666725157316162); }
-  static f64x2 odd(f64x2 r, f64x2 q) {
+  ORK_INLINE f64x2 even(f64x2 q) { return q * (0.49999999999945266 + q * 0.041666725157316162); }
+  ORK_INLINE f64x2 odd(f64x2 r, f64x2 q) {
     return r + r * (q * (0.16666666666653376 + q * 0.0083333437288058629));
   }
 };
@@ -74,7 +74,7 @@ struct PairLa {
   using type = double;
   static constexpr bool long_sum = false;
   static constexpr uint32_t limit = 0x40861D98;  // 707.6998
-  static ExpPair<double> reduce(f64x2 a) {
+  ORK_INLINE ExpPair<double> reduce(f64x2 a) {
     constexpr double shifter = 52776558133248.0;  // 1.5 * 2^45: 128ths in the low word
     const f64x2 t = a * 1.4426950408889634 + shifter, n = t - shifter;
     ExpPair<double> e;
@@ -84,15 +84,15 @@ struct PairLa {
     return e;
   }
   // Taylor: |r| <= ln 2/256 leaves r^6/720 = 2^-61.
-  static f64x2 even(f64x2 q) { return q * (0.5 + q * (1.0 / 24)); }
-  static f64x2 odd(f64x2 r, f64x2 q) { return r + r * (q * (1.0 / 6 + q * (1.0 / 120))); }
+  ORK_INLINE f64x2 even(f64x2 q) { return q * (0.5 + q * (1.0 / 24)); }
+  ORK_INLINE f64x2 odd(f64x2 r, f64x2 q) { return r + r * (q * (1.0 / 6 + q * (1.0 / 120))); }
 };
 
 struct PairLaS {
   using type = float;
   static constexpr bool long_sum = false;
   static constexpr uint32_t limit = 0x42AEAC4F;
-  static ExpPair<float> reduce(f32x4 a) {
+  ORK_INLINE ExpPair<float> reduce(f32x4 a) {
     const f32x4 t = a * 184.664963f + 11534336.0f, n = t - 11534336.0f;
     const u32x4 m = as<u32x4>(t) - 0x4B300000;
     ExpPair<float> e;
@@ -101,14 +101,14 @@ struct PairLaS {
     e.down = power128_s(-m, e.down_low);
     return e;
   }
-  static f32x4 even(f32x4 q) { return q * 0.5f; }
-  static f32x4 odd(f32x4 r, f32x4 q) { return r + r * (q * 0.166666672f); }
+  ORK_INLINE f32x4 even(f32x4 q) { return q * 0.5f; }
+  ORK_INLINE f32x4 odd(f32x4 r, f32x4 q) { return r + r * (q * 0.166666672f); }
 };
 struct PairHaS : PairLaS {
   static constexpr bool long_sum = true;
 };
 struct PairEpS : PairLaS {  // cosh r = 1, sinh r = r to 2^-18
-  static ExpPair<float> reduce(f32x4 a) {
+  ORK_INLINE ExpPair<float> reduce(f32x4 a) {
     const f32x4 t = a * 184.664963f + 11534336.0f, n = t - 11534336.0f;
     const u32x4 m = as<u32x4>(t) - 0x4B300000;
     ExpPair<float> e;
@@ -117,8 +117,8 @@ struct PairEpS : PairLaS {  // cosh r = 1, sinh r = r to 2^-18
     e.down = power128_s(-m, e.down_low);
     return e;
   }
-  static f32x4 even(f32x4) { return f32x4{}; }
-  static f32x4 odd(f32x4 r, f32x4) { return r; }
+  ORK_INLINE f32x4 even(f32x4) { return f32x4{}; }
+  ORK_INLINE f32x4 odd(f32x4 r, f32x4) { return r; }
 };
 
 template <class Level, bool sinh> ORK_INLINE vec_of<typename Level::type> from_pair(vec_of<typename Level::type> a) {

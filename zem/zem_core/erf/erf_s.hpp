@@ -8,7 +8,7 @@ template <class Half>
 struct ErfWidened : ErfCore<float> {
   static constexpr char name[] = "vsErf";
   static constexpr int vectors = 1;
-  static f32x4 eval(f32x4 x, u32x4&) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4&) {
     const f32x4 low = _mm_cvtpd_ps(Half::value(_mm_cvtps_pd(x)));
     const f32x4 high = _mm_cvtpd_ps(Half::value(_mm_cvtps_pd(_mm_movehl_ps(x, x))));
     return _mm_movelh_ps(low, high);

@@ -6,7 +6,7 @@ namespace {
 
 struct ErfEpD : ErfCore<double> {
   static constexpr char name[] = "vdErf";
-  static f64x2 eval(f64x2 x, u32x4&) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4&) {
     const ErfReduced r = erf_reduce(x);
     return erf_value(x, r, erf_short(r));
   }

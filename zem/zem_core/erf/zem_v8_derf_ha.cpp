@@ -16,7 +16,7 @@ alignas(16) constexpr ErfRowHa table[] = {
 
 struct ErfHaD : ErfCore<double> {
   static constexpr char name[] = "vdErf";
-  static f64x2 eval(f64x2 x, u32x4&) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4&) {
     const ErfReduced r = erf_reduce(x, [](f64x2 y) { return (u64x2)(y >= 0.02734375); });
     const f64x2 p =
         r.e * horner(r.e, -1.0, ratio<2, 3>, -ratio<1, 3>, ratio<2, 15>, -ratio<2, 45>) +
@@ -29,8 +29,8 @@ struct ErfHaD : ErfCore<double> {
     gather_pairs(p0 + 2, p1 + 2, e_low, d_low);
     const f64x2 d_hi = and_bits(r.d, splat_u64(0xFFFFFFFFF8000000)), q_hi = d * d_hi;
     const f64x2 q_lo = d * (r.d - d_hi) + d_low * r.d;
-    // 0.88 * 2^-1022: above it the result is normal.
-    const f64x2 grid = and_bits(splat(0x1p-894), (u64x2)(abs(x) < 0x0.e1p-1022));
+    // sqrt(pi)/2 * 2^-1022: from there on the result is normal.
+    const f64x2 grid = and_bits(splat(0x1p-894), (u64x2)(abs(x) < 0x0.e2dfc48da77b6p-1022));
     e += grid;
     const f64x2 sum = e + q_hi, lost = (e - sum) + q_hi;
     const f64x2 y = sum + (lost + ((q_lo + e_low) + (q_hi + q_lo) * p));

@@ -6,7 +6,7 @@ namespace {
 
 struct ErfLaD : ErfCore<double> {
   static constexpr char name[] = "vdErf";
-  static f64x2 eval(f64x2 x, u32x4&) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4&) {
     const ErfReduced r = erf_reduce(x);
     const f64x2 p =
         r.e * horner(r.e, -1.0, ratio<2, 3>, -ratio<1, 3>, ratio<2, 15>, -ratio<2, 45>) +

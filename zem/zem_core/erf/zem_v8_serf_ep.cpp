@@ -14,7 +14,7 @@ alignas(16) constexpr Row table[] = {
 struct ErfEpS : ErfCore<float> {
   static constexpr char name[] = "vsErf";
   static constexpr int vectors = 1;
-  static f32x4 eval(f32x4 x, u32x4&) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4&) {
     const f32x4 ax = abs(x), y = _mm_min_ps(ax, splat(5.9921875f));
     const f32x4 t = y + 65536.0f;  // 2^16: multiples of 1/128
     const f32x4 y_j = t - 65536.0f;

@@ -13,25 +13,35 @@ struct ErfcPower {
 alignas(16) inline constexpr ErfcPower erfc_powers[128] = {
 #include "erfc/powers.inc"
 };
+inline constexpr double erfc_powers_s[128] = {
+#include "cosh/power128_d.inc"
+};
 
-// x^2 = x_hi^2 + rest; exp(-x^2) = scale (T + T_low) exp(r), the scale being 2^k times 2^`bias`.
+// N, with k at the place of an exponent field, and j.
+struct ErfcSteps {
+  f64x2 n;
+  u64x2 k;
+  int j[2];
+  __attribute__((always_inline)) explicit ErfcSteps(f64x2 square) {
+    const f64x2 shifted = square * -184.66496523378731 + 6755399441055744.0;
+    n = shifted - 6755399441055744.0;
+    const u32x4 image = as<u32x4>(shifted), row = image & 127;
+    k = as<u64x2>(image & u32x4{0xFFFFFF80, 0, 0xFFFFFF80, 0}) << 45;
+    j[0] = word<0>(row), j[1] = word<4>(row);
+  }
+};
+
+// x^2 = x_hi^2 + rest; exp(-x^2) = scale (T + T_low) exp(r), the scale being 2^k times 2^154.
 struct ErfcExp {
   f64x2 r, t, t_low, scale;
+  __attribute__((always_inline)) ErfcExp(f64x2 x_hi, f64x2 rest) {
+    const f64x2 square = x_hi * x_hi;  // exact
+    const ErfcSteps s(square);
+    r = ((s.n * -0.0054152123630046844 - square) - rest) - s.n * -1.4880111718420063e-11;
+    scale = as<f64x2>(s.k + splat_u64((uint64_t)(1023 + 154) << 52));
+    gather_pairs(&erfc_powers[s.j[0]].high, &erfc_powers[s.j[1]].high, t, t_low);
+  }
 };
-template <int bias>
-ORK_INLINE ErfcExp erfc_exp(f64x2 x_hi, f64x2 rest) {
-  const f64x2 square = x_hi * x_hi;  // exact
-  const f64x2 shifted = square * -184.66496523378731 + 6755399441055744.0;
-  const f64x2 n = shifted - 6755399441055744.0;
-  ErfcExp e;
-  e.r = (((0.0 - square) - n * 0.0054152123630046844) - rest) - n * -1.4880111718420063e-11;
-  const u32x4 image = as<u32x4>(shifted);
-  e.scale = as<f64x2>((as<u64x2>(image & u32x4{0xFFFFFF80, 0, 0xFFFFFF80, 0}) << 45) +
-                      splat_u64((uint64_t)(1023 + bias) << 52));
-  const u32x4 row = image & 127;
-  gather_pairs(&erfc_powers[word<0>(row)].high, &erfc_powers[word<4>(row)].high, e.t, e.t_low);
-  return e;
-}
 
 // Row and t of |x|.
 template <int last, int columns>
@@ -70,7 +80,7 @@ inline int erfc_special(const T* a, T* r, T reach, T underflow, T (*value)(T)) {
 template <class Formula>
 struct ErfcD : Core<double> {
   static constexpr char name[] = "vdErfc";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= outside(as<u32x4>(abs(x)), 0, 0x403A8B12);
     return Formula::value(x);
   }
@@ -84,12 +94,12 @@ template <class Formula>
 struct ErfcS : Core<float> {
   static constexpr char name[] = "vsErfc";
   static constexpr int vectors = 1;
-  static f32x4 value(f32x4 x) {
+  ORK_INLINE f32x4 value(f32x4 x) {
     const f32x4 low = _mm_cvtpd_ps(Formula::value(_mm_cvtps_pd(x)));
     const f32x4 high = _mm_cvtpd_ps(Formula::value(_mm_cvtps_pd(_mm_movehl_ps(x, x))));
     return _mm_movelh_ps(low, high);
   }
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= outside(as<u32x4>(abs(x)), 0, 0x41131CE0);
     return value(x);
   }
@@ -100,16 +110,18 @@ struct ErfcS : Core<float> {
   }
 };
 
-// Single, in double: x^2 is exact, T needs no low part.
+// Single, in double: x^2 is exact, T needs no low part, and 2^k T is normal.
 template <class Level>
 struct ErfcFormulaS {
-  static f64x2 value(f64x2 x) {
+  ORK_INLINE f64x2 value(f64x2 x) {
     const f64x2 ax = _mm_min_pd(abs(x), splat(20.0));
     const double *p0, *p1;
     const f64x2 t = erfc_row<22, Level::columns>(Level::table, ax, p0, p1);
-    const ErfcExp e = erfc_exp<0>(ax, f64x2{});
-    const f64x2 p = 1.0 + e.r * Level::series(e.r);
-    const f64x2 v = (e.scale * (e.t + e.t_low)) * (p * row_polynomial<Level::columns>(p0, p1, t));
+    const f64x2 square = ax * ax;
+    const ErfcSteps s(square);
+    const f64x2 r = (s.n * -0.0054152123630046844 - square) - s.n * -1.4880111718420063e-11;
+    const f64x2 power = as<f64x2>(as<u64x2>(gather(erfc_powers_s + s.j[0], erfc_powers_s + s.j[1])) + s.k);
+    const f64x2 v = power * (Level::exp(r) * row_polynomial<Level::columns>(p0, p1, t));
     return erfc_base(x, 2.0) + xor_bits(v, sign_of(x));
   }
 };

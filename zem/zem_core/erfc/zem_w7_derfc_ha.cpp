@@ -11,7 +11,7 @@ alignas(16) constexpr double table[][16] = {
 };
 
 struct FormulaHa {
-  static f64x2 value(f64x2 x) {
+  ORK_INLINE f64x2 value(f64x2 x) {
     constexpr uint64_t top = 0xFFFFFFFFF8000000;
     const f64x2 ax = abs(x), x_hi = and_bits(ax, splat_u64(top));
     const double *p0, *p1;
@@ -32,7 +32,7 @@ struct FormulaHa {
     const f64x2 g = sum + g_rest;
     const f64x2 g_hi = and_bits(g, splat_u64(top)), g_lo = (sum - g_hi) + g_rest;
 
-    const ErfcExp e = erfc_exp<154>(x_hi, (ax - x_hi) * (ax + x_hi));
+    const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi));
     const f64x2 p = e.r * horner(e.r, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664,
                                  0.0083333333333333332);
     const u64x2 sign = sign_of(x);

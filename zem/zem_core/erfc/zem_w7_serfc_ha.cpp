@@ -11,8 +11,8 @@ alignas(16) constexpr double rows[][8] = {
 struct Parts {
   static constexpr int columns = 8;
   static constexpr const double (*table)[8] = rows;
-  static f64x2 series(f64x2 r) {
-    return horner(r, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664);
+  ORK_INLINE f64x2 exp(f64x2 r) {
+    return horner(r, 1.0, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664);
   }
 };
 

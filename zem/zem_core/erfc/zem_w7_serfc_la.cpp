@@ -11,7 +11,7 @@ alignas(16) constexpr double rows[][6] = {
 struct Parts {
   static constexpr int columns = 6;
   static constexpr const double (*table)[6] = rows;
-  static f64x2 series(f64x2 r) { return horner(r, 1.0, 0.5, 0.16666666666666666); }
+  ORK_INLINE f64x2 exp(f64x2 r) { return horner(r, 1.0, 1.0, 0.5, 0.16666666666666666); }
 };
 
 }  // namespace

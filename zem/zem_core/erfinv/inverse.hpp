@@ -93,7 +93,7 @@ ORK_INLINE u32x4 outside(u32x4 x, uint32_t low, uint32_t high) {
 // Double. Function gives split, rare, rows.
 template <class Function, Level level>
 struct InverseD : Function {
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const InverseSplit s = Function::split(x);
     rare |= Function::rare(x);
     const double *p0, *p1;
@@ -125,7 +125,7 @@ struct InverseS : Function {
     Rows::find(Function::template rows<level>(), s.w, p0, p1);
     return s.z * row_polynomial<columns>(p0, p1, Rows::from_middle(s.w));
   }
-  static f32x4 eval(f32x4 x, u32x4& rare) {
+  ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     rare |= Function::rare(x);
     const f32x4 low = _mm_cvtpd_ps(half(_mm_cvtps_pd(x)));
     const f32x4 high = _mm_cvtpd_ps(half(_mm_cvtps_pd(_mm_movehl_ps(x, x))));

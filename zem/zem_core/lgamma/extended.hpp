@@ -6,8 +6,8 @@
 namespace ork {
 
 // c[0] + c[1] x + ... in two chains, of even and of odd powers.
-template <int count>
-ORK_INLINE long double polynomial(const long double (&c)[count], long double x) {
+template <class C, int count>
+ORK_INLINE long double polynomial(const C (&c)[count], long double x) {
   const long double x2 = x * x;
   long double even = c[(count - 1) & ~1], odd = c[(count - 2) | 1];
 #pragma GCC unroll 16
@@ -26,43 +26,62 @@ struct LnRow {
 inline constexpr LnRow ln_rows[128] = {
 #include "lgamma/ln.inc"
 };
-// ln(1 + r) / r, |r| <= 2^-7; what is left out is below 2^-66.
-inline constexpr long double ln_series[] = {1,         -1 / 2.0L, 1 / 3.0L,  -1 / 4.0L, 1 / 5.0L,
-                                            -1 / 6.0L, 1 / 7.0L,  -1 / 8.0L, 1 / 9.0L};
+// What depends on the result's type: ln(1 + r) / r for |r| <= 2^-7 and sin(pi f) / (pi f) for
+// |f| <= 1/2, as a series in f^2. What is left out of the first is below 2^-66, single 2^-37.
+// Constants in double can be memory operands.
+template <class T> struct Series;
+template <> struct Series<double> {
+  static constexpr long double ln[] = {1,         -1 / 2.0L, 1 / 3.0L,  -1 / 4.0L, 1 / 5.0L,
+                                       -1 / 6.0L, 1 / 7.0L,  -1 / 8.0L, 1 / 9.0L};
+  static constexpr long double sine[] = {
+#include "lgamma/sine.inc"
+  };
+};
+template <> struct Series<float> {
+  static constexpr double ln[] = {1, -ratio<1, 2>, ratio<1, 3>, -ratio<1, 4>, ratio<1, 5>};
+  static constexpr double sine[] = {
+#include "lgamma/sine_s.inc"
+  };
+};
 
 // x > 0: k ln 2 + T + ln(1 + r), x = 2^k m, r = m c - 1. Beside 1 c is 1, so that the result
-// keeps its relative accuracy; elsewhere it is within 2^-63 + 2^-64 |ln x|. Twice as fast as the
+// keeps its relative accuracy; elsewhere it is within 2^-63 + 2^-64 |ln x| (double). Twice as fast as the
 // instruction, which serves where 2^k is no float.
-ORK_INLINE long double ln_extended(long double x) {
-  uint32_t word[3];
-  __builtin_memcpy(word, &x, 12);
-  int k = (int)(word[2] & 0x7FFF) - 0x3FFF;
+template <class T> ORK_INLINE long double ln_extended(long double x) {
+  uint32_t mantissa;  // its high word
+  uint16_t exponent;  // 16 bits alone were stored: a wider load would stall
+  __builtin_memcpy(&mantissa, (const char*)&x + 4, 4);
+  __builtin_memcpy(&exponent, (const char*)&x + 8, 2);
+  int k = (int)(exponent & 0x7FFF) - 0x3FFF;
   if (__builtin_expect(k > 125 || k < -125, 0)) {
     long double y;
     asm("fyl2x" : "=t"(y) : "0"(x), "u"(ln2_extended) : "st(1)");
     return y;
   }
-  const LnRow& row = ln_rows[word[1] >> 24 & 127];
+  const LnRow& row = ln_rows[mantissa >> 24 & 127];
   const float scale = as<float>((uint32_t)(127 - k) << 23);
-  k += word[1] >= 0xB5000000;
+  k += mantissa >= 0xB5000000;
   const long double r = x * scale * row.c - 1;
-  return (k * ln2_extended + row.t) + r * polynomial(ln_series, r);
+  return (k * ln2_extended + row.t) + r * polynomial(Series<T>::ln, r);
 }
+
+// |x| of a finite x, in its own register: a 64-bit image would be stored in halves, and its load
+// would stall.
+ORK_INLINE double size_of(double x) { return __builtin_fabs(x); }
+ORK_INLINE float size_of(float x) { return __builtin_fabsf(x); }
 
 // x >= 0, below 2^63: the nearest integer n and x - n, exactly.
 struct Split {
   int64_t n;
   long double f;
   __attribute__((always_inline)) explicit Split(long double x) {
-    asm("fistpll %0" : "=m"(n) : "t"(x) : "st");
-    f = x - (long double)n;
+    long double whole;
+    asm("fistpll %1\n\tfildll %1" : "=t"(whole), "=m"(n) : "0"(x));
+    f = x - whole;
   }
 };
 
 // sin(pi f) / (pi f), |f| <= 1/2.
-inline constexpr long double sine_series[10] = {
-#include "lgamma/sine.inc"
-};
-ORK_INLINE long double sine_ratio(long double f) { return polynomial(sine_series, f * f); }
+template <class T> ORK_INLINE long double sine_ratio(long double f) { return polynomial(Series<T>::sine, f * f); }
 
 }  // namespace ork

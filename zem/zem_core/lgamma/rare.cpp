@@ -12,31 +12,33 @@
 namespace ork {
 namespace {
 
+// C: the type of the coefficients. Those in double are memory operands of the arithmetic.
+template <class C>
 struct Factor {
-  long double p, q;
+  C p, q;
 };
-template <int factors>
+template <class C, int factors>
 struct Binade {
   double middle, per_half;
-  long double scale;
-  Factor factor[factors];
+  C scale;
+  Factor<C> factor[factors];
 };
-template <int factors>
+template <class C, int factors>
 struct Low {
   double middle, per_half;
-  long double scale;
+  C scale;
   int zero;
-  Factor factor[factors];
+  Factor<C> factor[factors];
 };
 
 template <class T>
 struct Rows;
 template <>
 struct Rows<double> {
-  static constexpr Binade<12> binades[] = {
+  static constexpr Binade<long double, 12> binades[] = {
 #include "lgamma/binades_d.inc"
   };
-  static constexpr Low<11> low[] = {
+  static constexpr Low<long double, 11> low[] = {
 #include "lgamma/low_d.inc"
   };
   static constexpr double lowest = 0.875, stirling = 512.0;
@@ -47,10 +49,10 @@ struct Rows<double> {
 };
 template <>
 struct Rows<float> {
-  static constexpr Binade<6> binades[] = {
+  static constexpr Binade<double, 6> binades[] = {
 #include "lgamma/binades_s.inc"
   };
-  static constexpr Low<5> low[] = {
+  static constexpr Low<double, 5> low[] = {
 #include "lgamma/low_s.inc"
   };
   static constexpr float lowest = 1.0f, stirling = 8192.0f;
@@ -71,20 +73,21 @@ static_assert(sizeof roots / sizeof *roots == 2 * (16 - 2 + 1));
 
 template <class Row>
 ORK_INLINE long double product(const Row& row, long double x) {
+  constexpr int count = sizeof row.factor / sizeof *row.factor;
   const long double t = (x - row.middle) * row.per_half, t2 = t * t;
   long double y = row.scale;
-#pragma GCC unroll 12
-  for (const Factor& f : row.factor) y *= (t2 + f.q) + f.p * t;
+#pragma GCC unroll 1  // unrolled, all coefficients would be loaded first, and spilled
+  for (int k = 0; k < count; ++k) y *= (t2 + row.factor[k].q) + row.factor[k].p * t;
   return y;
 }
 
 // (x - 1/2) ln x - x + ln(2 pi)/2 + 1/(12 x) - 1/(360 x^3) + 1/(1260 x^5); what is left out is
 // below 2^-85 of the sum from 512 on.
-long double stirling(long double x) {
+template <class T> ORK_INLINE long double stirling(long double x) {
   constexpr long double half_ln_2pi = 0xEB3F8E4325F5A535p-64L;
   constexpr long double c1 = 1 / 12.0L, c3 = -1 / 360.0L, c5 = 1 / 1260.0L;
   const long double v = 1 / x, v2 = v * v;
-  return (x - 0.5L) * ln_extended(x) - x + half_ln_2pi + v * (c1 + v2 * (c3 + v2 * c5));
+  return (x - 0.5L) * ln_extended<T>(x) - x + half_ln_2pi + v * (c1 + v2 * (c3 + v2 * c5));
 }
 
 // ln Gamma(1 + u), u from lowest - 1 to 3.
@@ -100,7 +103,7 @@ template <class T>
 ORK_INLINE long double positive(T x) {
   if (x < 4) return low<T>(x - 1);  // x - 1 is exact
   if (x < Rows<T>::stirling) return product(Rows<T>::binades[Rows<T>::binade(x)], x);
-  return stirling(x);
+  return stirling<T>(x);
 }
 
 // -x for x > 0 that is no integer.
@@ -112,9 +115,9 @@ ORK_INLINE long double negative(T x, const Split& split) {
     const long double t = ((-wide - root.high) - root.low) * root.per_width;
     if (root.high != 0 && t <= 1 && t >= -1) return t * polynomial(root.c, t);
   }
-  const long double s = __builtin_fabsl(f * sine_ratio(f));
-  if (x < Rows<T>::lowest) return -ln_extended(s) - low(x);
-  return -ln_extended(wide * s) - positive(x);
+  const long double s = __builtin_fabsl(f * sine_ratio<T>(f));
+  if (x < Rows<T>::lowest) return -ln_extended<T>(s) - low(x);
+  return -ln_extended<T>(wide * s) - positive(x);
 }
 
 template <class T>
@@ -130,7 +133,7 @@ ORK_INLINE int rare(const T* a, T* r) {
     *r = 1 / zero;
     return ZEM_STATUS_SINGULARITY;
   }
-  const T x = as<T>(size);
+  const T x = size_of(*a);
   if (!sign(a)) {
     if (size > Rows<T>::overflow) {
       volatile long double largest =
@@ -143,7 +146,7 @@ ORK_INLINE int rare(const T* a, T* r) {
     else if (x >= Rows<T>::lowest)
       *r = (T)positive(x);
     else
-      *r = (T)(low(x) - ln_extended(x));
+      *r = (T)(low(x) - ln_extended<T>(x));
     return ZEM_STATUS_NONE;
   }
   if (x < T(sizeof(T) == 8 ? 0x1p52 : 0x1p23)) {

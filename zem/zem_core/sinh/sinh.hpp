@@ -41,7 +41,7 @@ template <class Level> struct Sinh : Core<typename Level::type> {
   using ivec = typename simd<T>::ivec;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'S', 'i', 'n', 'h', 0};
 
-  static vec near_zero(vec a) {
+  ORK_INLINE vec near_zero(vec a) {
     constexpr int count = sizeof NearZero<Level>::c / sizeof(T);
     const vec z = a * a;
     vec p = vec{} + NearZero<Level>::c[count - 1];
@@ -49,7 +49,7 @@ template <class Level> struct Sinh : Core<typename Level::type> {
     for (int i = count - 2; i >= 0; --i) p = NearZero<Level>::c[i] + z * p;
     return a + a * (z * p);
   }
-  static vec eval(vec x, u32x4& rare) {
+  ORK_INLINE vec eval(vec x, u32x4& rare) {
     const vec a = abs(x);
     rare |= Level::limit - as<u32x4>(a);
     vec y = from_pair<Level, true>(a);

@@ -15,7 +15,7 @@ alignas(16) inline constexpr double _dtanh_rows[60][16] = {
 template <bool low_word> struct TanhD : Core<double> {
   static constexpr char name[] = "vdTanh";
 
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 a = abs(x);
     rare |= splat_u32(0x7FEFFFFF) - as<u32x4>(a);
     // Of each lane's four 16-bit words only the top one is used.

@@ -87,7 +87,7 @@ ORK_INLINE int rare(const T* a, T* r) {
     *r = 1 / *a;
     return ZEM_STATUS_SINGULARITY;
   }
-  const T x = as<T>(size);
+  const T x = size_of(*a);
   if (!negative) {
     if (x > L::overflow) {
       volatile long double largest = L::largest;
@@ -109,7 +109,7 @@ ORK_INLINE int rare(const T* a, T* r) {
     } else {
       const Quotient y = gamma<T>(1 + (long double)x, (int)split.n + 1, split.f);
       const long double f = split.n & 1 ? split.f : -split.f;
-      *r = (T)(y.denominator / (f * sine_ratio(f) * y.numerator));
+      *r = (T)(y.denominator / (f * sine_ratio<T>(f) * y.numerator));
     }
   }
   // A tiny x has a result beyond the range.
