@@ -56,7 +56,7 @@ const Function functions[] = {{"Sin",
                                nullptr,
                                {"dTan_LA", "dTan_HA", "dTan_A11"},
                                {"sTan_LA", "sTan_HA", "sTan_A11"},
-                               2.8,
+                               2,
                                0.6,
                                2,
                                0.55}};
