@@ -20,7 +20,7 @@ struct CosLaD : Core<double> {
     return odd_sine<PiLaD>(reduce_cosine<PiLaD>(x));
   }
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
-    return replace_large<cosine_limit>(abs(x), fast, large_sine(abs(x), 32), rare);
+    return replace_large<cosine_limit>(abs(x), fast, large_sine(abs(x), 1), rare);
   }
   static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }
 };

@@ -6,8 +6,8 @@ namespace ork::trig {
 
 // Tangent, double, LA: see tan.hpp, P and Q cubic; relative error of P/Q 5.3e-17 (given). Q is
 // summed as (1 - z/2) + z (1/2 + q1 + ...), and what rounding takes from r P and Q is given back
-// after the division, which a rough 1/Q is enough for: left are the roundings of z, of the quotient and of
-// the result. Bound 2 ulp.
+// after the division, which a rough 1/Q is enough for: left are the roundings of z, of the quotient
+// and of the result. Bound 2 ulp.
 struct TanLaD : Core<double> {
   static constexpr char name[] = "dTan_LA";
   static constexpr unsigned x87 = x87_double;
@@ -24,8 +24,8 @@ struct TanLaD : Core<double> {
     const f64x2 small = r * z * p + low, rp = r + small, rp_low = (r - rp) + small;
     constexpr double q1 = 0.5 - 0.46161680374290487;  // exact
     const f64x2 half = 0.5 * z, head = 1.0 - half;
-    const f64x2 tail = z * horner(z, q1, 0.023344852822068728, -0.00020844804422038708) +
-                       ((1.0 - head) - half);
+    const f64x2 tail =
+        z * horner(z, q1, 0.023344852822068728, -0.00020844804422038708) + ((1.0 - head) - half);
     const f64x2 q = head + tail, q_low = (head - q) + tail;
 
     const u64x2 odd = odd_steps(t);
