@@ -14,7 +14,7 @@ constexpr bool wide = sizeof(T) == 8;
 
 template <class T>
 Limits limits() {
-  return wide<T> ? Limits{{2.0, 0.65, 0x1p-28}, {false, false, true}}
+  return wide<T> ? Limits{{2.0, 0.6, 0x1p-28}, {false, false, true}}
                  : Limits{{2.0, 0.51, 0x1p-12}, {false, false, true}};
 }
 

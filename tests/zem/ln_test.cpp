@@ -13,10 +13,10 @@ namespace {
 // What the levels reach; zem_core/{ln,log10,log1p}/claims.tsv gives the reasons.
 const Limits ln_d = {{0.6, 0.6, 0x1p-19}, {false, false, true}};
 const Limits ln_s = {{4.0, 1.0, 0x1p-10}, {false, false, true}};
-const Limits log10_d = {{2.1, 0.6, 0x1p-19}, {false, false, true}};
-const Limits log10_s = {{3.25, 0.65, 0x1p-14}, {false, false, true}};
-const Limits log1p_d = {{2.5, 0.8, 0x1p-31}, {false, false, true}};
-const Limits log1p_s = {{2.0, 0.75, 2.0}, {false, false, false}};
+const Limits log10_d = {{2.0, 0.6, 0x1p-19}, {false, false, true}};
+const Limits log10_s = {{2.7, 0.65, 0x1p-14}, {false, false, true}};
+const Limits log1p_d = {{2.0, 0.8, 0x1p-31}, {false, false, true}};
+const Limits log1p_s = {{2.0, 0.65, 2.0}, {false, false, false}};
 
 template <class T>
 void special_log(const char* function, const char* name, T ln_smallest) {

@@ -69,7 +69,8 @@ def generate():
     f = lambda u: log(1 + u) / log(mpf(10)) if u else mpf(0)
     la = fit(f, range(3, 9), mpf(-1) / 3, mpf(1) / 3, "s",
              {1: given("0.434294492", "s"), 2: given("-0.217146948", "s"), 9: given("0.0626901686", "s")},
-             scale=lambda u: min(abs(f(u)), f(u) + LG2))
+             # Below u = -0.33 the result is under 1/8, where the roundings of p count double.
+             scale=lambda u: min(abs(f(u)), f(u) + LG2) * (mpf("0.3") if u < mpf("-0.33") else 1))
     root = mpf(2)**0.5
     ep = fit(f, range(1, 6), root / 2 - 1, root - 1, "s")
     natural = ["-0.5", "0.33333333333334386", "-0.25000000000003386", "0.19999999911565072",
@@ -84,7 +85,8 @@ def generate():
         at + "rows_rare.inc": rows_rare(),
         at + "rows_s_ha.inc": rows_s_ha(),
         at + "poly_s_la.inc": coefficients("log10", "q0 to q8 of u (q0 + q1 u + ... + q8 u^8) for log10(1 + u) on [-1/3, 1/3];\n"
-                                           "relative to the smaller of it and log10(2 + 2 u); q0, q1 and q8 are given.", la, "s", range(1, 10)),
+                                           "relative to the smaller of it and log10(2 + 2 u), below -0.33 to 0.3 times that; q0, q1\n"
+                                           "and q8 are given.", la, "s", range(1, 10)),
         at + "poly_s_ep.inc": coefficients("log10", "q0 to q4 of u (q0 + q1 u + ... + q4 u^4) for log10(1 + u) on\n"
                                            "[sqrt(1/2) - 1, sqrt(2) - 1].", ep, "s", range(1, 6)),
         at + "poly_rare.inc": table("log10", "e0 to e7 of r (e0 + e1 r + ... + e7 r^7) for log10(1 + r/0.43359375) - r: the\n"

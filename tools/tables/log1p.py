@@ -16,12 +16,12 @@ def split(t, bits, bias, l1, l2, grid):
             high, low = -(bias - 1) * l1, -(bias - 1) * l2
         else:
             exact = -log(ldexp(mpf(c), -bits)) - bias * (l1 + l2)
-            high = on_grid(exact, grid)
+            high = on_grid(exact + bias * l2, grid)
             low = exact - high
         rows.append([number(high, t), number(low, t)])
     return table("log1p", f"""L_hi, L_lo for c = {2**(bits - 1)}..{2**bits}: L_hi + L_lo is -ln(c/{2**bits}) less {bias} ln 2,
-ln 2 as the kernel's sum of two; L_hi is a multiple of 2^{grid}. The first and the last row
-cancel K ln 2 just below and above 1.""", rows)
+ln 2 = L1 + L2 as in the kernel; L_hi + {bias} L1 is -ln(c/{2**bits}) to a multiple of 2^{grid}, so that
+L_lo + K L2 stays small. The first and the last row cancel K ln 2 just below and above 1.""", rows)
 
 
 def generate():
@@ -37,7 +37,7 @@ def generate():
         at + "rows_d_la.inc": table(
             "log1p", "-ln(c/1024), from c = 724 down -ln(c/512); c = 512..1024.",
             [[number(-log(mpf(c) / (1024 if c > 724 else 512)), "d")] for c in range(512, 1025)]),
-        at + "rows_s_ha.inc": split("s", 8, 127, given("0.693145752", "s"), given("1.42859062e-06", "s"), -15),
+        at + "rows_s_ha.inc": split("s", 8, 127, given("0.693145752", "s"), given("1.42859062e-06", "s"), -17),
         at + "poly_s_la.inc": coefficients(
             "log1p", "q0 to q7 of u + u^2 (q0 + q1 u + ... + q7 u^7) for ln(1 + u) on [-1/3, 1/3],\n"
             "relative to the smaller of it and ln(2 + 2 u); q0 and q7 are given.", la, "s", range(2, 10)),

@@ -43,6 +43,13 @@ def sincos_rows(divisor, rows, repeated=0):
     return "\n".join(out) + "\n"
 
 
+def quadrant_rows():
+    out = ["// 128 rows for the angles j*pi/256 of a quarter turn: sine, cosine (rule).",
+           "// " + COMMAND.strip()]
+    out += [f"{{{hex_double(sin(pi * j / 256))}, {hex_double(cos(pi * j / 256))}}}," for j in range(128)]
+    return "\n".join(out) + "\n"
+
+
 def reduction_table():
     """The constants of the scalar reduction, and 4/pi in chunks of 25 bits, times 2^200."""
     given = [("0.0, -1.0", "correction of the fraction by the parity of the integer part"),
@@ -190,6 +197,7 @@ def generate():
         "zem/zem_core/trig/reduction_table.inc": reduction_table(),
         "zem/zem_core/trig/sincos_pi32.inc": sincos_rows(32, 64),
         "zem/zem_core/trig/sincos_pi64.inc": sincos_rows(64, 128, repeated=32),
+        "zem/zem_core/trig/sincos_quadrant.inc": quadrant_rows(),
         "zem/zem_core/trig/inverse_two_pi.inc": inverse_two_pi(),
         "zem/zem_core/trig/sine_fits.inc": sine_coefficients(),
         "zem/zem_core/tan/tangent_fits.inc": tangent_coefficients(),

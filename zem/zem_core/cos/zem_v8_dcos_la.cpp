@@ -12,7 +12,7 @@ static int vdcos_cout_rare(const double* x, double* r) {
 }
 
 // Cosine, double, LA: modulo pi, see pi_kernel.hpp, below 2^23; from there on by the digits of
-// 1/(2 pi), see large.hpp. Bound 3.4 ulp.
+// 1/(2 pi), see large.hpp. Bound 3.1 ulp.
 struct CosLaD : Core<double> {
   static constexpr char name[] = "vdCos";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
@@ -20,7 +20,7 @@ struct CosLaD : Core<double> {
     return odd_sine<PiLaD>(reduce_cosine<PiLaD>(x));
   }
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
-    return replace_large<cosine_limit>(abs(x), fast, large_sine(abs(x), 32), rare);
+    return replace_large<cosine_limit>(abs(x), fast, large_sine(abs(x), 1), rare);
   }
   static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }
 };

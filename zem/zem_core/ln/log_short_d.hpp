@@ -1,6 +1,8 @@
 #pragma once
 // The short factor of Log1p and Log10, double, V8: m in [2^-10, 2^-9), c = 512..1024 the
-// integer next to rcpps(m), so that r = m c - 1 is exact for m of 43 bits, |r| < 2^-9.5.
+// integer next to rcpps(m), so that r = m c - 1 is exact for m of 43 bits, |r| < 2^-9.5. Next to 1,
+// within 2^-10, a lane of `near` makes c a power of two: r is exact for every m, |r| < 2^-10, and
+// -log(c/1024) is 0, so that no sum cancels.
 #include "frame/vec.hpp"
 
 namespace ork {
@@ -13,6 +15,11 @@ struct ShortD {
   __attribute__((always_inline)) explicit ShortD(f64x2 s) {
     m = or_bits(and_bits(s, splat_u64(0x000FFFFFFFFFFFFF)), splat_u64(0x3F50000000000000));
     t = (f64x2)_mm_cvtps_pd(rcp_est((f32x4)_mm_cvtpd_ps(m))) + short_shifter;
+    c = t - short_shifter;
+  }
+  __attribute__((always_inline)) ShortD(f64x2 s, u64x2 near) : ShortD(s) {
+    // c is 512, 513 or 1023, 1024, 1025 there, whatever the last bits of rcpps.
+    t = as<f64x2>((as<u64x2>(t) + (near & splat_u64(1))) & ~(near & splat_u64(3)));
     c = t - short_shifter;
   }
   // Row of the first and the second lane in a table that begins with c = 512.

@@ -1,5 +1,5 @@
 // Log10, double, LA: m = m_hi + m_lo with m_hi of 43 bits, v = (m_hi c - 1) + m_lo c,
-// log10 x = K log10 2 + (T(c) + p(v)), p of degree 5, |v| < 2^-9.5.
+// log10 x = K log10 2 + (T(c) + p(v)), p of degree 5, |v| < 2^-9.5. Next to 1, v = m - 1.
 // Fast range: positive normal numbers. Constants: given.
 #include "frame/chunk.hpp"
 #include "ln/log_short_d.hpp"
@@ -16,7 +16,7 @@ struct Log10LaD : Core<double> {
   };
   static f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= (u32x4)((i32x4)(as<u32x4>(x) - 0x80100000) > -0x200001);
-    const ShortD f(x);
+    const ShortD f(x, (u64x2)(abs(x - 1.0) < 0.0009765625));
     const f64x2 m_hi = and_bits(f.m, splat_u64(0xFFFFFFFFFFFFFC00)), m_lo = f.m - m_hi;
     const f64x2 v = (m_hi * f.c - 1.0) + m_lo * f.c, v2 = v * v;
     const f64x2 p =

@@ -32,11 +32,10 @@ struct Log1pD : Core<double> {
     rare |= as<u32x4>((f64x2)_mm_cmplt_pd(x, splat(-0.99999999999999989))) |
             as<u32x4>((f64x2)_mm_cmpnle_pd(x, as<f64x2>(splat_u64(0x7F3FFFFFFFFFF000))));
     const f64x2 sum = x + 1.0;
-    // Below 2^-13 c is 1024 or 512 for certain, and s c exact however long s is.
-    const u64x2 keep = (u64x2)(abs(x) < 0x1p-13) | splat_u64(0xFFFFFFFFFFFFFC00);
-    const f64x2 s = and_bits(sum, keep);
+    const u64x2 near = (u64x2)(abs(x) < 0.0009765625);  // s whole, c a power of two
+    const f64x2 s = and_bits(sum, near | splat_u64(0xFFFFFFFFFFFFFC00));
     const f64x2 e = ((f64x2)_mm_max_pd(x, splat(1.0)) - s) + (f64x2)_mm_min_pd(x, splat(1.0));
-    const ShortD f(s);
+    const ShortD f(s, near);
     // m = s * scale
     const f64x2 scale = as<f64x2>(as<u32x4>(splat_u64(0x7F40000000000000)) -
                                   (as<u32x4>(s) & as<u32x4>(splat_u64(0x7FF0000000000000))));

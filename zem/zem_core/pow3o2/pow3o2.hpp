@@ -32,9 +32,9 @@ ORK_INLINE bool pow3o2_is_positive(const T* x, T* r, int& status) {
   return false;
 }
 
-// Double. HA: T in two parts, P to degree 7; within 0.53 ulp where
-// the low part is normal. LA: T in one word, a fit of
-// degree 5. EP: the first 3 terms, relative error 2^-29.
+// Double. HA: T in two parts, P to degree 7; within 0.53 ulp. LA: T in one word, a fit of degree 5.
+// EP: the first 3 terms, relative error 2^-29. The scale, a power of two, multiplies the sum: no
+// part of it is denormal before.
 // Fast: 2^-680 <= x < 2^681. special: the rest; above it the result is x^2, infinity.
 template <Level level>
 struct Pow3o2D : Core<double> {
@@ -44,17 +44,17 @@ struct Pow3o2D : Core<double> {
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const u32x4 image = as<u32x4>(x);
     rare |= (image - 0x15700000) | (0x6A7FFFFF - image);
-    f64x2 low;
-    const f64x2 high = parts(x, low);
-    return high + low;
+    f64x2 low, s;
+    const f64x2 high = parts(x, low, s);
+    return (high + low) * s;
   }
-  // The result as a sum: the scaled T and the rest.
-  ORK_INLINE f64x2 parts(f64x2 x, f64x2& rest) {
+  // The result as a sum, T and the rest, times s.
+  ORK_INLINE f64x2 parts(f64x2 x, f64x2& rest, f64x2& s) {
     // 32 exponent + j. The exponent less 1 is odd where the exponent is even.
     const u32x4 index = as<u32x4>(as<u64x2>(x) >> 47);
     const u32x4 row = (index ^ 32) & 63;
     const u64x2 q = as<u64x2>((index - u32x4{32, 0, 32, 0}) >> 6);
-    const f64x2 s = as<f64x2>((q + q + q - splat_u64(510)) << 52);
+    s = as<f64x2>((q + q + q - splat_u64(510)) << 52);
     const f64x2 m = or_bits(and_bits(x, splat_u64(0x000FFFFFFFFFFFFF)), as<u64x2>(splat(1.0)));
     const f64x2 c = or_bits(and_bits(x, splat_u64(0x000F800000000000)), as<u64x2>(splat(1.015625)));
     const unsigned row0 = row[0], row1 = word<4>(row);
@@ -66,21 +66,21 @@ struct Pow3o2D : Core<double> {
       gather_pairs(pow3o2_rows[row0], pow3o2_rows[row1], high, low);
       const f64x2 r = (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
       const f64x2 p = r * horner(r, 1.5, 0.375, -0.0625, 0.0234375, k[0], k[1], k[2], k[3]);
-      rest = s * (low + high * p);
-      return s * high;
+      rest = low + high * p;
+      return high;
     }
     f64x2 value, reciprocal;
     gather_pairs(&pow3o2_pairs[row0].t, &pow3o2_pairs[row1].t, value, reciprocal);
-    const f64x2 t = s * value, r = (m - c) * reciprocal;
+    const f64x2 r = (m - c) * reciprocal;
     if constexpr (level == Level::la) {
       constexpr double k[] = {
 #include "pow3o2/series_la.inc"
       };
-      rest = (t * r) * horner(r, k[0], k[1], k[2], k[3], k[4], k[5]);
+      rest = (value * r) * horner(r, k[0], k[1], k[2], k[3], k[4], k[5]);
     } else {
-      rest = (t * r) * horner(r, 1.5, 0.375, -0.0625);
+      rest = (value * r) * horner(r, 1.5, 0.375, -0.0625);
     }
-    return t;
+    return value;
   }
   static int special(const double* x, double* r) {
     int status;
@@ -90,10 +90,11 @@ struct Pow3o2D : Core<double> {
       *r = *x * *x;
     } else {
       // Below 2^-932 the sum is rounded where the last bit of a denormal will be, at 2^-984.
-      f64x2 low;
-      const double high = parts(splat(*x * 0x1p60), low)[0];
-      const double grid = high + low[0] < 0x1p-932 ? 0x1p-932 : 0.0;
-      const double sum = grid + high, rest = (high - (sum - grid)) + low[0];
+      f64x2 low, s;
+      const double high = (parts(splat(*x * 0x1p60), low, s) * s)[0];
+      const double small = (low * s)[0];
+      const double grid = high + small < 0x1p-932 ? 0x1p-932 : 0.0;
+      const double sum = grid + high, rest = (high - (sum - grid)) + small;
       *r = (sum + rest - grid) * 8.077935669463161e-28;  // 2^-90
     }
     return ZEM_STATUS_NONE;

@@ -12,7 +12,7 @@ static int vdsin_cout_rare(const double* x, double* r) {
 }
 
 // Sine, double, LA: modulo pi, see pi_kernel.hpp, below 2^24; from there on by the digits of
-// 1/(2 pi), see large.hpp. Bound 3.4 ulp.
+// 1/(2 pi), see large.hpp. Bound 3.1 ulp.
 struct SinLaD : Core<double> {
   static constexpr char name[] = "vdSin";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {

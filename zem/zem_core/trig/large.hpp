@@ -1,14 +1,14 @@
 #pragma once
-// Sine of |x| + turn * pi/64 for two large arguments: their product with the digits of 1/(2 pi)
-// that matter (M. Payne, R. Hanek), in integers, then a row of the table.
+// Sine of |x| + quarters * pi/2 for two large arguments: their product with the digits of 1/(2 pi)
+// that matter (M. Payne, R. Hanek), in integers, then a row of a table of the quarter turn.
 //
 //   |x| = M 2^s 2^(8 g - 52), M 53 bits, s in 0..7; the row g holds 180 bits of the fraction of
 //   2^(8 g - 52) / (2 pi) as digits of 30 bits; the product's fraction f has 120 of them right
-//   f = j/128 + f', |f'| <= 1/256, z = 2 pi f'
-//   sine of a + z, a = j pi/64, by table_sine_la
+//   f = q/4 + j/512 + f', |f'| <= 1/1024, z = 2 pi f', a = j pi/256
+//   sine of a + z + q pi/2: sine and cosine of a change places for an odd q
+//   sin z / z - 1 and cos z - 1, |z| <= pi/512: given, error 2^-61
 // For 1 <= |x| < infinity; other lanes give no fault and no sense.
 #include "trig/pi_kernel.hpp"
-#include "trig/table_kernel.hpp"
 
 namespace ork::trig {
 
@@ -16,6 +16,10 @@ struct alignas(32) Digits {
   uint32_t d[8];
 };
 extern const Digits _VAPI_COMMON_DATA_NAME[128];
+struct alignas(16) SineCosine {
+  double sine, cosine;
+};
+extern const SineCosine rows_quadrant[128];
 
 ORK_INLINE u64x2 multiply_even(u64x2 x, u64x2 y) {
   return (u64x2)_mm_mul_epu32((__m128i)x, (__m128i)y);
@@ -27,7 +31,7 @@ ORK_INLINE f64x2 below(u64x2 v) {
   return as<f64x2>(v | splat_u64(uint64_t(1023 + e) << 52));
 }
 
-ORK_INLINE f64x2 large_sine(f64x2 ax, int turn) {
+ORK_INLINE f64x2 large_sine(f64x2 ax, int quarters) {
   // M shifted by s, in two digits of 30 bits.
   const u64x2 image = as<u64x2>(ax);
   const u64x2 e = (image >> 52) - splat_u64(1023);
@@ -58,11 +62,12 @@ ORK_INLINE f64x2 large_sine(f64x2 ax, int turn) {
   const u64x2 s1 = multiply_even(low, d01 >> 32) + multiply_even(high, d23) + (s2 >> 30);
   const u64x2 s0 = multiply_even(low, d01) + multiply_even(high, d01 >> 32) + (s1 >> 30);
 
-  // 120 bits as 52, 52 and 16; the first rounded to a row and what remains, in -2^44..2^44.
-  const u64x2 top = (((s0 & digit) << 22) | ((s1 & digit) >> 8)) + splat_u64(uint64_t{1} << 44);
+  // 120 bits as 52, 52 and 16; the first rounded to a row and what remains, in -2^42..2^42.
+  const u64x2 top = (((s0 & digit) << 22) | ((s1 & digit) >> 8)) +
+                    splat_u64((uint64_t{1} << 42) + ((uint64_t)quarters << 50));
   const u64x2 middle = ((s1 & splat_u64(255)) << 44) | ((s2 & digit) << 14) | ((s3 & digit) >> 16);
   const u64x2 last = s3 & splat_u64(0xFFFF);
-  const f64x2 f1 = below<0>(top & splat_u64((uint64_t{1} << 45) - 1)) - splat(0x1.01p0);
+  const f64x2 f1 = below<0>(top & splat_u64((uint64_t{1} << 43) - 1)) - splat(0x1.004p0);
   const f64x2 f2 = below<-52>(middle) - splat(0x1p-52), f3 = below<-68>(last) - splat(0x1p-68);
   const f64x2 f = f1 + f2, rest = ((f1 - f) + f2) + f3;
 
@@ -71,10 +76,18 @@ ORK_INLINE f64x2 large_sine(f64x2 ax, int turn) {
   const f64x2 z = head * splat(6.2831853032112122) +
                   (head * splat(3.9683743187221617e-09) + tail * splat(6.2831853071795862));
 
-  const u64x2 j = (top >> 40) & splat_u64(127 << 5);
-  const Angle<f64x2> a = gather(rows_pi64 + turn, {(uint32_t)_mm_cvtsi128_si32((__m128i)j),
-                                                   (uint32_t)_mm_extract_epi16((__m128i)j, 4)});
-  return table_sine_la(a, z, taylor(z));
+  const u64x2 j = (top >> 43) & splat_u64(127);
+  f64x2 sine, cosine;
+  gather_pairs(&rows_quadrant[_mm_cvtsi128_si32((__m128i)j)].sine,
+               &rows_quadrant[_mm_extract_epi16((__m128i)j, 4)].sine, sine, cosine);
+  const u64x2 q = top >> 50, odd = u64x2{} - (q & splat_u64(1));
+  const u64x2 swap = (as<u64x2>(sine) ^ as<u64x2>(cosine)) & odd;
+  const f64x2 s = xor_bits(sine, swap), c = xor_bits(cosine, swap);
+
+  const f64x2 z2 = z * z, zc = flip(z, as<f64x2>(q << 63)) * c;
+  const f64x2 s_poly = z2 * horner(z2, -0.1666666666665455, 0.0083333229326095146);
+  const f64x2 c_poly = z2 * horner(z2, -0.5, 0.041666666666651524, -0.0013888875887985619);
+  return flip(s + (zc + (c_poly * s + s_poly * zc)), as<f64x2>((q >> 1) << 63));
 }
 
 // `fast` with the lanes from a limit on replaced by `wide`; infinities and NaN are rare.

@@ -1,3 +1,4 @@
+#include "trig/large.hpp"
 #include "trig/table.hpp"
 
 namespace ork::trig {
@@ -7,6 +8,10 @@ const Row rows_pi32[64] = {
 };
 const Row rows_pi64[160] = {
 #include "trig/sincos_pi64.inc"
+};
+
+const SineCosine rows_quadrant[128] = {
+#include "trig/sincos_quadrant.inc"
 };
 
 }  // namespace ork::trig
