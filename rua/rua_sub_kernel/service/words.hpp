@@ -76,6 +76,22 @@ struct WordsAsUnitFloats {
   }
 };
 
+// 2^-31 z - 1, from which Gaussians by the inverse distribution function start: the signed word
+// z - 2^31 rounded once, as by the way through double.
+struct WordsAsSymmetricFloats {
+  float* r;
+
+  void put(uint32_t z) { _mm_store_ss(r++, symmetric(_mm_cvtsi32_si128(int32_t(z)))); }
+  void put4(__m128i z) {
+    _mm_storeu_ps(r, symmetric(z));
+    r += 4;
+  }
+  static __m128 symmetric(__m128i z) {
+    const __m128i centred = _mm_xor_si128(z, _mm_set1_epi32(INT32_MIN));
+    return _mm_mul_ps(_mm_cvtepi32_ps(centred), _mm_set1_ps(0x1p-31f));
+  }
+};
+
 inline __m128i load4(const uint32_t* p) {
   return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
 }
