@@ -68,7 +68,7 @@ ORK_INLINE void each(int32_t n, R* r, F f) {
 template <class R>
 inline void radii(int32_t n, const R* u, R* r) {
   apply(Tables<R>::ln, n, u, r);
-  each(n, r, [](auto x) { return -(x + x); });
+  each(n, r, [](auto x) { return x * R(-2); });
   apply(Tables<R>::sqrt, n, r);
 }
 

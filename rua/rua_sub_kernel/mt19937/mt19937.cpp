@@ -79,6 +79,7 @@ ORK_EXPORT int32_t __ruasBRngMT19937(RuaStream* stream, int32_t n, float* r, flo
 }
 
 ORK_EXPORT int32_t __ruadBRngMT19937(RuaStream* stream, int32_t n, double* r, double a, double b) {
+  if ((a == 0 || a == -1) && b == 1) return generate(stream, n, WordsAsUnitDoubles(r, a));
   return generate(stream, n, WordsAsDoubles(r, a, b, kStep));
 }
 

@@ -47,6 +47,25 @@ struct WordsAsDoubles {
   }
 };
 
+// The two usual ranges, from 0 or -1 to 1, where 2^-32 z (b - a) + a is exact: a word goes into
+// the mantissa of the number whose last place is one step, less that number and a.
+struct WordsAsUnitDoubles {
+  double* r;
+  __m128d above, shift;
+
+  WordsAsUnitDoubles(double* r_, double a)
+      : r(r_), above(_mm_set1_pd((1 - a) * 0x1p20)), shift(_mm_set1_pd((1 - a) * 0x1p20 - a)) {}
+  __m128d operator()(__m128i z) const {
+    return _mm_sub_pd(_mm_or_pd(_mm_castsi128_pd(z), above), shift);
+  }
+  void put(uint32_t z) { _mm_store_sd(r++, (*this)(_mm_cvtsi32_si128(int32_t(z)))); }
+  void put4(__m128i z) {
+    _mm_storeu_pd(r, (*this)(_mm_unpacklo_epi32(z, __m128i{})));
+    _mm_storeu_pd(r + 2, (*this)(_mm_unpackhi_epi32(z, __m128i{})));
+    r += 4;
+  }
+};
+
 struct WordsAsFloats {
   float* r;
   Affine real;
