@@ -42,6 +42,6 @@ def generate():
     found = family("erfinv", mpf(1))
     found["zem/zem_core/erfinv/rows_d_ep.inc"] = text("erfinv", 53, 16, 3, 9, normalized=False)
     for level, parts in ("la", 16), ("ep", 4):
-        found[f"zem/zem_core/erfinv/rows_s_{level}.inc"] = text("erfinv", 24, parts, 3, 12,
+        found[f"zem/zem_core/erfinv/cubics_s_{level}.inc"] = text("erfinv", 24, parts, 3, 12,
                                                                 normalized=False, upward=True)
     return found

@@ -40,7 +40,7 @@ struct ErfInvS : Core<float> {
 
 // Single, LA and EP: cubics in w for each of `parts` intervals of a binade of w, from 2^-24
 // upward, and a last row for w = 1. The rows and t = w - middle are found in single, four at a time: w is exact for
-// |x| >= 1/2, and its rounding below shifts f by 2^-28. The rest is in double, rounded once.
+// |x| >= 1/2, and its rounding below shifts f by 2^-27. The rest is in double, rounded once.
 template <int parts, const double (*table)[4]>
 struct ErfInvSCubic : ErfInvS {
   static constexpr int vectors = 1;

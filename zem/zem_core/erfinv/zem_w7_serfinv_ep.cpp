@@ -5,7 +5,7 @@ namespace ork {
 namespace {
 
 alignas(16) constexpr double table[][4] = {
-#include "erfinv/rows_s_ep.inc"
+#include "erfinv/cubics_s_ep.inc"
 };
 
 }  // namespace
