@@ -347,7 +347,7 @@ TYPED_TEST(StatisticsQuantiles, StreamsOfManyVariables) {
     }
   }
   EXPECT_EQ(got[6], columns.canary);
-  columns.mask = {1, 1, 1, 1};
+  columns.set_mask({1, 1, 1, 1});
   EXPECT_EQ(columns.feed(s.columns.data(), 10, ORK_SS_STREAM), -4004);
 }
 
