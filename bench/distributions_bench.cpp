@@ -57,16 +57,16 @@ class Gsl {
 // them, and what is left for the passes between them and the calls.
 template <class R>
 struct Parts;
-#define PARTS(t, R, chosen)                                                              \
-  template <>                                                                            \
-  struct Parts<R> {                                                                      \
-    static constexpr int slot = chosen;                                                  \
-    static constexpr auto uniform = _rua##t##RngUniform;                                 \
-    static constexpr auto gaussian = _rua##t##RngGaussian;                               \
-    static constexpr auto &ln = ork_zem_kernel_##t##Ln_ttab,                             \
-                          &sqrt = ork_zem_kernel_##t##Sqrt_ttab,                         \
-                          &erf_inv = ork_zem_kernel_##t##ErfInv_ttab;                    \
-    static constexpr auto& sin_cos = ork_zem_kernel_##t##SinCos_ttab;                    \
+#define PARTS(t, R, chosen)                                           \
+  template <>                                                         \
+  struct Parts<R> {                                                   \
+    static constexpr int slot = chosen;                               \
+    static constexpr auto uniform = _rua##t##RngUniform;              \
+    static constexpr auto gaussian = _rua##t##RngGaussian;            \
+    static constexpr auto &ln = ork_zem_kernel_##t##Ln_ttab,          \
+                          &sqrt = ork_zem_kernel_##t##Sqrt_ttab,      \
+                          &erf_inv = ork_zem_kernel_##t##ErfInv_ttab; \
+    static constexpr auto& sin_cos = ork_zem_kernel_##t##SinCos_ttab; \
   };
 PARTS(d, double, 2)
 PARTS(s, float, 0)
@@ -84,8 +84,9 @@ void stages(Report& report, RuaStream* s, const char* type) {
                ln = number([&] { P::ln[P::slot](block, u, b); }),
                root = number([&] { P::sqrt[P::slot](block, u, b); }),
                pairs = number([&] { P::gaussian(RUA_GAUSSIAN_BOXMULLER2, s, n, c, 1, 2); });
-  report.line(format("%s BoxMuller2 %6.2f = uniform %.2f, SinCos %.2f, Ln %.2f, Sqrt %.2f, rest %.2f",
-                     type, pairs, draw, waves, ln, root, pairs - draw - waves - ln - root));
+  report.line(
+      format("%s BoxMuller2 %6.2f = uniform %.2f, SinCos %.2f, Ln %.2f, Sqrt %.2f, rest %.2f", type,
+             pairs, draw, waves, ln, root, pairs - draw - waves - ln - root));
   P::uniform(0, s, n, u, -1, 1);
   const double symmetric = number([&] { P::uniform(0, s, n, c, -1, 1); }),
                inverse = number([&] { P::erf_inv[P::slot](n, u, b); }),

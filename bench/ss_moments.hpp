@@ -150,8 +150,7 @@ inline void threads(Report& report, uint64_t estimates) {
             time_calls([&] { call(k ? &ork_threader_parallel : &ork_threader_serial); }, 1).least;
         least[k] = std::min(least[k], time / double(y.size()));
       }
-    report.line(
-        format("d %-24s %8.2f %8.2f %8.2f", name, least[0], least[1], least[0] / least[1]));
+    report.line(format("d %-24s %8.2f %8.2f %8.2f", name, least[0], least[1], least[0] / least[1]));
   };
   Reading reading{y.data(), y.size(), {}};
   row("reading alone", [&](const ork_threader* table) {
@@ -164,8 +163,8 @@ inline void threads(Report& report, uint64_t estimates) {
                  layout == ORK_SS_ROWS ? "rows" : "columns")
               .c_str(),
           [&](const ork_threader* table) {
-            _ruadSSBasic(big.task, uint32_t(estimates), uint32_t(estimates >> 32),
-                         uint32_t(method), 0, table);
+            _ruadSSBasic(big.task, uint32_t(estimates), uint32_t(estimates >> 32), uint32_t(method),
+                         0, table);
           });
     }
 }

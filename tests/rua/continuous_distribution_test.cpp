@@ -228,11 +228,18 @@ TYPED_TEST(Continuous, StackMayBeMisaligned) {
   using R = TypeParam;
   using E = Entries<R>;
   const std::function<int32_t(int, RuaStream*, R*)> entries[] = {
-#define ROW(entry, ...) \
-  [](int shift, RuaStream* s, R* r) { return call_shifted(shift, E::entry, 0, s, 99, r, __VA_ARGS__); }
-      ROW(uniform, -2, 5),    ROW(exponential, -1, 2.5),   ROW(laplace, -1, 2.5),
-      ROW(cauchy, 0.5, 1.5),  ROW(rayleigh, 1, 2),         ROW(lognormal, 1, 0.5, 2, 3),
-      ROW(weibull, 3, -1, 2), ROW(gumbel, -1, 2),
+#define ROW(entry, ...)                                             \
+  [](int shift, RuaStream* s, R* r) {                               \
+    return call_shifted(shift, E::entry, 0, s, 99, r, __VA_ARGS__); \
+  }
+      ROW(uniform, -2, 5),
+      ROW(exponential, -1, 2.5),
+      ROW(laplace, -1, 2.5),
+      ROW(cauchy, 0.5, 1.5),
+      ROW(rayleigh, 1, 2),
+      ROW(lognormal, 1, 0.5, 2, 3),
+      ROW(weibull, 3, -1, 2),
+      ROW(gumbel, -1, 2),
 #undef ROW
       [](int shift, RuaStream* s, R* r) {
         int32_t status = 0;

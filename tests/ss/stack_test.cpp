@@ -1,37 +1,38 @@
 // Callers may bring a stack that is aligned to 4 bytes only: the life of a task and the helpers,
 // each call on a shifted stack, against the same on an aligned one.
+#include "support/stack.hpp"
+
 #include "ork/ss_math.h"
 #include "ss/statistics.hpp"
-#include "support/stack.hpp"
 
 namespace {
 using namespace statistics;
 
 template <class R>
 struct Calls;
-#define CALLS(t, R, width)                                            \
-  template <>                                                         \
-  struct Calls<R> {                                                   \
-    static constexpr auto moments = __rua##t##SSEditMoments;          \
-    static constexpr auto sums = __rua##t##SSEditSums;                \
-    static constexpr auto cov_cor = __rua##t##SSEditCovCor;           \
-    static constexpr auto cp = __rua##t##SSEditCP;                    \
-    static constexpr auto partial = __rua##t##SSEditPartialCovCor;    \
-    static constexpr auto pooled = __rua##t##SSEditPooledCovariance;  \
-    static constexpr auto quantiles = __rua##t##SSEditQuantiles;      \
-    static constexpr auto stream = __rua##t##SSEditStreamQuantiles;   \
-    static constexpr auto outliers = __rua##t##SSEditOutDetect;       \
-    static constexpr auto robust = __rua##t##SSEditRCov;              \
-    static constexpr auto missing = __rua##t##SSEditMissingVals;      \
-    static constexpr auto matrix = __rua##t##SSEditMtxParametrz;      \
-    static constexpr auto select = __rua##t##QSortSelect;             \
-    static constexpr auto sort = __rua##t##QSort;                     \
-    static constexpr auto sort_step = __rua##t##QSortStep;            \
-    static constexpr auto sort_map = _v##t##SSQuickMapSort;           \
+#define CALLS(t, R, width)                                             \
+  template <>                                                          \
+  struct Calls<R> {                                                    \
+    static constexpr auto moments = __rua##t##SSEditMoments;           \
+    static constexpr auto sums = __rua##t##SSEditSums;                 \
+    static constexpr auto cov_cor = __rua##t##SSEditCovCor;            \
+    static constexpr auto cp = __rua##t##SSEditCP;                     \
+    static constexpr auto partial = __rua##t##SSEditPartialCovCor;     \
+    static constexpr auto pooled = __rua##t##SSEditPooledCovariance;   \
+    static constexpr auto quantiles = __rua##t##SSEditQuantiles;       \
+    static constexpr auto stream = __rua##t##SSEditStreamQuantiles;    \
+    static constexpr auto outliers = __rua##t##SSEditOutDetect;        \
+    static constexpr auto robust = __rua##t##SSEditRCov;               \
+    static constexpr auto missing = __rua##t##SSEditMissingVals;       \
+    static constexpr auto matrix = __rua##t##SSEditMtxParametrz;       \
+    static constexpr auto select = __rua##t##QSortSelect;              \
+    static constexpr auto sort = __rua##t##QSort;                      \
+    static constexpr auto sort_step = __rua##t##QSortStep;             \
+    static constexpr auto sort_map = _v##t##SSQuickMapSort;            \
     static constexpr auto radix = v8_opxsSortRadixAscend_##width##f_I; \
-    static constexpr auto rank = __rua##t##TestCovRank;               \
-    static constexpr auto inverse = __rua##t##InvCov;                 \
-    static constexpr auto ln = __rua##t##Ln;                          \
+    static constexpr auto rank = __rua##t##TestCovRank;                \
+    static constexpr auto inverse = __rua##t##InvCov;                  \
+    static constexpr auto ln = __rua##t##Ln;                           \
   };
 CALLS(d, double, 64)
 CALLS(s, float, 32)
@@ -62,7 +63,8 @@ std::vector<double> results(int shift) {
     ork_ss_task* t = nullptr;
     const R* const none = nullptr;
     R* const out = nullptr;
-    call(A::make, &t, &dimension, &count, &layout, sample.data(layout), sample.w.data(), nullptr, 0);
+    call(A::make, &t, &dimension, &count, &layout, sample.data(layout), sample.w.data(), nullptr,
+         0);
     const auto at = [&](int k) { return v[k].data(); };
     call(C::moments, t, at(0), at(1), at(2), at(3), at(4), at(5), at(6));
     call(C::sums, t, at(7), at(8), at(9), at(10), at(11), at(12), at(13));
@@ -81,8 +83,8 @@ std::vector<double> results(int shift) {
     call(A::edit, t, ORK_SS_EDIT_MEDIAN_ABS_DEV, at(16));
     call(__ruaiSSEditTask, t, ORK_SS_EDIT_OBSERVATION_COUNT, &count);
 
-    const uint64_t moments = 0x7F | ORK_SS_KURTOSIS | 0x7Full << 25, matrices =
-        ORK_SS_COV | ORK_SS_COR | ORK_SS_CROSS_PRODUCT;
+    const uint64_t moments = 0x7F | ORK_SS_KURTOSIS | 0x7Full << 25,
+                   matrices = ORK_SS_COV | ORK_SS_COR | ORK_SS_CROSS_PRODUCT;
     for (const auto* table : {&ork_threader_serial, &ork_threader_parallel}) {
       for (const uint64_t method : {ORK_SS_FAST, ORK_SS_ONE_PASS, ORK_SS_TWO_PASS})
         for (const uint64_t asked : {moments, moments | matrices}) {

@@ -39,8 +39,9 @@ struct ErfInvS : Core<float> {
 };
 
 // Single, LA and EP: cubics in w for each of `parts` intervals of a binade of w, from 2^-24
-// upward, and a last row for w = 1. The rows and t = w - middle are found in single, four at a time: w is exact for
-// |x| >= 1/2, and its rounding below shifts f by 2^-27. The rest is in double, rounded once.
+// upward, and a last row for w = 1. The rows and t = w - middle are found in single, four at a
+// time: w is exact for |x| >= 1/2, and its rounding below shifts f by 2^-27. The rest is in double,
+// rounded once.
 template <int parts, const double (*table)[4]>
 struct ErfInvSCubic : ErfInvS {
   static constexpr int vectors = 1;
@@ -56,7 +57,8 @@ struct ErfInvSCubic : ErfInvS {
       return _mm_cvtpd_ps(row_cubic(row(at0), row(at1), _mm_cvtps_pd(t)) * _mm_cvtps_pd(x));
     };
     const f32x4 low = half(word<0>(offset), word<2>(offset), t, x);
-    const f32x4 high = half(word<4>(offset), word<6>(offset), _mm_movehl_ps(t, t), _mm_movehl_ps(x, x));
+    const f32x4 high =
+        half(word<4>(offset), word<6>(offset), _mm_movehl_ps(t, t), _mm_movehl_ps(x, x));
     return _mm_movelh_ps(low, high);
   }
 };

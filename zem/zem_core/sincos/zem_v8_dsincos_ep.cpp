@@ -18,8 +18,8 @@ struct SinCosEpD : Core<double, 1, 2> {
     const f64x2 ax = abs(x);
     rare |= at_least<0x41600000>(ax);
     const f64x2 t = ax * two_over_pi + shifter, n = t - shifter;
-    const f64x2 r = ax - n * 1.5707962512969971 - n * 7.5497894158615964e-08 -
-                    n * 5.390302858158119e-15;
+    const f64x2 r =
+        ax - n * 1.5707962512969971 - n * 7.5497894158615964e-08 - n * 5.390302858158119e-15;
     const f64x2 z = r * r, z2 = z * z;
     const f64x2 s = ((z * quarter_ep_s3 + quarter_ep_s2) * z + quarter_ep_s1) * (z * r) + r;
     const f64x2 c =
