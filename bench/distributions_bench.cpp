@@ -5,6 +5,7 @@
 #include <random>
 
 #include "ork/rua_distributions.h"
+#include "ork/zem_kernels.h"
 #include "support.hpp"
 
 namespace {
@@ -51,6 +52,48 @@ class Gsl {
  private:
   void *library_ = nullptr, *rng_ = nullptr;
 };
+
+// Where the cycles of the Gaussian methods go: their kernels alone, on blocks as the methods take
+// them, and what is left for the passes between them and the calls.
+template <class R>
+struct Parts;
+#define PARTS(t, R, chosen)                                           \
+  template <>                                                         \
+  struct Parts<R> {                                                   \
+    static constexpr int slot = chosen;                               \
+    static constexpr auto uniform = _rua##t##RngUniform;              \
+    static constexpr auto gaussian = _rua##t##RngGaussian;            \
+    static constexpr auto &ln = ork_zem_kernel_##t##Ln_ttab,          \
+                          &sqrt = ork_zem_kernel_##t##Sqrt_ttab,      \
+                          &erf_inv = ork_zem_kernel_##t##ErfInv_ttab; \
+    static constexpr auto& sin_cos = ork_zem_kernel_##t##SinCos_ttab; \
+  };
+PARTS(d, double, 2)
+PARTS(s, float, 0)
+
+template <class R>
+void stages(Report& report, RuaStream* s, const char* type) {
+  using P = Parts<R>;
+  constexpr int block = 512, n = 2 * block;
+  alignas(64) static R u[n], a[n], b[n], c[n];
+  const auto number = [](auto call) { return time_calls(call, 4000).least / n; };
+  P::uniform(0, s, n, u, 0, 1);
+  for (int i = 0; i < block; ++i) a[i] = u[i] * R(6.2831853071795865);
+  const double draw = number([&] { P::uniform(0, s, n, c, 0, 1); }),
+               waves = number([&] { P::sin_cos[P::slot](block, a, b, c); }),
+               ln = number([&] { P::ln[P::slot](block, u, b); }),
+               root = number([&] { P::sqrt[P::slot](block, u, b); }),
+               pairs = number([&] { P::gaussian(RUA_GAUSSIAN_BOXMULLER2, s, n, c, 1, 2); });
+  report.line(
+      format("%s BoxMuller2 %6.2f = uniform %.2f, SinCos %.2f, Ln %.2f, Sqrt %.2f, rest %.2f", type,
+             pairs, draw, waves, ln, root, pairs - draw - waves - ln - root));
+  P::uniform(0, s, n, u, -1, 1);
+  const double symmetric = number([&] { P::uniform(0, s, n, c, -1, 1); }),
+               inverse = number([&] { P::erf_inv[P::slot](n, u, b); }),
+               icdf = number([&] { P::gaussian(RUA_GAUSSIAN_ICDF, s, n, c, 1, 2); });
+  report.line(format("%s ICDF       %6.2f = uniform %.2f, ErfInv %.2f, rest %.2f", type, icdf,
+                     symmetric, inverse, icdf - symmetric - inverse));
+}
 
 struct Row {
   const char* name;
@@ -105,5 +148,11 @@ int main(int argc, char** argv) {
                        row.standard / d, row.gsl / d, late ? "  over" : ""));
     __ruaDeleteStream(&s);
   }
+  report.line("# stages, cycles a number of 1024");
+  RuaStream* s;
+  if (__ruaNewStreamEx(&s, RUA_BRNG_MT19937, 1, &seed) != 0) return 1;
+  stages<double>(report, s, "double");
+  stages<float>(report, s, "single");
+  __ruaDeleteStream(&s);
   if (!gsl) report.line("GSL: libgsl.so.27 is not there, skipped");
 }

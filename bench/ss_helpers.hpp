@@ -46,7 +46,7 @@ struct Sorts<float> {
 template <class R>
 void sorts(Report& report) {
   using S = Sorts<R>;
-  constexpr int n = 100000, sets = 8, runs = 12;
+  constexpr int n = 100000, sets = 8, runs = 24;
   std::vector<R> x(n), a(n), scratch(n);
   const R* const start = x.data();
   const auto prepare = [&] { std::memcpy(a.data(), start, n * sizeof(R)); };

@@ -409,7 +409,8 @@ int32_t _ruasSSQuantiles(ork_ss_task* task, uint32_t estimates_low, uint32_t est
 
 /* Quantiles of all observations of all calls so far, each off by at most epsilon times their
  * number in rank, by STREAM or STREAM_ADD. The task keeps a summary until it is deleted; p
- * and epsilon must stay the same. n may be 0: then nothing is added. */
+ * and epsilon must stay the same: a later call with another p returns -4001 (below 1: -4004)
+ * and changes nothing. n may be 0: then nothing is added. */
 int32_t _ruadSSStreamQuantiles(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
                                uint32_t method_low, uint32_t method_high,
                                const ork_threader* threader);

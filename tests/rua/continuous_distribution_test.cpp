@@ -4,6 +4,7 @@
 
 #include "ork/zem.h"
 #include "rua/continuous_cases.hpp"
+#include "support/stack.hpp"
 
 namespace {
 
@@ -219,6 +220,42 @@ TYPED_TEST(Continuous, AccurateUniformKeepsItsBounds) {
     EXPECT_EQ(uniform(RUA_METHOD_ACCURATE, n, b, b, r), 0);
     for (R x : r) EXPECT_EQ(x, b);
     EXPECT_EQ(uniform(RUA_METHOD_ACCURATE, n, a, b, r, 0), kFailure);
+  }
+}
+
+// Callers may bring a stack that is aligned to 4 bytes only.
+TYPED_TEST(Continuous, StackMayBeMisaligned) {
+  using R = TypeParam;
+  using E = Entries<R>;
+  const std::function<int32_t(int, RuaStream*, R*)> entries[] = {
+#define ROW(entry, ...)                                             \
+  [](int shift, RuaStream* s, R* r) {                               \
+    return call_shifted(shift, E::entry, 0, s, 99, r, __VA_ARGS__); \
+  }
+      ROW(uniform, -2, 5),
+      ROW(exponential, -1, 2.5),
+      ROW(laplace, -1, 2.5),
+      ROW(cauchy, 0.5, 1.5),
+      ROW(rayleigh, 1, 2),
+      ROW(lognormal, 1, 0.5, 2, 3),
+      ROW(weibull, 3, -1, 2),
+      ROW(gumbel, -1, 2),
+#undef ROW
+      [](int shift, RuaStream* s, R* r) {
+        int32_t status = 0;
+        for (const int method : {0, 1, 2})
+          status |= call_shifted(shift, E::gaussian, method, s, 33, r + 33 * method, 3, 2);
+        return status;
+      }};
+  for (const auto& entry : entries) {
+    R want[99], r[99];
+    for (const int shift : {0, 4, 8, 12}) {
+      Stream s(RUA_BRNG_MT19937, {3});
+      ASSERT_EQ(entry(shift, s, shift ? r : want), 0);
+      if (shift) {
+        ASSERT_EQ(memcmp(r, want, sizeof r), 0) << &entry - entries << ' ' << shift;
+      }
+    }
   }
 }
 

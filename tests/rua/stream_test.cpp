@@ -1,5 +1,6 @@
 // Registry and stream operations, over all generators.
 #include "rua/stream_fixture.hpp"
+#include "support/stack.hpp"
 
 namespace {
 
@@ -298,25 +299,7 @@ TEST_F(StreamOps, StackMayBeMisaligned) {
     ASSERT_EQ(row.dGenerate(Stream(id, {5}), 100, expected, 0, 1), 0);
     for (int shift : {0, 4, 8, 12}) {
       ASSERT_EQ(row.initStream(0, s, 1, std::vector<uint32_t>{5}.data()), 0);
-      const double zero = 0, one = 1;
-      uint32_t words[7] = {uint32_t(uintptr_t((RuaStream*)s)), 100, uint32_t(uintptr_t(r))};
-      memcpy(words + 3, &zero, 8);
-      memcpy(words + 5, &one, 8);
-      const uint32_t* top = words + 6;
-      uint32_t left = 7;
-      asm volatile(
-          "mov %%esp, %%esi\n\t"
-          "and $-16, %%esp\n\t"
-          "sub %[shift], %%esp\n\t"
-          "0: push (%[top])\n\t"
-          "sub $4, %[top]\n\t"
-          "dec %[left]\n\t"
-          "jnz 0b\n\t"
-          "call *%[function]\n\t"
-          "mov %%esi, %%esp"
-          : [top] "+d"(top), [left] "+c"(left)
-          : [shift] "D"(shift), [function] "a"(row.dGenerate)
-          : "esi", "memory", "cc", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5", "xmm6", "xmm7");
+      ASSERT_EQ(call_shifted(shift, row.dGenerate, (RuaStream*)s, 100, r, 0, 1), 0);
       ASSERT_EQ(memcmp(r, expected, sizeof r), 0) << std::hex << id << ' ' << shift;
     }
   }

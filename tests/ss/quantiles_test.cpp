@@ -347,7 +347,7 @@ TYPED_TEST(StatisticsQuantiles, StreamsOfManyVariables) {
     }
   }
   EXPECT_EQ(got[6], columns.canary);
-  columns.mask = {1, 1, 1, 1};
+  columns.set_mask({1, 1, 1, 1});
   EXPECT_EQ(columns.feed(s.columns.data(), 10, ORK_SS_STREAM), -4004);
 }
 
@@ -361,6 +361,15 @@ TYPED_TEST(StatisticsQuantiles, StreamEdges) {
     ASSERT_EQ(t.feed(s.rows.data(), 0, ORK_SS_STREAM_ADD), 0);
     ASSERT_EQ(t.feed(s.rows.data(), 0, ORK_SS_STREAM), 0);
     EXPECT_EQ(t[ORK_SS_EDIT_STREAM_QUANTILES][0], t.canary);
+    // Another number of variables than the state has.
+    t.p = 2;
+    EXPECT_EQ(t.feed(s.rows.data(), 10, ORK_SS_STREAM), -4001);
+    t.p = 0;
+    EXPECT_EQ(t.feed(s.rows.data(), 10, ORK_SS_STREAM), -4004);
+    t.p = 1;
+    EXPECT_EQ(t[ORK_SS_EDIT_STREAM_QUANTILES][0], t.canary);
+    ASSERT_EQ(t.feed(s.rows.data(), 1, ORK_SS_STREAM), 0);
+    EXPECT_EQ(t[ORK_SS_EDIT_STREAM_QUANTILES][0], s.rows[0]);
     // Large epsilons, where blocks hold one value or would hold none.
     for (const double epsilon : {1.0, 0.99, 0.8, 0.6, 0.5}) {
       Stream<R> u(1, ORK_SS_ROWS, s.rows.data(), epsilon, {R(0.5)});

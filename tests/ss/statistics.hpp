@@ -26,26 +26,45 @@ API(d, double)
 API(s, float)
 #undef API
 
+// An integer parameter. Tasks in single take 64 bits, those in double 32 and have no eye for what
+// stands behind them.
+template <class R>
+struct Integer {
+  static constexpr bool wide = sizeof(R) == 4;
+  int low, high;
+
+  Integer(int value = 0) : low(value), high(wide ? value >> 31 : 0x5A5A5A5A) {}
+  operator int() const { return low; }
+};
+
 // A task and its arrays. Arrays are padded with canaries, and filled with one that no result is.
 template <class R>
 struct Task {
   static constexpr R canary = R(-7777);
   static constexpr int pad = 4;
-  int p, n, storage;
+  Integer<R> p, n, storage;
   ork_ss_task* task = nullptr;
   std::map<int, std::vector<R>> arrays;  // by edit code
-  std::map<int, int> integers;
-  std::vector<int> mask;
+  std::map<int, Integer<R>> integers;
+  std::vector<int> mask, mask_words;
 
   Task(int p, int n, int storage, const R* x, const R* w = nullptr, std::vector<int> mask = {})
-      : p(p), n(n), storage(storage), mask(mask) {
+      : p(p), n(n), storage(storage) {
+    set_mask(mask);
     const int status = Api<R>::make(&task, &this->p, &this->n, &this->storage, x, w,
-                                    mask.empty() ? nullptr : this->mask.data(), 0);
+                                    mask.empty() ? nullptr : mask_words.data(), Integer<R>::wide);
     EXPECT_EQ(status, blocks::failed() ? ORK_SS_NO_MEMORY : 0);
   }
   ~Task() { __ruaSSDeleteTask(&task); }
   Task(const Task&) = delete;
 
+  // Of the same length as before. Only the low words of its entries count.
+  void set_mask(const std::vector<int>& entries) {
+    mask = entries;
+    mask_words.resize(entries.size() * (Integer<R>::wide ? 2 : 1));
+    for (size_t j = 0; j < mask_words.size(); ++j)
+      mask_words[j] = !Integer<R>::wide ? entries[j] : j % 2 ? 1 : entries[j / 2];
+  }
   // What editing returns: there is no task where its allocation had to fail.
   int edited() const { return task ? ORK_SS_OK : ORK_SS_NULL_TASK; }
   R* array(int code, int size, R fill = canary) {

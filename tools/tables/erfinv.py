@@ -1,22 +1,28 @@
 """Tables of ErfInv, shared by ErfcInv: erfinv(x)/x as polynomials in parts of binades of w = 1 - |x|."""
-from mpmath import mpf
+from mpmath import mpf, pi, sqrt
 
 from _inverse_error import rows, split_row
 from _numbers import number, table
 
-rule = """erfinv(1 - w)/(1 - w), {parts} rows to a binade of w, next to 1 first, {binades} binades: coefficients
+rule = """erfinv(1 - w)/(1 - w), {parts} rows to a binade of w, {order}, {binades} binades: coefficients
 of t, {t}, from the middle. Chebyshev series cut at degree {degree}.{more}"""
 
 
-def text(command, binades, parts, degree, terms, normalized=True, scale=1, split=False, first=None):
+def text(command, binades, parts, degree, terms, normalized=True, scale=1, split=False, first=None,
+         upward=False):
     found = [split_row(r) if split else [number(c, "d") for c in r]
              for r in rows(binades, parts, degree, terms, normalized, scale)]
+    if upward:
+        found.reverse()
+        found.append([number(sqrt(pi) / 2, "d")] + [number(mpf(0), "d")] * degree)
     if first:
         found[0] = [number(mpf(c), "d") for c in first]
     more = "\nLow parts of c0 and c1, c2 and up, high parts (26 bits) of c0 and c1." if split else ""
     more += "\nTimes sqrt(2)." if scale != 1 else ""
     more += "\nThe first row is given." if first else ""
+    more += "\nThe last row is sqrt(pi)/2, the limit at w = 1." if upward else ""
     return table(command, rule.format(parts=parts, binades=binades, degree=degree, more=more,
+                                      order="next to 1 last" if upward else "next to 1 first",
                                       t="w scaled to [1, 2)" if normalized else "w unscaled"), found)
 
 
@@ -35,4 +41,7 @@ def family(command, scale):
 def generate():
     found = family("erfinv", mpf(1))
     found["zem/zem_core/erfinv/rows_d_ep.inc"] = text("erfinv", 53, 16, 3, 9, normalized=False)
+    for level, parts in ("la", 16), ("ep", 4):
+        found[f"zem/zem_core/erfinv/cubics_s_{level}.inc"] = text("erfinv", 24, parts, 3, 12,
+                                                                normalized=False, upward=True)
     return found

@@ -184,6 +184,12 @@ def sine_coefficients():
     out = ["// SinCos single, HA: sin r = r (1 + s1 z + ...), z = r^2, |r| <= pi/4.",
            f"// Relative error {nstr(error, 3)} = 2^{nstr(log(error, 2), 4)} (fit)."]
     out += fitted("quarter", "s", list(enumerate(p, 1)))
+    quarter = (pi / 4) ** 2 * (1 + mpf(2) ** -20)
+    p, _, error = rational_fit(t, 3, 0, quarter)
+    q, _, cosine_error = rational_fit(lambda z: cos(sqrt(z)), 4, 0, quarter)
+    out += ["// SinCos double, EP: sin r = r (1 + s1 z + ...), cos r = 1 + c1 z + ..., z = r^2, |r| <= pi/4.",
+            f"// Relative errors 2^{nstr(log(error, 2), 4)}, 2^{nstr(log(cosine_error, 2), 4)} (fits)."]
+    out += fitted("quarter_ep", "s", list(enumerate(p, 1))) + fitted("quarter_ep", "c", list(enumerate(q, 1)))
     singles, error = short_sine()
     out += ["// Sin, Cos single, LA, |r| <= pi/2: four coefficients, the first two given, the others searched as floats.",
             f"// Error {error:.3f} ulp at most (fit)."]

@@ -65,10 +65,12 @@ inline int32_t whole_pairs(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
     const auto scaled = [=](auto rho, auto wave) { return rho * wave * sigma + a; };
     constexpr int w = simd<R>::width;
     int32_t i = 0;
-    for (; m - i >= w; i += w) {
-      const vec_of<R> rho = load(radius + i);
-      store_pairs(r + 2 * i, scaled(rho, load(sine + i)), scaled(rho, load(cosine + i)));
-    }
+    for (; m - i >= 4 * w; i += 4 * w)
+#pragma GCC unroll 4
+      for (int k = i; k < i + 4 * w; k += w) {
+        const vec_of<R> rho = load(radius + k);
+        store_pairs(r + 2 * k, scaled(rho, load(sine + k)), scaled(rho, load(cosine + k)));
+      }
     for (; i < m; ++i) {
       r[2 * i] = scaled(radius[i], sine[i]);
       r[2 * i + 1] = scaled(radius[i], cosine[i]);

@@ -68,7 +68,7 @@ ORK_INLINE void each(int32_t n, R* r, F f) {
 template <class R>
 inline void radii(int32_t n, const R* u, R* r) {
   apply(Tables<R>::ln, n, u, r);
-  each(n, r, [](auto x) { return -(x + x); });
+  each(n, r, [](auto x) { return x * R(-2); });
   apply(Tables<R>::sqrt, n, r);
 }
 
@@ -82,11 +82,13 @@ template <class R, class F>
 ORK_INLINE void split(int32_t n, const R* pairs, R* first, R* second, F f) {
   constexpr int w = simd<R>::width;
   int32_t i = 0;
-  for (; n - i >= w; i += w) {
-    const vec_of<R> a = load(pairs + 2 * i), b = load(pairs + 2 * i + w);
-    store(first + i, evens(a, b));
-    store(second + i, f(odds(a, b)));
-  }
+  for (; n - i >= 4 * w; i += 4 * w)
+#pragma GCC unroll 4
+    for (int k = i; k < i + 4 * w; k += w) {
+      const vec_of<R> a = load(pairs + 2 * k), b = load(pairs + 2 * k + w);
+      store(first + k, evens(a, b));
+      store(second + k, f(odds(a, b)));
+    }
   for (; i < n; ++i) {
     const R a = pairs[2 * i], b = pairs[2 * i + 1];
     first[i] = a;

@@ -74,10 +74,12 @@ ORK_EXPORT int32_t __ruaBRngMT19937InitStream(int32_t method, RuaStream* stream,
 
 ORK_EXPORT int32_t __ruasBRngMT19937(RuaStream* stream, int32_t n, float* r, float a, float b) {
   if (a == 0 && b == 1) return generate(stream, n, WordsAsUnitFloats{r});
+  if (a == -1 && b == 1) return generate(stream, n, WordsAsSymmetricFloats{r});
   return generate(stream, n, WordsAsFloats(r, a, b, kStep));
 }
 
 ORK_EXPORT int32_t __ruadBRngMT19937(RuaStream* stream, int32_t n, double* r, double a, double b) {
+  if ((a == 0 || a == -1) && b == 1) return generate(stream, n, WordsAsUnitDoubles(r, a));
   return generate(stream, n, WordsAsDoubles(r, a, b, kStep));
 }
 

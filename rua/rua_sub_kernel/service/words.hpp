@@ -47,6 +47,25 @@ struct WordsAsDoubles {
   }
 };
 
+// The two usual ranges, from 0 or -1 to 1, where 2^-32 z (b - a) + a is exact: a word goes into
+// the mantissa of the number whose last place is one step, less that number and a.
+struct WordsAsUnitDoubles {
+  double* r;
+  __m128d above, shift;
+
+  WordsAsUnitDoubles(double* r_, double a)
+      : r(r_), above(_mm_set1_pd((1 - a) * 0x1p20)), shift(_mm_set1_pd((1 - a) * 0x1p20 - a)) {}
+  __m128d operator()(__m128i z) const {
+    return _mm_sub_pd(_mm_or_pd(_mm_castsi128_pd(z), above), shift);
+  }
+  void put(uint32_t z) { _mm_store_sd(r++, (*this)(_mm_cvtsi32_si128(int32_t(z)))); }
+  void put4(__m128i z) {
+    _mm_storeu_pd(r, (*this)(_mm_unpacklo_epi32(z, __m128i{})));
+    _mm_storeu_pd(r + 2, (*this)(_mm_unpackhi_epi32(z, __m128i{})));
+    r += 4;
+  }
+};
+
 struct WordsAsFloats {
   float* r;
   Affine real;
@@ -73,6 +92,22 @@ struct WordsAsUnitFloats {
     const __m128 high = _mm_cvtepi32_ps(_mm_srli_epi32(z, 16));
     const __m128 low = _mm_cvtepi32_ps(_mm_and_si128(z, _mm_set1_epi32(0xFFFF)));
     return _mm_add_ps(_mm_mul_ps(high, _mm_set1_ps(0x1p-16f)), _mm_mul_ps(low, _mm_set1_ps(0x1p-32f)));
+  }
+};
+
+// 2^-31 z - 1, from which Gaussians by the inverse distribution function start: the signed word
+// z - 2^31 rounded once, as by the way through double.
+struct WordsAsSymmetricFloats {
+  float* r;
+
+  void put(uint32_t z) { _mm_store_ss(r++, symmetric(_mm_cvtsi32_si128(int32_t(z)))); }
+  void put4(__m128i z) {
+    _mm_storeu_ps(r, symmetric(z));
+    r += 4;
+  }
+  static __m128 symmetric(__m128i z) {
+    const __m128i centred = _mm_xor_si128(z, _mm_set1_epi32(INT32_MIN));
+    return _mm_mul_ps(_mm_cvtepi32_ps(centred), _mm_set1_ps(0x1p-31f));
   }
 };
 

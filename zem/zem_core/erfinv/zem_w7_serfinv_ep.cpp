@@ -5,19 +5,12 @@ namespace ork {
 namespace {
 
 alignas(16) constexpr double table[][4] = {
-#include "erfinv/rows_s_ep.inc"
-};
-
-struct Function : ErfInvS {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
+#include "erfinv/cubics_s_ep.inc"
 };
 
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_sErfInv_W7EPnnn(int n, const float* a, float* r) {
-  ork::block<ork::InverseS<ork::Function, ork::Level::ep>>(n, {{a}, {r}});
+  ork::block<ork::ErfInvSCubic<4, ork::table>>(n, {{a}, {r}});
 }

@@ -1,23 +1,16 @@
-// ErfInv, single, LA: in double, degree 5 in quarters of binades.
+// ErfInv, single, LA: in double, degree 3 in sixteenths of binades.
 #include "erfinv/erfinv.hpp"
 
 namespace ork {
 namespace {
 
-alignas(16) constexpr double table[][6] = {
-#include "erfinv/rows_s_la.inc"
-};
-
-struct Function : ErfInvS {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
+alignas(16) constexpr double table[][4] = {
+#include "erfinv/cubics_s_la.inc"
 };
 
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_sErfInv_W7LAynn(int n, const float* a, float* r) {
-  ork::block<ork::InverseS<ork::Function, ork::Level::la>>(n, {{a}, {r}});
+  ork::block<ork::ErfInvSCubic<16, ork::table>>(n, {{a}, {r}});
 }

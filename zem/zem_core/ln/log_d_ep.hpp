@@ -29,9 +29,7 @@ struct LogEpD : Core<double> {
     const f64x2 k = as<f64x2>((as<u64x2>(x) >> 52) | in_2_52) - (0x1p52 + 1023);
     const u64x2 mantissa = splat_u64(0x000FFFFFFFFFFFFF);
     const f64x2 m = or_bits(and_bits(x, mantissa), splat_u64(0x3FF0000000000000));
-    // Ones below the tie bit: a tie goes up, as in the row.
-    const f64x2 above = or_bits(m, splat_u64(0x000003FF000003FF));
-    const f64x2 m_r = above + 17592186044416.0 - 17592186044416.0;
+    const f64x2 m_r = as<f64x2>(index + u32x4{0, 0x3FF00000, 0, 0x3FF00000});
     return Base::sum((m - m_r) * c, k * Base::log_2 + t);
   }
   // One element beyond the fast range, on the x87 unit: y log2 x with y = log 2.

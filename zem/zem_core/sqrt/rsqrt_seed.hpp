@@ -9,17 +9,17 @@ namespace ork {
 inline constexpr u64x2 high_half = {0xFFFFFFFF00000000, 0xFFFFFFFF00000000};
 
 // The seed. Its low word is 0: with at most 21 significant bits its square is exact.
-// x << 3 lines the mantissa up with that of a single in the high word; the exponent's low bit,
-// complemented, and the bias make it a number in [1, 4). The seed's exponent is then
-// 896 - floor((exponent - 1023) / 2) more than the shifted estimate's.
+// x << 3 lines the mantissa up with that of a single in the high word; the exponent's low bit
+// makes it a number in [1/2, 2), and the low word becomes infinity, whose estimate is 0. The
+// seed's exponent is then 896 - ceil((exponent - 1023) / 2) more than the shifted estimate's.
 ORK_INLINE f64x2 rsqrt_seed(f64x2 x) {
-  constexpr u32x4 keep = {0, 0x00FFFFFF, 0, 0x00FFFFFF}, flip = {0, 0x00800000, 0, 0x00800000};
-  constexpr u32x4 one = {0, 0x3F800000, 0, 0x3F800000};
-  constexpr u32x4 top = {0, 0xB00FFFFF, 0, 0xB00FFFFF};  // (2816 << 20) + 0xFFFFF
+  constexpr u32x4 keep = {0, 0x00FFFFFF, 0, 0x00FFFFFF};
+  constexpr u32x4 range = {0x7F800000, 0x3F000000, 0x7F800000, 0x3F000000};
+  constexpr u32x4 top = {0, 0xAFFFFFFF, 0, 0xAFFFFFFF};  // (2815 << 20) + 0xFFFFF
   constexpr u32x4 exponent = {0, 0xFFF00000, 0, 0xFFF00000};
-  const u32x4 m = ((as<u32x4>(as<u64x2>(x) << 3) & keep) ^ flip) + one;
-  const u64x2 y = (as<u64x2>(rsqrt_est(as<f32x4>(m))) >> 3) & high_half;
-  return as<f64x2>(as<u32x4>(y) + ((top - as<u32x4>(x)) >> 1 & exponent));
+  const u32x4 m = (as<u32x4>(as<u64x2>(x) << 3) & keep) | range;
+  const u32x4 y = as<u32x4>(rsqrt_est(as<f32x4>(m))) >> 3;
+  return as<f64x2>(y + ((top - as<u32x4>(x)) >> 1 & exponent));
 }
 
 // c(e) = (1 + e)^(-1/2) - 1 to degree 5 (HA), 4 (LA), 2 (EP); the terms left out are below

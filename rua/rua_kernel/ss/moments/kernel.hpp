@@ -40,6 +40,11 @@ template <class R>
 using Kernel = void (*)(const Data<R>& data, int first, int last, Weight<R>& weight,
                         R* const* orders, R* s, R* scratch);
 
+// A hint; what is that far behind p need not be there.
+ORK_INLINE void prefetch(const void* p, size_t bytes) {
+  _mm_prefetch((const char*)((uintptr_t)p + bytes), _MM_HINT_T0);
+}
+
 template <class R, class Core, bool rows, bool cross>
 struct Block {
   typedef vec_of<R> V;
@@ -82,8 +87,15 @@ struct Block {
       d = scratch + j;
       scaled = d + size_t(kChunk) * cross_stride<R>(p);
     }
+    const size_t ahead = sizeof(R) * kChunk * size_t(step);
     const int stride = cross ? cross_stride<R>(p) : 0;
     for (int i = 0, at = 0; i < count; ++i, at += step) {
+      // What this block needs of the next chunk: otherwise its first block waits for memory, and
+      // the others only compute.
+      if constexpr (!gather)
+        prefetch(x, ahead);
+      else if (i % (64 / int(sizeof(R))) == 0)
+        for (int l = 0; l < vectors * width; ++l) prefetch(lane[l] + at, ahead);
 #pragma GCC unroll 8
       for (int v = 0; v < vectors; ++v) {
         V y;
