@@ -76,16 +76,16 @@ ORK_INLINE void store_clean(const Stage& s, int count, double* r) {
   int i = 0;
   for (; i + 2 <= count; i += 2)
     store(r + i, flip(load_aligned(s.high + i), load_aligned(s.sign + i)));
-  if (i < count) _mm_store_sd(r + i, flip(load_aligned(s.high + i), load_aligned(s.sign + i)));
+  if (i < count) write_one(r + i, flip(load_aligned(s.high + i), load_aligned(s.sign + i))[0]);
 }
 __attribute__((noinline)) void store_mixed(const Stage& s, const OperandsOf<TanHaD>& o, int first,
                                            int count) {
   for (int i = 0; i < count; ++i) {
     if (sign_mask<double>(s.rare[i / 2]) >> i % 2 & 1) {
-      const double x = o.in[0][first + i];
+      const double x = read_one(o.in[0] + first + i);
       special_element(TanHaD{}, o, first + i, &x, &x);
     } else {
-      _mm_store_sd(o.out[0] + first + i, flip(splat(s.high[i]), splat(s.sign[i])));
+      write_one(o.out[0] + first + i, flip(splat(s.high[i]), splat(s.sign[i]))[0]);
     }
   }
 }
