@@ -11,6 +11,8 @@ import importlib.util
 import pathlib
 import sys
 
+from mpmath import mp
+
 root = pathlib.Path(__file__).resolve().parent.parent
 modules = root / "tools" / "tables"
 sys.path.insert(0, str(modules))
@@ -33,6 +35,7 @@ def main(arguments):
         names = sorted(p.stem for p in modules.glob("*.py") if not p.stem.startswith("_"))
     different = 0
     for name in names:
+        mp.prec = 200  # a module that wants another sets it
         for path, text in load(name).generate().items():
             file = root / path
             same = file.exists() and file.read_text() == text
