@@ -144,10 +144,10 @@ inline void threads(Report& report, uint64_t estimates) {
   report.line("  work                          one      two  times one");
   const auto row = [&](const char* name, auto call) {
     double least[2] = {1e300, 1e300};
-    for (int run = 0; run < 8; ++run)
+    for (int run = 0; run < 6; ++run)
       for (const int k : {0, 1}) {
         const double time =
-            time_calls([&] { call(k ? &ork_threader_parallel : &ork_threader_serial); }, 1).least;
+            time_calls([&] { call(k ? &ork_threader_parallel : &ork_threader_serial); }, 3).least;
         least[k] = std::min(least[k], time / double(y.size()));
       }
     report.line(format("d %-24s %8.2f %8.2f %8.2f", name, least[0], least[1], least[0] / least[1]));
