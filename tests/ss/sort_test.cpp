@@ -5,27 +5,14 @@
 #include <numeric>
 #include <random>
 
-#include "ork/ss_math.h"
+#include "ss/api.hpp"
 #include "support/bits.hpp"
 #include "support/memory.hpp"
 #include "support/pch.hpp"
 #include "support/special.hpp"
 
 namespace {
-
-template <class R>
-struct Api;
-#define API(t, R, width)                                               \
-  template <>                                                          \
-  struct Api<R> {                                                      \
-    static constexpr auto select = __rua##t##QSortSelect;              \
-    static constexpr auto sort = __rua##t##QSort;                      \
-    static constexpr auto sort_step = __rua##t##QSortStep;             \
-    static constexpr auto map_sort = _v##t##SSQuickMapSort;            \
-    static constexpr auto radix = v8_opxsSortRadixAscend_##width##f_I; \
-  };
-API(d, double, 64)
-API(s, float, 32)
+using statistics::Api;
 
 std::mt19937 generator(7);
 template <class R>
@@ -152,7 +139,7 @@ TYPED_TEST(Sorting, MapSortKeepsEachValueWithItsKey) {
   this->each([&](const Values<R>& v, R* keys, int n) {
     R* const values = this->more.template at_start<R>();
     std::iota(values, values + n, R(0));
-    Api<R>::map_sort(n, keys, values);
+    Api<R>::sort_map(n, keys, values);
     EXPECT_TRUE(std::is_sorted(keys, keys + n));
     std::vector<bool> seen(n);
     for (int i = 0; i < n; ++i) {

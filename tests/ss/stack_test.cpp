@@ -2,40 +2,10 @@
 // each call on a shifted stack, against the same on an aligned one.
 #include "support/stack.hpp"
 
-#include "ork/ss_math.h"
 #include "ss/statistics.hpp"
 
 namespace {
 using namespace statistics;
-
-template <class R>
-struct Calls;
-#define CALLS(t, R, width)                                             \
-  template <>                                                          \
-  struct Calls<R> {                                                    \
-    static constexpr auto moments = __rua##t##SSEditMoments;           \
-    static constexpr auto sums = __rua##t##SSEditSums;                 \
-    static constexpr auto cov_cor = __rua##t##SSEditCovCor;            \
-    static constexpr auto cp = __rua##t##SSEditCP;                     \
-    static constexpr auto partial = __rua##t##SSEditPartialCovCor;     \
-    static constexpr auto pooled = __rua##t##SSEditPooledCovariance;   \
-    static constexpr auto quantiles = __rua##t##SSEditQuantiles;       \
-    static constexpr auto stream = __rua##t##SSEditStreamQuantiles;    \
-    static constexpr auto outliers = __rua##t##SSEditOutDetect;        \
-    static constexpr auto robust = __rua##t##SSEditRCov;               \
-    static constexpr auto missing = __rua##t##SSEditMissingVals;       \
-    static constexpr auto matrix = __rua##t##SSEditMtxParametrz;       \
-    static constexpr auto select = __rua##t##QSortSelect;              \
-    static constexpr auto sort = __rua##t##QSort;                      \
-    static constexpr auto sort_step = __rua##t##QSortStep;             \
-    static constexpr auto sort_map = _v##t##SSQuickMapSort;            \
-    static constexpr auto radix = v8_opxsSortRadixAscend_##width##f_I; \
-    static constexpr auto rank = __rua##t##TestCovRank;                \
-    static constexpr auto inverse = __rua##t##InvCov;                  \
-    static constexpr auto ln = __rua##t##Ln;                           \
-  };
-CALLS(d, double, 64)
-CALLS(s, float, 32)
 
 constexpr int p = 5, n = 2100;
 
@@ -43,7 +13,6 @@ constexpr int p = 5, n = 2100;
 template <class R>
 std::vector<double> results(int shift) {
   using A = Api<R>;
-  using C = Calls<R>;
   std::vector<double> all;
   const auto call = [&](auto f, auto... a) {
     if constexpr (std::is_void_v<decltype(f(a...))>)
@@ -66,18 +35,18 @@ std::vector<double> results(int shift) {
     call(A::make, &t, &dimension, &count, &layout, sample.data(layout), sample.w.data(), nullptr,
          0);
     const auto at = [&](int k) { return v[k].data(); };
-    call(C::moments, t, at(0), at(1), at(2), at(3), at(4), at(5), at(6));
-    call(C::sums, t, at(7), at(8), at(9), at(10), at(11), at(12), at(13));
-    call(C::cov_cor, t, out, matrix[0].data(), &full, matrix[1].data(), &full);
-    call(C::cp, t, out, out, matrix[2].data(), &full);
-    call(C::partial, t, nullptr, out, nullptr, out, nullptr, out, nullptr, out, nullptr);
-    call(C::pooled, t, nullptr, out, out, nullptr, out, out);
-    call(C::quantiles, t, &three, orders, quantiles.data(), sorted.data(), &layout);
-    call(C::stream, t, &three, orders, streamed.data(), &one, &epsilon);
-    call(C::outliers, t, nullptr, none, out);
-    call(C::robust, t, nullptr, nullptr, none, out, out);
-    call(C::missing, t, nullptr, none, nullptr, none, nullptr, none, nullptr, out, nullptr, out);
-    call(C::matrix, t, out, nullptr, out, nullptr);
+    call(A::edit_moments, t, at(0), at(1), at(2), at(3), at(4), at(5), at(6));
+    call(A::edit_sums, t, at(7), at(8), at(9), at(10), at(11), at(12), at(13));
+    call(A::edit_cov_cor, t, out, matrix[0].data(), &full, matrix[1].data(), &full);
+    call(A::edit_cp, t, out, out, matrix[2].data(), &full);
+    call(A::edit_partial, t, nullptr, out, nullptr, out, nullptr, out, nullptr, out, nullptr);
+    call(A::edit_pooled, t, nullptr, out, out, nullptr, out, out);
+    call(A::edit_quantiles, t, &three, orders, quantiles.data(), sorted.data(), &layout);
+    call(A::edit_stream, t, &three, orders, streamed.data(), &one, &epsilon);
+    call(A::edit_outliers, t, nullptr, none, out);
+    call(A::edit_robust, t, nullptr, nullptr, none, out, out);
+    call(A::edit_missing, t, nullptr, none, nullptr, none, nullptr, none, nullptr, out, nullptr, out);
+    call(A::edit_matrix, t, out, nullptr, out, nullptr);
     call(A::edit, t, ORK_SS_EDIT_KURTOSIS, at(14));
     call(A::edit, t, ORK_SS_EDIT_MIN, at(15));
     call(A::edit, t, ORK_SS_EDIT_MEDIAN_ABS_DEV, at(16));
@@ -111,24 +80,24 @@ std::vector<double> results(int shift) {
     keep(a);
     a = data;
   };
-  sorted(C::select, 999, a.data(), 400);
-  sorted(C::sort, 999, a.data());
-  sorted(C::sort_step, 333, a.data(), 3);
-  sorted(C::sort_map, 999, a.data(), b.data());
-  sorted(C::radix, a.data(), b.data(), 999);
+  sorted(A::select, 999, a.data(), 400);
+  sorted(A::sort, 999, a.data());
+  sorted(A::sort_step, 333, a.data(), 3);
+  sorted(A::sort_map, 999, a.data(), b.data());
+  sorted(A::radix, a.data(), b.data(), 999);
   sorted(v8_ownsCopy_8u, (const uint8_t*)data.data(), (uint8_t*)a.data(), 333);
   sorted(v8_ownsZero_8u, (uint8_t*)a.data(), 333);
   sorted(v8_opxsCopy_32f, (const float*)data.data(), (float*)a.data(), 333);
   sorted(v8_opxsZero_32s, (int32_t*)a.data(), 333);
   for (const int order : {1, 2, 3, 6}) {
     for (int i = 0; i < order * order; ++i) a[i] = i % (order + 1) == 0 ? R(order) : R(0.5);
-    call(C::inverse, order, a.data());
+    call(A::inverse, order, a.data());
     keep(a);
     for (int i = 0; i < order * order; ++i) a[i] = 1;
-    call(C::rank, order, a.data());
+    call(A::rank, order, a.data());
     for (int i = 0; i < order; ++i) all.push_back(a[i * order + i]);
   }
-  call(C::ln, R(2.5));
+  call(A::ln, R(2.5));
   for (const auto f : {__ruadSqrt, __ruadFloor, __ruadLGamma}) call(f, 2.5);
   for (const auto f : {__ruadChi2CDF, __ruadChi2PDF, _vdSSQ}) call(f, 3.0, 2.5);
   call(__ruadChi2ICDF, 3.0, 0.7);

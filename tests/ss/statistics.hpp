@@ -2,29 +2,11 @@
 // Statistics tasks with data of their own, and what the moments of that data are.
 #include <random>
 
-#include "ork/ss.h"
+#include "ss/api.hpp"
 #include "support/blocks.hpp"
 #include "support/pch.hpp"
 
 namespace statistics {
-
-template <class R>
-struct Api;
-#define API(t, R)                                              \
-  template <>                                                  \
-  struct Api<R> {                                              \
-    static constexpr auto make = __rua##t##SSNewTask;          \
-    static constexpr auto edit = __rua##t##SSEditTask;         \
-    static constexpr auto basic = _rua##t##SSBasic;            \
-    static constexpr auto minmax = _rua##t##SSMinmax;          \
-    static constexpr auto quantiles = _rua##t##SSQuantiles;    \
-    static constexpr auto stream = _rua##t##SSStreamQuantiles; \
-    static constexpr auto deviations = _rua##t##SSMAD;         \
-    static constexpr auto median = _rua##t##SSWMedian;         \
-  };
-API(d, double)
-API(s, float)
-#undef API
 
 // An integer parameter. Tasks in single take 64 bits, those in double 32 and have no eye for what
 // stands behind them.

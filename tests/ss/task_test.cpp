@@ -1,10 +1,11 @@
 // The statistics task: constructor, editors, destructor, and the order of their statuses.
 #include "ork/serv.h"
-#include "ork/ss.h"
+#include "ss/api.hpp"
 #include "support/blocks.hpp"
 #include "support/pch.hpp"
 
 namespace {
+using statistics::Api;
 
 // The record as its words.
 constexpr int kWords = 90, kStreamState = 53, kReleaseCount = 88, kReleaseHook = 89;
@@ -15,29 +16,6 @@ Image image(const ork_ss_task* task) {
   return words;
 }
 uint32_t word(const void* pointer) { return uint32_t(reinterpret_cast<uintptr_t>(pointer)); }
-
-template <class R>
-struct Api;
-#define API(t, R)                                                     \
-  template <>                                                         \
-  struct Api<R> {                                                     \
-    static constexpr auto make = __rua##t##SSNewTask;                 \
-    static constexpr auto edit = __rua##t##SSEditTask;                \
-    static constexpr auto moments = __rua##t##SSEditMoments;          \
-    static constexpr auto sums = __rua##t##SSEditSums;                \
-    static constexpr auto cov_cor = __rua##t##SSEditCovCor;           \
-    static constexpr auto cp = __rua##t##SSEditCP;                    \
-    static constexpr auto partial = __rua##t##SSEditPartialCovCor;    \
-    static constexpr auto pooled = __rua##t##SSEditPooledCovariance;  \
-    static constexpr auto quantiles = __rua##t##SSEditQuantiles;      \
-    static constexpr auto stream = __rua##t##SSEditStreamQuantiles;   \
-    static constexpr auto outliers = __rua##t##SSEditOutDetect;       \
-    static constexpr auto robust = __rua##t##SSEditRCov;              \
-    static constexpr auto missing = __rua##t##SSEditMissingVals;      \
-    static constexpr auto parametrize = __rua##t##SSEditMtxParametrz; \
-  };
-API(d, double)
-API(s, float)
 
 template <class R>
 struct StatisticsTask : ::testing::Test {
@@ -200,18 +178,18 @@ TYPED_TEST(StatisticsTask, GroupEditorsSetWhatIsNotNull) {
   typedef TypeParam R;
   typedef Api<R> A;
   ork_ss_task* const t = this->task;
-  check_group<R>("moments", t, A::moments, {12, 13, 14, 15, 16, 17, 18});
-  check_group<R>("sums", t, A::sums, {19, 20, 21, 22, 23, 24, 25});
-  check_group<R>("cov_cor", t, A::cov_cor, {12, 32, 31, 34, 33});
-  check_group<R>("cp", t, A::cp, {12, 19, 36, 35});
-  check_group<R>("partial", t, A::partial, {66, 32, 31, 34, 33, 67, 68, 69, 70});
-  check_group<R>("pooled", t, A::pooled, {37, 42, 43, 38, 39, 40});
-  check_group<R>("quantiles", t, A::quantiles, {45, 46, 47, 48, 49});
-  check_group<R>("stream", t, A::stream, {50, 51, 52, 54, 55});
-  check_group<R>("outliers", t, A::outliers, {63, 64, 65});
-  check_group<R>("robust", t, A::robust, {62, 58, 59, 60, 61});
-  check_group<R>("missing", t, A::missing, {71, 72, 73, 74, 75, 76, 77, 78, 79, 80});
-  check_group<R>("parametrize", t, A::parametrize, {34, 33, 10, 11});
+  check_group<R>("moments", t, A::edit_moments, {12, 13, 14, 15, 16, 17, 18});
+  check_group<R>("sums", t, A::edit_sums, {19, 20, 21, 22, 23, 24, 25});
+  check_group<R>("cov_cor", t, A::edit_cov_cor, {12, 32, 31, 34, 33});
+  check_group<R>("cp", t, A::edit_cp, {12, 19, 36, 35});
+  check_group<R>("partial", t, A::edit_partial, {66, 32, 31, 34, 33, 67, 68, 69, 70});
+  check_group<R>("pooled", t, A::edit_pooled, {37, 42, 43, 38, 39, 40});
+  check_group<R>("quantiles", t, A::edit_quantiles, {45, 46, 47, 48, 49});
+  check_group<R>("stream", t, A::edit_stream, {50, 51, 52, 54, 55});
+  check_group<R>("outliers", t, A::edit_outliers, {63, 64, 65});
+  check_group<R>("robust", t, A::edit_robust, {62, 58, 59, 60, 61});
+  check_group<R>("missing", t, A::edit_missing, {71, 72, 73, 74, 75, 76, 77, 78, 79, 80});
+  check_group<R>("parametrize", t, A::edit_matrix, {34, 33, 10, 11});
 }
 
 ork_ss_task* hooked = nullptr;
