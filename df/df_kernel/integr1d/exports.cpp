@@ -24,26 +24,11 @@ struct IntegralArguments {
   T* results;
 
   int pairs() const { return count > 0 ? static_cast<int32_t>(count) : 0; }
-  Fit<T> fit() const {
-    Fit<T> fit;
-    fit.nx = static_cast<int32_t>(nx);
-    fit.x = x;
-    fit.uniform = (xhint & ORK_DF_X_UNIFORM) != 0;
-    fit.step = step;
-    fit.icType = ic_type;
-    fit.icValues = ic_values;
-    fit.ny = ny < 1 ? 1 : static_cast<int32_t>(ny);
-    fit.y = reinterpret_cast<void* const*>(y);
-    fit.columns = yhint == ORK_DF_COLS;
-    fit.order = static_cast<int32_t>(order);
-    fit.coeffs = reinterpret_cast<void* const*>(coeffs);
-    return fit;
-  }
 };
 
 template <class T>
 int integrate(int kind, const IntegralArguments<T>& a, const Middles<T>& middles) {
-  const Fit<T> fit = a.fit();
+  const auto fit = Fit<T>::of(a);
   const Integrator<T> sum = integrator<T>(kind);
   const int total = a.pairs();
   for (int j = 0; j < total; j += block) {
@@ -59,7 +44,7 @@ int integrate(int kind, const IntegralArguments<T>& a, const Middles<T>& middles
 
 template <class T>
 int integrate(int kind, const IntegralArguments<T>& a, const Parts<T>& parts) {
-  const Fit<T> fit = a.fit();
+  const auto fit = Fit<T>::of(a);
   constexpr int on_stack = 64;
   const auto run = [&](T* part) -> int {
     for (int j = 0; j < a.pairs(); ++j) {

@@ -49,6 +49,23 @@ struct Fit {
         order(static_cast<int32_t>(task->splineOrder)),
         coeffs(task->coeffs) {}
   Fit() = default;
+  // From the arguments of an export that takes the parts of a task one by one.
+  template <class Arguments>
+  static Fit of(const Arguments& a) {
+    Fit fit;
+    fit.nx = static_cast<int32_t>(a.nx);
+    fit.x = a.x;
+    fit.uniform = (a.xhint & ORK_DF_X_UNIFORM) != 0;
+    fit.step = a.step;
+    fit.icType = a.ic_type;
+    fit.icValues = a.ic_values;
+    fit.ny = a.ny < 1 ? 1 : static_cast<int32_t>(a.ny);
+    fit.y = reinterpret_cast<void* const*>(a.y);
+    fit.columns = a.yhint == ORK_DF_COLS;
+    fit.order = static_cast<int32_t>(a.order);
+    fit.coeffs = reinterpret_cast<void* const*>(a.coeffs);
+    return fit;
+  }
 
   T right_end() const { return x[uniform ? 1 : nx - 1]; }
   T point(int i) const { return uniform ? static_cast<T>(i) * step + x[0] : x[i]; }

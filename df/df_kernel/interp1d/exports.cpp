@@ -28,21 +28,6 @@ struct EvalArguments {
   int64_t count;
   const int32_t* flags4;
 
-  Fit<T> fit() const {
-    Fit<T> fit;
-    fit.nx = static_cast<int32_t>(nx);
-    fit.x = x;
-    fit.uniform = (xhint & ORK_DF_X_UNIFORM) != 0;
-    fit.step = step;
-    fit.icType = ic_type;
-    fit.icValues = ic_values;
-    fit.ny = ny < 1 ? 1 : static_cast<int32_t>(ny);
-    fit.y = reinterpret_cast<void* const*>(y);
-    fit.columns = yhint == ORK_DF_COLS;
-    fit.order = static_cast<int32_t>(order);
-    fit.coeffs = reinterpret_cast<void* const*>(coeffs);
-    return fit;
-  }
   Request request() const {
     Request request = read_request(flags, flag, width != 0);
     if (flags4 != nullptr)
@@ -70,7 +55,7 @@ struct EvalArguments {
 
 template <class T>
 int evaluate(int kind, const EvalArguments<T>& a) {
-  const Fit<T> fit = a.fit();
+  const auto fit = Fit<T>::of(a);
   const Request request = a.request();
   const Evaluator<T>& eval = evaluator<T>(kind);
   Located<T> located;
@@ -86,7 +71,7 @@ template <class T>
 int evaluate(int kind, const EvalArguments<T>& a, typename InterpCallback<T>::type* callback,
              void* params) {
   constexpr int on_stack = 1024;
-  const Fit<T> fit = a.fit();
+  const auto fit = Fit<T>::of(a);
   const Request request = a.request();
   const ptrdiff_t by_function = static_cast<ptrdiff_t>((a.apart != 0 ? a.apart : block) * a.count);
   Located<T> located;
