@@ -1,21 +1,12 @@
 #pragma once
-#include "rint/whole.hpp"
+#include "ceil/ceil.hpp"
 
 namespace ork {
 
-// Rounds toward zero.
+// Rounds toward zero: the sum of Ceil in another mode.
 template <class T>
-struct Trunc : WholeCore<T> {
-  using typename WholeCore<T>::vec;
-  using typename WholeCore<T>::ivec;
+struct Trunc : Ceil<T> {
   static constexpr unsigned rounding = 0x6000;
-
-  static vec eval(vec x, u32x4& rare) {
-    rare |= WholeCore<T>::large(x);
-    const ivec sign = WholeCore<T>::sign_of(x);
-    const vec s = or_bits(Whole<T>::big, sign);
-    return or_bits((x + s) - s, sign);
-  }
 };
 
 }  // namespace ork
