@@ -98,6 +98,12 @@ constexpr double erf_s_ep[][4] = {
 constexpr double erf_s_la[][6] = {
 #include "../../zem/zem_core/erfinv/rows_s_la.inc"
 };
+constexpr double cubics_s_ep[][4] = {
+#include "../../zem/zem_core/erfinv/cubics_s_ep.inc"
+};
+constexpr double cubics_s_la[][4] = {
+#include "../../zem/zem_core/erfinv/cubics_s_la.inc"
+};
 constexpr double erf_s_ha[][8] = {
 #include "../../zem/zem_core/erfinv/rows_s_ha.inc"
 };
@@ -289,14 +295,23 @@ TEST(Tables, InverseErrorFunctions) {
       return polynomial(table[i], 0, 14, t) + quad(table[i][15]) + table[i][16] * t;
     };
   };
+  // The cubics of single ErfInv begin at w = 2^-24, and take w unscaled.
+  const auto upward = [](const auto& table, int parts) {
+    return [=, &table](int i, quad u) { return polynomial(table[i], 0, 3, (u - 0.5Q) / parts * power(i / parts - 24)); };
+  };
+  const auto exact_upward = [=](int parts) {
+    return [=](int i, quad u) { return exact(parts, 1)(24 * parts - 1 - i, u); };
+  };
   using namespace inverse_rows;
   check({
       {"erfinv d EP", 848, [](int i, quad u) { return polynomial(erf_d_ep[i], 0, 3, (u - 0.5Q) / 16 * power(-1 - i / 16)); },
        exact(16, 1), 0x1p-26},
       {"erfinv d LA", 212, rows(erf_d_la, 4, 11), exact(4, 1), 0x1p-52},
       {"erfinv d HA", 212, split(erf_d_ha), exact(4, 1), 0x1p-57},
-      {"erfinv s EP", 96, rows(erf_s_ep, 4, 3), exact(4, 1), 0x1p-18},
-      {"erfinv s LA", 96, rows(erf_s_la, 4, 5), exact(4, 1), 0x1p-27},
+      {"erfinv s EP", 96, upward(cubics_s_ep, 4), exact_upward(4), 0x1p-18},
+      {"erfinv s LA", 384, upward(cubics_s_la, 16), exact_upward(16), 0x1p-25},
+      {"erfcinv s EP", 96, rows(erf_s_ep, 4, 3), exact(4, 1), 0x1p-18},
+      {"erfcinv s LA", 96, rows(erf_s_la, 4, 5), exact(4, 1), 0x1p-27},
       {"erfinv s HA", 96, rows(erf_s_ha, 4, 7), exact(4, 1), 0x1p-34},
       {"erfcinv d EP", 848, rows(erfc_d_ep, 16, 3), exact(16, 1), 0x1p-26},
       {"cdfnorminv d EP", 848, rows(cdf_d_ep, 16, 3), exact(16, root_2), 0x1p-26},
