@@ -8,16 +8,9 @@ alignas(16) constexpr double table[][17] = {
 #include "cdfnorminv/rows_d_ha.inc"
 };
 
-struct Function : CdfNormInvD {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
-};
-
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_dCdfNormInv_W7HAynn(int n, const double* a, double* r) {
-  ork::block<ork::InverseD<ork::Function, ork::Level::ha>>(n, {{a}, {r}});
+  ork::block<ork::InverseD<ork::CdfNormInvD, ork::Level::ha, ork::table>>(n, {{a}, {r}});
 }

@@ -8,16 +8,9 @@ alignas(16) constexpr double table[][12] = {
 #include "cdfnorminv/rows_d_la.inc"
 };
 
-struct Function : CdfNormInvD {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
-};
-
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_dCdfNormInv_W7LAynn(int n, const double* a, double* r) {
-  ork::block<ork::InverseD<ork::Function, ork::Level::la>>(n, {{a}, {r}});
+  ork::block<ork::InverseD<ork::CdfNormInvD, ork::Level::la, ork::table>>(n, {{a}, {r}});
 }

@@ -8,16 +8,9 @@ alignas(16) constexpr double table[][4] = {
 #include "cdfnorminv/rows_s_ep.inc"
 };
 
-struct Function : CdfNormInvS {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
-};
-
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_sCdfNormInv_W7EPnnn(int n, const float* a, float* r) {
-  ork::block<ork::InverseS<ork::Function, ork::Level::ep>>(n, {{a}, {r}});
+  ork::block<ork::InverseS<ork::CdfNormInvS, ork::table>>(n, {{a}, {r}});
 }

@@ -8,16 +8,9 @@ alignas(16) constexpr double table[][6] = {
 #include "cdfnorminv/rows_s_la.inc"
 };
 
-struct Function : CdfNormInvS {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
-};
-
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_sCdfNormInv_W7LAynn(int n, const float* a, float* r) {
-  ork::block<ork::InverseS<ork::Function, ork::Level::la>>(n, {{a}, {r}});
+  ork::block<ork::InverseS<ork::CdfNormInvS, ork::table>>(n, {{a}, {r}});
 }

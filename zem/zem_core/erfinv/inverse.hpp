@@ -3,7 +3,7 @@
 // scaled to (0, 1], z the signed distance from its middle, |z| = 1 - w, and f = erfinv(z)/z
 // (CdfNormInv: times sqrt 2) a polynomial for each quarter or sixteenth of a binade of w. It
 // runs in t, w with its exponent and leading mantissa bits removed, less the interval's middle.
-// A function gives w and z, its rare test, and the rows.
+// A function gives w and z and its rare test; a level, the rows.
 #include "frame/block.hpp"
 #include "frame/level.hpp"
 #include "ork/zem_kernels.h"
@@ -90,8 +90,8 @@ ORK_INLINE u32x4 outside(u32x4 x, uint32_t low, uint32_t high) {
   return (u32x4)(shifted > (i32x4)splat_u32(0x80000000 + (high - low) - 1));
 }
 
-// Double. Function gives split, rare, rows.
-template <class Function, Level level>
+// Double.
+template <class Function, Level level, const auto& table>
 struct InverseD : Function {
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const InverseSplit s = Function::split(x);
@@ -99,30 +99,30 @@ struct InverseD : Function {
     const double *p0, *p1;
     if constexpr (level == Level::ha) {
       using Rows = InverseRows<4, 17, 53>;
-      Rows::find(Function::template rows<level>(), s.w, p0, p1);
+      Rows::find(table[0], s.w, p0, p1);
       return row_product<Function::low_of_z>(p0, p1, Rows::from_middle(s.w), s);
     } else if constexpr (level == Level::la) {
       using Rows = InverseRows<4, 12, 53>;
-      Rows::find(Function::template rows<level>(), s.w, p0, p1);
+      Rows::find(table[0], s.w, p0, p1);
       return s.z * row_polynomial<12>(p0, p1, Rows::from_middle(s.w));
     } else {
       using Rows = InverseRows<16, 4, 53>;
-      Rows::find(Function::template rows<level>(), s.w, p0, p1);
+      Rows::find(table[0], s.w, p0, p1);
       return s.z * row_cubic(p0, p1, Function::template ep_argument<Rows>(s.w));
     }
   }
 };
 
 // Single, in double from the widened input; one rounding.
-template <class Function, Level level>
+template <class Function, const auto& table>
 struct InverseS : Function {
   static constexpr int vectors = 1;
   static f64x2 half(f64x2 x) {
-    constexpr int columns = level == Level::ha ? 8 : level == Level::la ? 6 : 4;
+    constexpr int columns = sizeof table[0] / sizeof table[0][0];
     using Rows = InverseRows<4, columns, 24>;
     const InverseSplit s = Function::split(x);
     const double *p0, *p1;
-    Rows::find(Function::template rows<level>(), s.w, p0, p1);
+    Rows::find(table[0], s.w, p0, p1);
     return s.z * row_polynomial<columns>(p0, p1, Rows::from_middle(s.w));
   }
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {

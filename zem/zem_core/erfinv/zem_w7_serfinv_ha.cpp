@@ -8,16 +8,9 @@ alignas(16) constexpr double table[][8] = {
 #include "erfinv/rows_s_ha.inc"
 };
 
-struct Function : ErfInvS {
-  template <Level>
-  static const double* rows() {
-    return table[0];
-  }
-};
-
 }  // namespace
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_sErfInv_W7HAynn(int n, const float* a, float* r) {
-  ork::block<ork::InverseS<ork::Function, ork::Level::ha>>(n, {{a}, {r}});
+  ork::block<ork::InverseS<ork::ErfInvS, ork::table>>(n, {{a}, {r}});
 }

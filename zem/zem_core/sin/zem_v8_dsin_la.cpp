@@ -16,11 +16,11 @@ static int vdsin_cout_rare(const double* x, double* r) {
 struct SinLaD : Core<double> {
   static constexpr char name[] = "vdSin";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
-    rare |= at_least<sine_limit>(abs(x));
-    return odd_sine<PiLaD>(reduce_sine<PiLaD>(x));
+    rare |= at_least<Sine::limit>(abs(x));
+    return odd_sine<PiLaD>(reduce<Sine, PiLaD>(x));
   }
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
-    return replace_large<sine_limit>(abs(x), fast, flip(large_sine(abs(x), 0), sign_of(x)), rare);
+    return replace_large<Sine::limit>(abs(x), fast, flip(large_sine(abs(x), 0), sign_of(x)), rare);
   }
   static int special(const double* x, double* r) { return vdsin_cout_rare(x, r); }
 };

@@ -16,8 +16,8 @@ struct SinCosEpS : Core<float, 1, 2> {
   }
   ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
     rare |= at_least<limit_10000>(abs(x));
-    cosine = sine(reduce_cosine<PiEpS>(x));
-    return sine(reduce_sine<PiEpS>(x));
+    cosine = sine(reduce<Cosine, PiEpS>(x));
+    return sine(reduce<Sine, PiEpS>(x));
   }
   static int special(const float* x, float* r, float* r2) { return scalar_sincos(x, r, r2); }
 };

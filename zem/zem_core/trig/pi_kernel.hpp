@@ -7,6 +7,7 @@
 // On |x|, so that a zero keeps its sign. `Constants` has type, inverse, half_pi, shifter, parts, c.
 #include "frame/kernel.hpp"
 #include "trig/bits.hpp"
+#include "trig/scalar.hpp"
 
 namespace ork::trig {
 
@@ -28,29 +29,40 @@ ORK_INLINE V subtract_parts(V ax, V n) {
   }
 }
 
-// r for sine and cosine of ax >= 0, and t with n in its low bits.
-template <class C, class V>
-ORK_INLINE V sine_remainder(V ax, V& t) {
-  t = ax * splat(C::inverse) + splat(C::shifter);
-  return subtract_parts<C>(ax, t - splat(C::shifter));
-}
-template <class C, class V>
-ORK_INLINE V cosine_remainder(V ax, V& t) {
-  t = (ax + splat(C::half_pi)) * splat(C::inverse) + splat(C::shifter);
-  return subtract_parts<C>(ax, (t - splat(C::shifter)) - splat(typename C::type(0.5)));
-}
+// What sine and cosine differ in: r of ax >= 0, and t with n in its low bits; whether the sign of the
+// argument is that of the result; from where on a double is large (the cosine's n has a bit more).
+struct Sine {
+  static constexpr double (*routine)(double) = _dSin;
+  static constexpr uint32_t limit = 0x41700000;  // 2^24
+  template <class C, class V>
+  ORK_INLINE V remainder(V ax, V& t) {
+    t = ax * splat(C::inverse) + splat(C::shifter);
+    return subtract_parts<C>(ax, t - splat(C::shifter));
+  }
+  template <class V>
+  ORK_INLINE V sign(V n, V x) {
+    return flip(n, sign_of(x));
+  }
+};
+struct Cosine {
+  static constexpr double (*routine)(double) = _dCos;
+  static constexpr uint32_t limit = 0x41600000;  // 2^23
+  template <class C, class V>
+  ORK_INLINE V remainder(V ax, V& t) {
+    t = (ax + splat(C::half_pi)) * splat(C::inverse) + splat(C::shifter);
+    return subtract_parts<C>(ax, (t - splat(C::shifter)) - splat(typename C::type(0.5)));
+  }
+  template <class V>
+  ORK_INLINE V sign(V n, V) {
+    return n;
+  }
+};
 
-template <class C, class V>
-ORK_INLINE ModuloPi<V> reduce_sine(V x) {
+template <class F, class C, class V>
+ORK_INLINE ModuloPi<V> reduce(V x) {
   V t;
-  const V r = sine_remainder<C>(abs(x), t);
-  return {r, flip(parity(t), sign_of(x))};
-}
-template <class C, class V>
-ORK_INLINE ModuloPi<V> reduce_cosine(V x) {
-  V t;
-  const V r = cosine_remainder<C>(abs(x), t);
-  return {r, parity(t)};
+  const V r = F::template remainder<C>(abs(x), t);
+  return {r, F::sign(parity(t), x)};
 }
 
 // c_0 + c_1 z + ...
@@ -115,8 +127,5 @@ struct PiEpS : PiLaS {
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 1.509958e-07f};
   static constexpr float c[] = {-0.1666666f, 0.0083330665f, -0.00019809602f, 2.6057805e-06f};
 };
-
-// Double: sine below 2^24; cosine, whose n has a bit more, below 2^23.
-constexpr uint32_t sine_limit = 0x41700000, cosine_limit = 0x41600000;
 
 }  // namespace ork::trig
