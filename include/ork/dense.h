@@ -15,6 +15,9 @@
  *     alpha = 0 the factors are not read.
  *   - Inputs and outputs do not overlap. All arrays belong to the caller; every routine is
  *     reentrant and runs on the calling thread.
+ *   - Large products and factors copy blocks of their operands, some hundred rows or columns at
+ *     a time, to memory from ork_serv_allocate. Where it gives none they go on in small
+ *     blocks on the stack: slower, rounded differently.
  *   - With a wrong option, size or leading dimension nothing is written; a routine with
  *     `info` then stores minus the position of the first wrong argument. info = 0: success.
  *

@@ -1,7 +1,7 @@
 // General and symmetric products.
 #include <algorithm>
 
-#include "outer/dense/dense.hpp"
+#include "outer/dense/products.hpp"
 
 namespace ork::dense {
 namespace {
@@ -67,35 +67,59 @@ void syr(bool upper, int n, R alpha, const R* x, int incx, R* a, int lda) {
   }
 }
 
-template <unsigned Triangle, class A, class B, class C, class R>
-void add_symmetric_product(bool left, const A& a, const B& b, R alpha, C& c) {
-  const auto s = a.template selfadjointView<Triangle>();
-  if (left)
-    c.noalias() += s * (alpha * b);
-  else
-    c.noalias() += (alpha * b) * s;
+// C += alpha A B. Where there is no room for the blocks, B and C go by halves.
+template <bool upper, class R>
+void add_left(int m, int n, R alpha, const R* a, int lda, const R* b, int ldb, R* c, int ldc) {
+  if (add_symmetric<true, upper>(m, n, alpha, a, lda, b, ldb, c, ldc)) return;
+  const int n1 = n / 2;
+  add_left<upper>(m, n1, alpha, a, lda, b, ldb, c, ldc);
+  add_left<upper>(m, n - n1, alpha, a, lda, b + n1 * ldb, ldb, c + n1 * ldc, ldc);
+}
+
+// C += alpha B A. Where there is no room for the blocks, A goes by quarters.
+template <bool upper, class R>
+void add_right(int m, int n, R alpha, const R* a, int lda, const R* b, int ldb, R* c, int ldc) {
+  if (add_symmetric<false, upper>(m, n, alpha, a, lda, b, ldb, c, ldc)) return;
+  const int n1 = n / 2, n2 = n - n1;
+  const R *const off = off_diagonal(a, lda, n1, upper), *const b2 = b + n1 * ldb;
+  R* const c2 = c + n1 * ldc;
+  add_right<upper>(m, n1, alpha, a, lda, b, ldb, c, ldc);
+  add_right<upper>(m, n2, alpha, a + n1 * (lda + 1), lda, b2, ldb, c2, ldc);
+  gemm(false, upper, m, n1, n2, alpha, b2, ldb, off, lda, R(1), c, ldc);
+  gemm(false, !upper, m, n2, n1, alpha, b, ldb, off, lda, R(1), c2, ldc);
 }
 
 template <class R>
 void symm(bool left, bool upper, int m, int n, R alpha, const R* a, int lda, const R* b, int ldb,
           R beta, R* c, int ldc) {
-  constexpr int chunk_reals = 32768;  // of B and C at a time, to stay in cache
-  const int chunk = std::max(chunk_reals / std::max(m, 1), 64);
-  if (left && n > chunk) {
-    for (int j = 0; j < n; j += chunk)
-      symm(left, upper, m, std::min(chunk, n - j), alpha, a, lda, b + j * ldb, ldb, beta,
-           c + j * ldc, ldc);
-    return;
-  }
-  auto C = matrix(c, m, n, ldc);
-  scale(C, beta);
+  scale(matrix(c, m, n, ldc), beta);
   if (alpha == R(0) || m == 0 || n == 0) return;
-  const auto A = matrix(a, left ? m : n, left ? m : n, lda);
-  const auto B = matrix(b, m, n, ldb);
-  if (upper)
-    add_symmetric_product<Eigen::Upper>(left, A, B, alpha, C);
+  if (!left)
+    return upper ? add_right<true>(m, n, alpha, a, lda, b, ldb, c, ldc)
+                 : add_right<false>(m, n, alpha, a, lda, b, ldb, c, ldc);
+  constexpr int chunk_reals = 32768;  // of B and C at a time, to stay in cache
+  const int chunk = std::max(chunk_reals / m, 64);
+  for (int j = 0; j < n; j += chunk) {
+    const int cols = std::min(chunk, n - j);
+    if (upper)
+      add_left<true>(m, cols, alpha, a, lda, b + j * ldb, ldb, c + j * ldc, ldc);
+    else
+      add_left<false>(m, cols, alpha, a, lda, b + j * ldb, ldb, c + j * ldc, ldc);
+  }
+}
+
+// A triangle of C += alpha op(A) op(A)'. Where there is no room for the blocks, C goes by quarters.
+template <unsigned triangle, bool trans, class R>
+void add_quarters(int n, int k, R alpha, const R* a, int lda, R* c, int ldc) {
+  if (add_square<triangle, trans>(n, k, alpha, a, lda, c, ldc)) return;
+  const int n1 = n / 2, n2 = n - n1;
+  const R* const a2 = trans ? a + n1 * lda : a + n1;
+  add_quarters<triangle, trans>(n1, k, alpha, a, lda, c, ldc);
+  add_quarters<triangle, trans>(n2, k, alpha, a2, lda, c + n1 * (ldc + 1), ldc);
+  if (triangle == Eigen::Upper)
+    gemm(trans, !trans, n1, n2, k, alpha, a, lda, a2, lda, R(1), c + n1 * ldc, ldc);
   else
-    add_symmetric_product<Eigen::Lower>(left, A, B, alpha, C);
+    gemm(trans, !trans, n2, n1, k, alpha, a2, lda, a, lda, R(1), c + n1, ldc);
 }
 
 }  // namespace
@@ -103,19 +127,18 @@ void symm(bool left, bool upper, int m, int n, R alpha, const R* a, int lda, con
 template <class R>
 void gemm(bool transa, bool transb, int m, int n, int k, R alpha, const R* a, int lda, const R* b,
           int ldb, R beta, R* c, int ldc) {
-  auto C = matrix(c, m, n, ldc);
-  scale(C, beta);
+  scale(matrix(c, m, n, ldc), beta);
   if (alpha == R(0) || m == 0 || n == 0 || k == 0) return;
-  const auto A = transa ? matrix(a, k, m, lda) : matrix(a, m, k, lda);
-  const auto B = transb ? matrix(b, n, k, ldb) : matrix(b, k, n, ldb);
+  if (n == 1 && !transb)
+    return gemv(transa, transa ? k : m, transa ? m : k, alpha, a, lda, b, 1, R(1), c, 1);
   if (transa && transb)
-    C.noalias() += alpha * A.transpose() * B.transpose();
+    add_general<true, true>(m, n, k, alpha, a, lda, b, ldb, c, ldc);
   else if (transa)
-    C.noalias() += alpha * A.transpose() * B;
+    add_general<true, false>(m, n, k, alpha, a, lda, b, ldb, c, ldc);
   else if (transb)
-    C.noalias() += alpha * A * B.transpose();
+    add_general<false, true>(m, n, k, alpha, a, lda, b, ldb, c, ldc);
   else
-    C.noalias() += alpha * A * B;
+    add_general<false, false>(m, n, k, alpha, a, lda, b, ldb, c, ldc);
 }
 
 template <class R>
@@ -123,16 +146,14 @@ void syrk(bool upper, bool trans, int n, int k, R alpha, const R* a, int lda, R 
           int ldc) {
   scale_triangle(upper, n, beta, c, ldc);
   if (alpha == R(0) || n == 0 || k == 0) return;
-  auto C = matrix(c, n, n, ldc);
-  const auto A = trans ? matrix(a, k, n, lda) : matrix(a, n, k, lda);
   if (upper && trans)
-    C.template selfadjointView<Eigen::Upper>().rankUpdate(A.transpose(), alpha);
+    add_quarters<Eigen::Upper, true>(n, k, alpha, a, lda, c, ldc);
   else if (upper)
-    C.template selfadjointView<Eigen::Upper>().rankUpdate(A, alpha);
+    add_quarters<Eigen::Upper, false>(n, k, alpha, a, lda, c, ldc);
   else if (trans)
-    C.template selfadjointView<Eigen::Lower>().rankUpdate(A.transpose(), alpha);
+    add_quarters<Eigen::Lower, true>(n, k, alpha, a, lda, c, ldc);
   else
-    C.template selfadjointView<Eigen::Lower>().rankUpdate(A, alpha);
+    add_quarters<Eigen::Lower, false>(n, k, alpha, a, lda, c, ldc);
 }
 
 template void gemm(bool, bool, int, int, int, double, const double*, int, const double*, int,

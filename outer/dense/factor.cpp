@@ -1,6 +1,7 @@
 // Cholesky factor, inverse from it, inverse of a triangle: each splits its matrix in four,
 // recurses on the diagonal blocks and leaves the rest to the products. The lower triangle
 // is the upper one of the transposed matrix, so the small cases take strides.
+#include <algorithm>
 #include <cmath>
 
 #include "outer/dense/dense.hpp"
@@ -17,6 +18,38 @@ struct Upper {  // element (i, j), i <= j, of an upper triangle or of a lower on
   Upper(bool upper, R* a, int lda) : a(a), row(upper ? 1 : lda), col(upper ? lda : 1) {}
   R& operator()(int i, int j) const { return a[i * row + j * col]; }
 };
+
+// X := U'^-1 X, with U of order n and m columns of X; for the lower triangle L, X := X L'^-1 with m
+// rows.
+template <class R>
+void solve(bool upper, int n, int m, const R* a, int lda, R* x, int ldx) {
+  if (n <= small) {
+    constexpr int chunk = 128;  // Eigen packs this much on the stack
+    const auto A = matrix(a, n, n, lda);
+    for (int j = 0; j < m; j += chunk) {
+      const int part = std::min(chunk, m - j);
+      if (upper) {
+        auto X = matrix(x + j * ldx, n, part, ldx);
+        A.template triangularView<Eigen::Upper>().transpose().solveInPlace(X);
+      } else {
+        auto X = matrix(x + j, part, n, ldx);
+        A.template triangularView<Eigen::Lower>()
+            .transpose()
+            .template solveInPlace<Eigen::OnTheRight>(X);
+      }
+    }
+    return;
+  }
+  const int n1 = n / 2, n2 = n - n1;
+  const R* const off = off_diagonal(a, lda, n1, upper);
+  R* const x2 = upper ? x + n1 : x + n1 * ldx;
+  solve(upper, n1, m, a, lda, x, ldx);
+  if (upper)
+    gemm(true, false, n2, m, n1, R(-1), off, lda, x, ldx, R(1), x2, ldx);
+  else
+    gemm(false, true, m, n2, n1, R(-1), x, ldx, off, lda, R(1), x2, ldx);
+  solve(upper, n2, m, a + n1 * (lda + 1), lda, x2, ldx);
+}
 
 // U'U = A. The result is the order of the first minor that is not positive, or 0.
 template <class R>
@@ -41,16 +74,7 @@ int cholesky(bool upper, int n, R* a, int lda) {
   R* const off = off_diagonal(a, lda, n1, upper);
   R* const a22 = a + n1 * (lda + 1);
   if (const int minor = cholesky(upper, n1, a, lda)) return minor;
-  const auto A11 = matrix<R>(a, n1, n1, lda);
-  if (upper) {
-    auto A12 = matrix(off, n1, n2, lda);
-    A11.template triangularView<Eigen::Upper>().transpose().solveInPlace(A12);
-  } else {
-    auto A21 = matrix(off, n2, n1, lda);
-    A11.template triangularView<Eigen::Lower>()
-        .transpose()
-        .template solveInPlace<Eigen::OnTheRight>(A21);
-  }
+  solve(upper, n1, n2, a, lda, off, lda);
   syrk(upper, upper, n2, n1, R(-1), off, lda, R(1), a22, lda);
   const int minor = cholesky(upper, n2, a22, lda);
   return minor != 0 ? n1 + minor : 0;

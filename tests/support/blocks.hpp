@@ -14,6 +14,12 @@ void fail(int k);
 // Whether that allocation came.
 bool failed();
 
+// While one lives, every allocation gives null.
+struct None {
+  None();
+  ~None();
+};
+
 // Runs `attempt` with the first, the second... allocation failing, until a run asks for fewer
 // blocks than that. The attempt may ask failed() how it has to end. Returns the number of
 // allocations of the last, undisturbed run.

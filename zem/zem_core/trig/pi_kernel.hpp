@@ -29,8 +29,9 @@ ORK_INLINE V subtract_parts(V ax, V n) {
   }
 }
 
-// What sine and cosine differ in: r of ax >= 0, and t with n in its low bits; whether the sign of the
-// argument is that of the result; from where on a double is large (the cosine's n has a bit more).
+// What sine and cosine differ in: r of ax >= 0, and t with n in its low bits; whether the sign of
+// the argument is that of the result; from where on a double is large (the cosine's n has a bit
+// more).
 struct Sine {
   static constexpr double (*routine)(double) = _dSin;
   static constexpr uint32_t limit = 0x41700000;  // 2^24

@@ -1,5 +1,5 @@
 // Tridiagonal systems, and the argument checks of all routines.
-#include "outer/dense.hpp"
+#include "dense/dense.hpp"
 
 namespace dense {
 namespace {

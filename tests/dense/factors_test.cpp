@@ -1,5 +1,5 @@
 // Cholesky factors, inverses, eigenvalues.
-#include "outer/dense.hpp"
+#include "dense/dense.hpp"
 
 namespace dense {
 namespace {

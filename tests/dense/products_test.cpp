@@ -1,5 +1,5 @@
 // Products and rank updates, whole, by triangles and packed.
-#include "outer/dense.hpp"
+#include "dense/dense.hpp"
 
 namespace dense {
 namespace {
