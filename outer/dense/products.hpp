@@ -28,7 +28,8 @@ class Blocks : public Eigen::internal::level3_blocking<R, R> {
     Eigen::Index unused = cols;
     Eigen::internal::computeProductBlockingSizes<R, R>(this->m_kc, this->m_mc,
                                                        all_columns ? unused : this->m_nc);
-    this->m_kc = std::min<Eigen::Index>(this->m_kc, deepest);
+    const int passes = (depth + deepest - 1) / deepest;  // about equally deep
+    this->m_kc = std::min<Eigen::Index>(this->m_kc, (depth / passes + 8) & ~7);
     if (reals() > 2 * side * side) {
       heap_ = static_cast<R*>(ork_serv_allocate(reals() * sizeof(R), 64));
       if (heap_ == nullptr) {
