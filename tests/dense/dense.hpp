@@ -125,8 +125,83 @@ inline Wide blend(R scale, R old, Wide value) {
 
 inline bool transposed(char trans) { return trans != 'N' && trans != 'n'; }
 
+// A product to be computed: its factors, the call that makes it from C, and element (i, j) of it.
+template <class R>
+struct Gemm {
+  char ta, tb;
+  int m, n, k;
+  R alpha, beta;
+  Array<R> a{transposed(ta) ? k : m, transposed(ta) ? m : k, 3};
+  Array<R> b{transposed(tb) ? n : k, transposed(tb) ? k : n, 2};
+
+  void operator()(Array<R>& c) {
+    Api<R>::gemm(&ta, &tb, &m, &n, &k, &alpha, a.data(), &a.ld, b.data(), &b.ld, &beta, c.data(),
+                 &c.ld);
+  }
+  Wide expected(const Array<R>& old, int i, int j) const {
+    const bool at = transposed(ta), bt = transposed(tb);
+    const auto product = [&](int l) {
+      return Wide(at ? a(l, i) : a(i, l)) * (bt ? b(j, l) : b(l, j));
+    };
+    return blend(beta, old(i, j), alpha == 0 ? 0 : alpha * sum(k, product));
+  }
+  Wide tolerance() const { return sum_error<R>(k); }
+};
+
+template <class R>
+struct Syrk {
+  char uplo, trans;
+  int n, k;
+  R alpha, beta;
+  int gap;
+  Array<R> a{transposed(trans) ? k : n, transposed(trans) ? n : k, gap};
+
+  void operator()(Array<R>& c) {
+    Api<R>::syrk(&uplo, &trans, &n, &k, &alpha, a.data(), &a.ld, &beta, c.data(), &c.ld);
+  }
+  Wide expected(const Array<R>& old, int i, int j) const {
+    const bool t = transposed(trans);
+    const auto product = [&](int l) {
+      return Wide(t ? a(l, i) : a(i, l)) * (t ? a(l, j) : a(j, l));
+    };
+    return blend(beta, old(i, j), alpha == 0 ? 0 : alpha * sum(k, product));
+  }
+  Wide tolerance() const { return sum_error<R>(k); }
+};
+
+template <class R>
+struct Symm {
+  char side, uplo;
+  int m, n;
+  R alpha, beta;
+  bool left = side == 'L';
+  int order = left ? m : n;
+  Array<R> a{order, order, 1, triangle(uplo)}, b{m, n, 2};
+
+  void operator()(Array<R>& c) {
+    Api<R>::symm(&side, &uplo, &m, &n, &alpha, a.data(), &a.ld, b.data(), &b.ld, &beta, c.data(),
+                 &c.ld);
+  }
+  Wide expected(const Array<R>& old, int i, int j) const {
+    const auto product = [&](int l) {
+      return left ? Wide(a.symmetric(i, l)) * b(l, j) : Wide(b(i, l)) * a.symmetric(l, j);
+    };
+    return blend(beta, old(i, j), alpha * sum(order, product));
+  }
+  Wide tolerance() const { return sum_error<R>(order); }
+};
+
 template <class R>
 struct Dense : testing::Test {
+  // Makes the product from c and checks it whole.
+  template <class Product>
+  static void check(Product& product, Array<R>& c) {
+    const auto old = c;
+    product(c);
+    c.expect_kept(old);
+    c.expect_near([&](int i, int j) { return product.expected(old, i, j); }, product.tolerance());
+  }
+
   using A = Api<R>;
 };
 using Reals = testing::Types<double, float>;

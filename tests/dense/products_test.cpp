@@ -20,22 +20,11 @@ TYPED_TEST(DenseProducts, Gemm) {
             for (auto [alpha, beta] : factors) {
               TRACE(ta << tb << " m " << m << " n " << n << " k " << k << " alpha " << alpha
                        << " beta " << beta);
-              const bool at = transposed(ta), bt = transposed(tb);
-              Array<R> a(at ? k : m, at ? m : k, 3), b(bt ? n : k, bt ? k : n, 2), c(m, n, 1);
+              Gemm<R> gemm{ta, tb, m, n, k, alpha, beta};
+              Array<R> c(m, n, 1);
               if (beta == 0) c.fill([](int, int) { return nan<R>; });
-              if (alpha == 0) a.fill([](int, int) { return nan<R>; });
-              const auto old = c;
-              TestFixture::A::gemm(&ta, &tb, &m, &n, &k, &alpha, a.data(), &a.ld, b.data(), &b.ld,
-                                   &beta, c.data(), &c.ld);
-              c.expect_kept(old);
-              c.expect_near(
-                  [&](int i, int j) {
-                    const Wide product = alpha == 0 ? 0 : sum(k, [&](int l) {
-                      return Wide(at ? a(l, i) : a(i, l)) * (bt ? b(j, l) : b(l, j));
-                    });
-                    return blend(beta, old(i, j), alpha * product);
-                  },
-                  sum_error<R>(k));
+              if (alpha == 0) gemm.a.fill([](int, int) { return nan<R>; });
+              this->check(gemm, c);
               if (this->HasFatalFailure()) return;
             }
 }
@@ -100,22 +89,11 @@ TYPED_TEST(DenseProducts, Syrk) {
             for (int gap : {0, 3}) {
               TRACE(uplo << trans << " n " << n << " k " << k << " alpha " << alpha << " beta "
                          << beta);
-              const bool t = transposed(trans);
-              Array<R> a(t ? k : n, t ? n : k, gap), c(n, n, gap, triangle(uplo));
+              Syrk<R> syrk{uplo, trans, n, k, alpha, beta, gap};
+              Array<R> c(n, n, gap, triangle(uplo));
               if (beta == 0) c.fill([](int, int) { return nan<R>; });
-              if (alpha == 0) a.fill([](int, int) { return nan<R>; });
-              const auto old = c;
-              TestFixture::A::syrk(&uplo, &trans, &n, &k, &alpha, a.data(), &a.ld, &beta, c.data(),
-                                   &c.ld);
-              c.expect_kept(old);
-              c.expect_near(
-                  [&](int i, int j) {
-                    const Wide product = alpha == 0 ? 0 : sum(k, [&](int l) {
-                      return Wide(t ? a(l, i) : a(i, l)) * (t ? a(l, j) : a(j, l));
-                    });
-                    return blend(beta, old(i, j), alpha * product);
-                  },
-                  sum_error<R>(k));
+              if (alpha == 0) syrk.a.fill([](int, int) { return nan<R>; });
+              this->check(syrk, c);
               if (this->HasFatalFailure()) return;
             }
 }
@@ -129,23 +107,10 @@ TYPED_TEST(DenseProducts, Symm) {
           for (R beta : {R(0), R(-1.5)}) {
             if (n == 900 && (side != 'L' || m < 40)) continue;  // more than a cached piece of B
             TRACE(side << uplo << " m " << m << " n " << n << " beta " << beta);
-            const bool left = side == 'L';
-            const int order = left ? m : n;
-            const R alpha = R(1.5);
-            Array<R> a(order, order, 1, triangle(uplo)), b(m, n, 2), c(m, n, 3);
+            Symm<R> symm{side, uplo, m, n, R(1.5), beta};
+            Array<R> c(m, n, 3);
             if (beta == 0) c.fill([](int, int) { return nan<R>; });
-            const auto old = c;
-            TestFixture::A::symm(&side, &uplo, &m, &n, &alpha, a.data(), &a.ld, b.data(), &b.ld,
-                                 &beta, c.data(), &c.ld);
-            c.expect_kept(old);
-            c.expect_near(
-                [&](int i, int j) {
-                  return blend(beta, old(i, j), alpha * sum(order, [&](int k) {
-                                                  return left ? Wide(a.symmetric(i, k)) * b(k, j)
-                                                              : Wide(b(i, k)) * a.symmetric(k, j);
-                                                }));
-                },
-                sum_error<R>(order));
+            this->check(symm, c);
             if (this->HasFatalFailure()) return;
           }
 }
