@@ -6,6 +6,7 @@ file(GLOB_RECURSE kernel_sources CONFIGURE_DEPENDS
 add_library(ork_zem_p4m SHARED ${kernel_sources})
 target_link_libraries(ork_zem_p4m PRIVATE ork_kernel_flags ork_outer m)
 target_include_directories(ork_zem_p4m PRIVATE
+  ${PROJECT_SOURCE_DIR}
   ${PROJECT_SOURCE_DIR}/zem/zem_core
   ${PROJECT_SOURCE_DIR}/rua
   ${PROJECT_SOURCE_DIR}/df/df_kernel)

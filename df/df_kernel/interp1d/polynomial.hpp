@@ -3,7 +3,7 @@
 // Horner's rule for each output; every lane does the same operations in the same order, so
 // the bits depend on the site alone.
 #pragma once
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 #include "interp1d/evaluate.hpp"
 #include "spline/lanes.hpp"
 

@@ -6,7 +6,9 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
+#include "base/scratch.hpp"
+#include "base/threads.hpp"
 #include "ork/df.h"
 #include "ork/serv.h"
 
@@ -100,32 +102,8 @@ Samples<T> samples(const Task* task, int f) {
   return {static_cast<const T*>(task->y[f]), 1};
 }
 
-// Scratch of `count` values, released at the end of the block. Null when there is no memory
-// or the size does not fit the address space; the caller answers ORK_DF_NO_MEMORY.
-template <class T>
-class Scratch {
- public:
-  explicit Scratch(uint64_t count)
-      : block_(count < SIZE_MAX / 2 / sizeof(T)
-                   ? static_cast<T*>(ork_serv_allocate(static_cast<size_t>(count) * sizeof(T), 128))
-                   : nullptr) {}
-  ~Scratch() {
-    if (block_ != nullptr) ork_serv_deallocate(block_);
-  }
-  Scratch(const Scratch&) = delete;
-  Scratch& operator=(const Scratch&) = delete;
-  explicit operator bool() const { return block_ != nullptr; }
-  T* get() const { return block_; }
-  T& operator[](size_t i) const { return block_[i]; }
-
- private:
-  T* block_;
-};
-
-// Slot 4 of the threader table, at least 1; no table counts as one thread.
-inline int thread_limit(const ork_threader* threader) {
-  const int limit = threader != nullptr ? threader->max_threads() : 1;
-  return limit < 1 ? 1 : limit;
-}
+// Scratch that cannot be had: the caller answers ORK_DF_NO_MEMORY.
+using ork::Scratch;
+using ork::thread_limit;
 
 }  // namespace df

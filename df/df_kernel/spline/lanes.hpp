@@ -6,7 +6,7 @@
 #pragma once
 #include <string.h>
 
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace df {
 

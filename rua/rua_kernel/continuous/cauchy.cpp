@@ -1,5 +1,5 @@
 // Cauchy: a + beta tan(u), u uniform from -pi/2 to pi/2.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/uniform.hpp"
 

@@ -1,7 +1,7 @@
 // Passes over arrays: loops in the vector registers, and the vector kernels the distributions
 // call. Double work takes the EP slot, single work the LA slot.
 #pragma once
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 #include "ork/zem_kernels.h"
 #include "rua_sub_kernel/math/vector_mode.hpp"
 

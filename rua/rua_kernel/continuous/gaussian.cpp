@@ -1,7 +1,7 @@
 // Gaussian: the entries, and the method by the inverse of the distribution function.
 #include "rua_kernel/continuous/gaussian.hpp"
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/guard.hpp"
 #include "rua_kernel/continuous/uniform.hpp"

@@ -1,5 +1,5 @@
 // Gumbel: a + beta ln(e), e exponential.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/rua_distributions.h"
 #include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/guard.hpp"

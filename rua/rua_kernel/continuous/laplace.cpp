@@ -1,6 +1,6 @@
 // Laplace: a +- beta ln(u), the sign from a second uniform number. Pairs are drawn by blocks:
 // the magnitude first, the selector second.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/guard.hpp"
 #include "rua_kernel/continuous/uniform.hpp"

@@ -1,5 +1,5 @@
 // Lognormal: b + beta exp(g), g Gaussian.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/rua_distributions.h"
 #include "rua_kernel/continuous/elementwise.hpp"
 

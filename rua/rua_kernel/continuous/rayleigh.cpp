@@ -1,5 +1,5 @@
 // Rayleigh: a + beta sqrt(-ln(u)).
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/guard.hpp"
 #include "rua_kernel/continuous/uniform.hpp"

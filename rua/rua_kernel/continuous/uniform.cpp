@@ -1,5 +1,5 @@
 // Uniform numbers: the generator's own, on request kept within the bounds.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/rua_distributions.h"
 #include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_sub_kernel/service/stream.hpp"

@@ -1,6 +1,6 @@
 // Abstract streams: numbers from a ring of the caller's, which a callback of the caller's
 // refills. One template for the integer, the double and the single form.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 
 using namespace ork::rua;

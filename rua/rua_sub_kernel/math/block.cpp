@@ -1,7 +1,7 @@
 // Block copy and clear.
 #include <string.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/ss_math.h"
 
 namespace ork {

@@ -1,7 +1,7 @@
 // The chi-square distribution by the incomplete gamma functions: power series of P below x = a,
 // continued fraction of Q above; quantiles by Newton steps within a bracket, then bisection
 // with a guess at the place.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/ss_math.h"
 #include "ork/zem_kernels.h"
 #include "rua_sub_kernel/math/vector_mode.hpp"

@@ -1,34 +1,23 @@
 // Test and inversion of covariance matrices. Row after row, the lower triangle counts; the
 // dense layer, which goes by columns, sees it as the upper one.
-#include "frame/export.hpp"
-#include "ork/dense.h"
+#include "base/dense.hpp"
+#include "base/export.hpp"
+#include "base/scratch.hpp"
 #include "ork/ss.h"
 #include "ork/ss_math.h"
-#include "rua_sub_kernel/math/scratch.hpp"
 
 namespace ork {
 namespace {
 
+// Eigenvalues from here on count as positive: 1000 denormal steps.
 template <class R>
-struct Dense;
+inline constexpr R kLeast = 4.94e-321;
 template <>
-struct Dense<double> {
-  static constexpr auto syev = ork_lapack_dsyev;
-  static constexpr auto potrf = ork_lapack_dpotrf;
-  static constexpr auto potri = ork_lapack_dpotri;
-  static constexpr double least = 4.94e-321;  // counts as positive: 1000 denormal steps
-};
-template <>
-struct Dense<float> {
-  static constexpr auto syev = ork_lapack_ssyev;
-  static constexpr auto potrf = ork_lapack_spotrf;
-  static constexpr auto potri = ork_lapack_spotri;
-  static constexpr float least = 1.401e-42f;
-};
+inline constexpr float kLeast<float> = 1.401e-42f;
 
 template <class R>
 int32_t test_rank(int p, R* a) {
-  constexpr R least = Dense<R>::least;
+  constexpr R least = kLeast<R>;
   if (p < 1) return ORK_SS_OK;
   if (p == 1) {
     if (a[0] > 0) return ORK_SS_OK;

@@ -2,8 +2,8 @@
 // 2, so that the zeros at 1 and 2 keep their relative accuracy; elsewhere Stirling's series,
 // from 16 on, where the recurrence takes smaller x. Worst error below 1 ulp but near the zeros
 // at negative x, where it is below 2^-60 in absolute terms.
-#include "frame/control.hpp"
-#include "frame/export.hpp"
+#include "base/control.hpp"
+#include "base/export.hpp"
 #include "ork/ss_math.h"
 
 namespace ork {

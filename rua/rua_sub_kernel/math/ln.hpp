@@ -7,7 +7,7 @@
 #pragma once
 #include <stdint.h>
 
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 

@@ -5,7 +5,7 @@
 #include <emmintrin.h>
 #include <stdint.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/ss_math.h"
 
 namespace ork {

@@ -1,5 +1,5 @@
 // Comparison sorts and selection under their exported names.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/ss_math.h"
 #include "rua_sub_kernel/math/quicksort.hpp"
 

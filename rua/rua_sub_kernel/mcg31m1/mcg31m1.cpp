@@ -4,7 +4,7 @@
 // Eight lanes step side by side by a^8; the numbers are those of the plain recurrence.
 #include <emmintrin.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/service/words.hpp"
 

@@ -3,7 +3,7 @@
 // Four lanes step side by side by a^4; the numbers are those of the plain recurrence.
 #include <emmintrin.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 
 using namespace ork::rua;

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <array>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/mrg32k3a/companion.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/service/words.hpp"

@@ -1,5 +1,5 @@
 // MT19937: the Mersenne Twister of period 2^19937 - 1.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/mt19937/mersenne_twister.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/skip_ahead/skip_ahead.hpp"

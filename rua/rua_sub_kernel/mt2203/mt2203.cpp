@@ -1,7 +1,7 @@
 // MT2203: 6024 Mersenne Twisters of period 2^2203 - 1 with parameters of their own, for streams
 // that are independent of each other (M. Matsumoto, T. Nishimura, "Dynamic creation of
 // pseudorandom number generators", 2000).
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/mt19937/mersenne_twister.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 

@@ -1,7 +1,7 @@
 // The non-deterministic generator: every number from the processor's RDRAND.
 #include <cpuid.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/nondeterministic/rounds.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 

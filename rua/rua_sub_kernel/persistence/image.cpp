@@ -3,7 +3,7 @@
 #include <stdio.h>
 #include <string.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/serv.h"
 #include "rua_sub_kernel/service/chunks.hpp"
 #include "rua_sub_kernel/service/stream.hpp"

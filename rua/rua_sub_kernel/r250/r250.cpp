@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/service/words.hpp"
 

@@ -3,7 +3,7 @@
 
 #include <string.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/serv.h"
 #include "rua_sub_kernel/service/shared_table.hpp"
 #include "rua_sub_kernel/service/stream.hpp"

@@ -1,5 +1,5 @@
 // The registry: which functions and sizes belong to a generator id.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string.h>
 #include <x86intrin.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/serv.h"
 #include "rua_sub_kernel/service/stream.hpp"
 

@@ -3,7 +3,7 @@
 
 #include <string.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/serv.h"
 
 using namespace ork::rua;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/service/words.hpp"
 #include "rua_sub_kernel/skip_ahead/skip_ahead.hpp"

@@ -1,6 +1,6 @@
 // Holds the generator's place in the registry: the sequence itself is still to come, and
 // every entry says that there is no such generator.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/rua.h"
 
 ORK_EXPORT int32_t __ruaBRngSobolInitStream(int32_t, RuaStream*, int32_t, const uint32_t*) {

@@ -8,7 +8,7 @@
 #include <array>
 #include <bit>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 
 extern "C" __attribute__((visibility("default"))) constexpr double _ruadWH_IM_Tab[273][4] = {

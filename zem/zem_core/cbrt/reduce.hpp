@@ -3,7 +3,7 @@
 // c_j = 1 + (2j + 1)/64, |r| <= 2^-6. The biased exponent is 3q + rem; a root scales by
 // 2^(q - q0), q0 = 341 in double.
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 
 namespace ork {
 

@@ -1,6 +1,6 @@
 // CdfNorm of one element at or below the limit of the fast range.
 #include "cdfnorm/cdfnorm.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 
 namespace ork {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 // Division and reciprocal by the divide instruction, correctly rounded.
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -2,7 +2,7 @@
 // Single-precision reciprocals from the hardware's 12-bit estimate, for division and reciprocal
 // at LA and EP.
 #include "frame/level.hpp"
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The rare element of ErfcInv (ends 0 and 2, middle 1) and of CdfNormInv (0, 1, 0.5): the
 // statuses in their order, and the tail.
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem.h"
 #include "ork/zem_erf_scalar.h"
 

@@ -2,8 +2,8 @@
 // offsets are one more.
 #include <emmintrin.h>
 
-#include "frame/export.hpp"
-#include "frame/vec.hpp"
+#include "base/export.hpp"
+#include "base/vec.hpp"
 #include "ork/zem_erf_scalar.h"
 
 namespace ork {

@@ -5,7 +5,7 @@
 // with the scale 2^k. Fast range: |x| below 708.396 by its high word; beyond it _zemdSpecSc.
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -4,7 +4,7 @@
 // Fast range: |x| below 87.3365479; beyond it _ScalarExp. Constants: given.
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

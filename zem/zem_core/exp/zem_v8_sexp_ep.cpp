@@ -2,7 +2,7 @@
 // relative error 1.3e-4 on [-1/2, 1/2]; 2^n is added to the exponent field.
 // Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: given.
 #include "frame/chunk.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -3,9 +3,9 @@
 #include <stddef.h>
 #include <string.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "frame/mode.hpp"
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 #include "ork/serv.h"
 
 using ork::read_one;

@@ -18,10 +18,10 @@
 // rare), special(x, r, r2). Scalars of a call are members of the core. Lanes are independent:
 // the bits of an element do not depend on its place. `special` takes pointers so that a
 // signalling NaN is not quieted on its way through an x87 register.
-#include "frame/control.hpp"
-#include "frame/export.hpp"
+#include "base/control.hpp"
+#include "base/export.hpp"
 #include "frame/mode.hpp"
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 

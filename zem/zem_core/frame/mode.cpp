@@ -4,7 +4,7 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 
 namespace ork {
 __thread ThreadState thread_state;

@@ -1,6 +1,6 @@
 #pragma once
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

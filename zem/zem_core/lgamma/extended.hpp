@@ -1,7 +1,7 @@
 #pragma once
 // What the gamma functions share, in the 64 significant bits of the x87 unit. To be called
 // with the control word at extended precision, to nearest.
-#include "frame/control.hpp"
+#include "base/control.hpp"
 
 namespace ork {
 

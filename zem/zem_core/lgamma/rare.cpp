@@ -4,7 +4,7 @@
 // lnG(x) = lnG(1 + x) - ln x. Negative x: lnG(x) = ln(pi / |x sin(pi x)|) - lnG(|x|), but beside
 // the zeros, 2/7 of the way to the pole on either side, a polynomial around the zero.
 // Within 0.52 ulp; between the zeros at negative x, where the difference cancels, 0.7.
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "lgamma/extended.hpp"
 #include "lgamma/lgamma.hpp"
 #include "ork/zem.h"

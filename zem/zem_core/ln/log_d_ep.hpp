@@ -4,7 +4,7 @@
 // 2^-19.6 of the result next to 1, and below 2^-26 of it from |ln x| = 0.17 on.
 // Fast range: positive normal numbers.
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -4,7 +4,7 @@
 // exact. Off by at most 0.52 ulp.
 // Fast range: positive normal numbers. A base gives its constants and p(r).
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -3,7 +3,7 @@
 // y = 2^k m, m in [sqrt(1/2), sqrt(2)), c a short number near c0/m from a table by 7 bits,
 // u_hi + u_lo = m c - c0; log y = (k L1 + L_hi + u_hi) + (p(u) + (k L2 + L_lo) + u_lo), the
 // first sum exact.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 #include "ork/zem.h"
 
 namespace ork {

@@ -1,7 +1,7 @@
 #pragma once
 // Single-precision logarithms without a table: x = 2^k m with m around 1, u = m - 1 exact,
 // log x = p(u) + k log 2.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 

@@ -3,7 +3,7 @@
 // integer next to rcpps(m), so that r = m c - 1 is exact for m of 43 bits, |r| < 2^-9.5. Next to 1,
 // within 2^-10, a lane of `near` makes c a power of two: r is exact for every m, |r| < 2^-10, and
 // -log(c/1024) is 0, so that no sum cancels.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 

@@ -8,8 +8,8 @@
 // since addresses have 32 bits.
 #include <string.h>
 
-#include "frame/export.hpp"
-#include "frame/vec.hpp"
+#include "base/export.hpp"
+#include "base/vec.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

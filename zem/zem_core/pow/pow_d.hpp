@@ -4,7 +4,7 @@
 // 2^q = 2^n 2^(j/128) 2^f, |f| <= 1/256. Polynomials: given.
 // Fast: normal a > 0, finite b, |q| < 1000. vdpow_cout_rare: the others. Within 0.6 ulp.
 #include "frame/chunk.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 #include "pow/special.hpp"
 

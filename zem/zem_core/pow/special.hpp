@@ -1,6 +1,6 @@
 #pragma once
 // The special values of Pow and Powx, decided in this order by bits.
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem.h"
 
 namespace ork {

@@ -2,7 +2,7 @@
 // Exponents of Powx at HA that are another function's business, told by bits. The calls jump
 // through the HA slot of that function's table.
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

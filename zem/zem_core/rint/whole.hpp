@@ -2,7 +2,7 @@
 // What the rounding functions share. Adding and subtracting 2^52 (2^23 in single) drops the
 // fraction of a smaller number in the rounding mode in force. A number at or above it is whole.
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

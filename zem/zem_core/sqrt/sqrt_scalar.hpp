@@ -1,7 +1,7 @@
 #pragma once
 // The rare elements of the square roots: zeros, negative, tiny, infinite, NaN.
 #include "frame/block.hpp"
-#include "frame/image.hpp"
+#include "base/image.hpp"
 
 namespace ork {
 

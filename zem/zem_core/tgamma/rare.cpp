@@ -3,7 +3,7 @@
 //   Gamma(x) = Gamma(m + f) / (x (x + 1) ... (x + m - n - 1)),
 // Gamma(m + f) a polynomial in f, (m - 1)! at 0. Negative x: Gamma(x) = pi / (sin(pi x) Gamma(1 -
 // x)). Within 0.51 ulp; factorials are correctly rounded.
-#include "frame/image.hpp"
+#include "base/image.hpp"
 #include "lgamma/extended.hpp"
 #include "ork/zem.h"
 #include "tgamma/tgamma.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 // Signs and range tests on the integer images.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork::trig {
 

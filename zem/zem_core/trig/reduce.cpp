@@ -1,8 +1,8 @@
 // Reduction modulo pi/2 in extended precision, for arguments of any size.
 #include <stdint.h>
 
-#include "frame/control.hpp"
-#include "frame/export.hpp"
+#include "base/control.hpp"
+#include "base/export.hpp"
 #include "ork/zem_scalar.h"
 
 namespace ork {

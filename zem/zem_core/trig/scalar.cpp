@@ -4,7 +4,7 @@
 // Bound: 0.52 ulp, tangent 0.55 ulp.
 #include "trig/scalar.hpp"
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "trig/table.hpp"
 
 namespace ork::trig {

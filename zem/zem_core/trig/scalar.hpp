@@ -1,7 +1,7 @@
 #pragma once
 // One element through a scalar routine, any argument: the body of the exported _SC forms and
 // the `special` of the kernels. Returns the status: 1 for an infinity.
-#include "frame/control.hpp"
+#include "base/control.hpp"
 #include "ork/zem.h"
 #include "ork/zem_scalar.h"
 

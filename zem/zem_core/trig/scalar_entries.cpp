@@ -1,5 +1,5 @@
 // The exported forms of the scalar routines that take an array and an index, and report.
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "trig/scalar.hpp"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 // Sine and cosine by table: x = a + z + low with a = j * step, and sin(a + z + low) from a row
 // for a. One arithmetic for a scalar and a vector of doubles.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork::trig {
 

@@ -3,29 +3,15 @@
 
 #include <string.h>
 
-#include "ork/dense.h"
+#include "base/dense.hpp"
+#include "base/scratch.hpp"
+#include "base/threads.hpp"
 #include "rua_kernel/ss/moments/finish.hpp"
 #include "rua_kernel/ss/moments/merge.hpp"
 #include "rua_kernel/ss/moments/tables.hpp"
-#include "rua_sub_kernel/math/scratch.hpp"
 
 namespace ork::ss {
 namespace {
-
-template <class R>
-struct Dense;
-template <>
-struct Dense<double> {
-  static constexpr auto syr = ork_blas_dsyr;
-  static constexpr auto syrk = ork_blas_dsyrk;
-  static constexpr auto gemm = ork_blas_dgemm;
-};
-template <>
-struct Dense<float> {
-  static constexpr auto syr = ork_blas_ssyr;
-  static constexpr auto syrk = ork_blas_ssyrk;
-  static constexpr auto gemm = ork_blas_sgemm;
-};
 
 template <class R>
 struct Work {
@@ -122,8 +108,7 @@ class Arena {
 
 int threads_for(int n, const ork_threader* threader) {
   constexpr int least = 1000;  // observations of a thread
-  int threads = threader ? threader->max_threads() : 1;
-  if (threads < 1) threads = 1;
+  int threads = thread_limit(threader);
   if (n / threads < least) threads = n / least > 0 ? n / least : 1;
   return threads;
 }
@@ -300,10 +285,7 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
     if (scratch_size) memset(share.scratch, 0, size_t(scratch_size) * sizeof(R));
   }
 
-  if (threads > 1)
-    threader->parallel(threads, &work, take_share<R>);
-  else
-    take_share<R>(0, 0, 1, &work);
+  run_team(threader, threads, &work, take_share<R>);
 
   Share<R>& total = work.shares[0];
   for (int k = 1; k < threads; ++k) merge(p, total, work.shares[k], given_mean);

@@ -4,7 +4,7 @@
 #pragma once
 #include <stddef.h>
 
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork::ss {
 

@@ -15,7 +15,7 @@
 //   fill()         the coefficients of a chunk; adds up the weights
 //   step()         one observation; returns x - mean, if the core has it
 #pragma once
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 #include "rua_kernel/ss/moments/cross.hpp"
 #include "rua_kernel/ss/service/task.hpp"
 

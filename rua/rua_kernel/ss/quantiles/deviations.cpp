@@ -1,7 +1,8 @@
 // Median and mean of the distances from the median and the mean.
 #include "rua_kernel/ss/moments/basic.hpp"
 #include "rua_kernel/ss/quantiles/quantiles.hpp"
-#include "rua_sub_kernel/math/scratch.hpp"
+#include "base/scratch.hpp"
+#include "base/threads.hpp"
 
 namespace ork::ss {
 namespace {
@@ -82,16 +83,11 @@ template <class R>
 int32_t estimate(const Task<R>& t, bool given_mean, const ork_threader* threader,
                  ork_threader_body body) {
   const int p = t.p(), n = t.n();
-  int threads = threader ? threader->max_threads() : 1;
-  if (threads > p) threads = p;
-  if (threads < 1) threads = 1;
+  const int threads = thread_limit(threader, p);
   const Scratch<R> scratch(uint64_t(n) * threads);
   if (!scratch) return ORK_SS_NO_MEMORY;
   Work<R> work{t, p, n, t.rows() || p == 1, given_mean, scratch.get(), threader, ORK_SS_OK};
-  if (threads > 1)
-    threader->parallel_for(p, threads, &work, body);
-  else
-    for (int item = 0; item < p; ++item) body(item, 0, 0, &work);
+  run_items(threader, p, threads, &work, body);
   return work.status;
 }
 

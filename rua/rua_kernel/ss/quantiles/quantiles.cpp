@@ -5,7 +5,8 @@
 #include <string.h>
 
 #include "rua_kernel/ss/quantiles/sorts.hpp"
-#include "rua_sub_kernel/math/scratch.hpp"
+#include "base/scratch.hpp"
+#include "base/threads.hpp"
 
 namespace ork::ss {
 namespace {
@@ -122,10 +123,8 @@ int32_t quantiles(Task<R>& t, uint64_t estimates, uint64_t method, const ork_thr
 
   // Threads that need no more than 10 MB of scratch.
   const uint64_t fit = 10485760 / (uint64_t(n) * sizeof(R));
-  int threads = threader ? threader->max_threads() : 1;
-  if (threads > p) threads = p;
+  int threads = thread_limit(threader, p);
   if (uint64_t(threads) > (fit > 1 ? fit : 1)) threads = fit > 1 ? int(fit) : 1;
-  if (threads < 1) threads = 1;
   const Scratch<R> scratch(uint64_t(threads) * n);
   if (!scratch) return ORK_SS_NO_MEMORY;
   const Scratch<int> variables(p);
@@ -135,10 +134,7 @@ int32_t quantiles(Task<R>& t, uint64_t estimates, uint64_t method, const ork_thr
     if (t.selected(j)) variables[selected++] = j;
   work.scratch = scratch.get();
   work.variables = variables.get();
-  if (threads > 1)
-    threader->parallel_for(selected, threads, &work, take_variable<R>);
-  else
-    for (int item = 0; item < selected; ++item) take_variable<R>(item, 0, 0, &work);
+  run_items(threader, selected, threads, &work, take_variable<R>);
   return ORK_SS_OK;
 }
 

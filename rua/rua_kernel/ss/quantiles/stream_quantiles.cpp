@@ -4,7 +4,7 @@
 #include "rua_kernel/ss/quantiles/sorts.hpp"
 #include "rua_kernel/ss/quantiles/stream_state.hpp"
 #include "rua_kernel/ss/service/task.hpp"
-#include "rua_sub_kernel/math/scratch.hpp"
+#include "base/scratch.hpp"
 
 namespace ork::ss {
 namespace {

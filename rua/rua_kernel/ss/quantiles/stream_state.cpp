@@ -3,7 +3,7 @@
 #include <string.h>
 
 #include "rua_sub_kernel/math/ln.hpp"
-#include "rua_sub_kernel/math/scratch.hpp"
+#include "base/scratch.hpp"
 
 namespace ork::ss {
 

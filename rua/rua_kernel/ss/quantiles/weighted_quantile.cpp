@@ -2,7 +2,7 @@
 // order's share of the whole.
 #include "rua_kernel/ss/quantiles/sorts.hpp"
 #include "rua_kernel/ss/service/task.hpp"
-#include "rua_sub_kernel/math/scratch.hpp"
+#include "base/scratch.hpp"
 
 namespace ork::ss {
 namespace {

@@ -3,7 +3,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#include "frame/export.hpp"
+#include "base/export.hpp"
 #include "ork/ss.h"
 
 namespace ork::ss {

@@ -1,6 +1,6 @@
 #pragma once
 // Bit images of scalars, for the rare routines: they decide by bits.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 

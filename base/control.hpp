@@ -2,7 +2,7 @@
 // Guards for the processor's floating-point control words. The asm statements clobber
 // memory: a kernel's arithmetic hangs on its loads and ends in its stores, so neither moves
 // across the change or the restore.
-#include "frame/vec.hpp"
+#include "base/vec.hpp"
 
 namespace ork {
 
