@@ -3,7 +3,7 @@
 // interpolation and smooth curve fitting based on local procedures, J. ACM 17, 1970.)
 #include "cubic_local/local.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Without any bend, the plain mean.
 template <class T, class V>
@@ -60,13 +60,13 @@ inline constexpr LocalKernel* akima_dispatch[] = {
     _v1DCSAkimaYRowsUniformGrid<T>,
 };
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFAkimaCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_local<df::Akima>(df::akima_dispatch<double>, task, method, threader);
+  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<double>, task, method, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFAkimaCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_local<df::Akima>(df::akima_dispatch<float>, task, method, threader);
+  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<float>, task, method, threader);
 }

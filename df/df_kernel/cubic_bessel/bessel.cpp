@@ -2,7 +2,7 @@
 // two neighbours.
 #include "cubic_local/local.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Slope of that parabola, given the cells on both sides.
 template <class V>
@@ -48,13 +48,13 @@ inline constexpr LocalKernel* bessel_dispatch[] = {
     _v1DCSBesselYRowsUniformGrid<T>,
 };
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFBesselCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_local<df::Bessel>(df::bessel_dispatch<double>, task, method, threader);
+  return ork::df::construct_local<ork::df::Bessel>(ork::df::bessel_dispatch<double>, task, method, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFBesselCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_local<df::Bessel>(df::bessel_dispatch<float>, task, method, threader);
+  return ork::df::construct_local<ork::df::Bessel>(ork::df::bessel_dispatch<float>, task, method, threader);
 }

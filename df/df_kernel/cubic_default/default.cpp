@@ -2,7 +2,7 @@
 // them every interior cell; the boundary conditions fill the two end cells.
 #include "cubic_default/default.hpp"
 
-namespace df {
+namespace ork::df {
 
 using DefaultKernel = int(const Task*);
 
@@ -111,13 +111,13 @@ int construct_default(const Task* task) {
   return default_dispatch<T>[dispatch_block(task) * boundary_slots + boundary](task);
 }
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFDefaultCubicSpline1D(ork_df_task* task, int64_t, int64_t,
                                                      const ork_threader*) {
-  return df::construct_default<double>(task);
+  return ork::df::construct_default<double>(task);
 }
 ORK_EXPORT int ork_df_kernel_sDFDefaultCubicSpline1D(ork_df_task* task, int64_t, int64_t,
                                                      const ork_threader*) {
-  return df::construct_default<float>(task);
+  return ork::df::construct_default<float>(task);
 }

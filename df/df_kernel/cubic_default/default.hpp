@@ -8,7 +8,7 @@
 #include "spline/ends.hpp"
 #include "spline/layout.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 struct Cubic {
@@ -91,4 +91,4 @@ struct DefaultCubic {
   }
 };
 
-}  // namespace df
+}  // namespace ork::df

@@ -2,7 +2,7 @@
 // functions.
 #include "cubic_local/local.hpp"
 
-namespace df {
+namespace ork::df {
 
 struct Hermite {
   static constexpr int run = 4, reach = 0, least_nx = 3;
@@ -39,13 +39,13 @@ inline constexpr LocalKernel* hermite_dispatch[] = {
     _v1DCSHermiteYRowsUniformGrid<T>,
 };
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFHermiteCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_local<df::Hermite>(df::hermite_dispatch<double>, task, method, threader);
+  return ork::df::construct_local<ork::df::Hermite>(ork::df::hermite_dispatch<double>, task, method, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFHermiteCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_local<df::Hermite>(df::hermite_dispatch<float>, task, method, threader);
+  return ork::df::construct_local<ork::df::Hermite>(ork::df::hermite_dispatch<float>, task, method, threader);
 }

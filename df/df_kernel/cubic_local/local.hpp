@@ -9,7 +9,7 @@
 #include "spline/ends.hpp"
 #include "spline/layout.hpp"
 
-namespace df {
+namespace ork::df {
 
 // The arrays of one run. Index 0 is breakpoint or cell `origin` of the spline; there are
 // `cells` cells, and one breakpoint more.
@@ -158,4 +158,4 @@ int construct_local(LocalKernel* const (&dispatch)[4], const Task* task, int64_t
   return dispatch[dispatch_block(task)](task, task->xhint, task->yhint, method, boundary, threader);
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -1,7 +1,7 @@
 // Natural cubic spline: its kernels, their dispatch table and the construction entries.
 #include "cubic_natural/natural.hpp"
 
-namespace df {
+namespace ork::df {
 
 using NaturalKernel = int(const Task*, int64_t method, const ork_threader*);
 
@@ -111,13 +111,13 @@ int construct_natural(const Task* task, int64_t method, const ork_threader* thre
   return natural_dispatch<T>[kernel](task, method, threader);
 }
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFNaturalCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_natural<double>(task, method, threader);
+  return ork::df::construct_natural<double>(task, method, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFNaturalCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
                                                      const ork_threader* threader) {
-  return df::construct_natural<float>(task, method, threader);
+  return ork::df::construct_natural<float>(task, method, threader);
 }

@@ -15,7 +15,7 @@
 #include "spline/ends.hpp"
 #include "spline/layout.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T, class Y, class Grid>
 struct Natural {
@@ -191,4 +191,4 @@ struct Natural {
   }
 };
 
-}  // namespace df
+}  // namespace ork::df

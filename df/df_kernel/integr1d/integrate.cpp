@@ -2,7 +2,7 @@
 #include "integr1d/integration.hpp"
 #include "service/blocks.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 constexpr int values_on_stack = 2048;
@@ -222,7 +222,7 @@ int integrate_task(const Task* task, int64_t nlim, const T* left, int64_t left_h
 }
 
 }  // namespace
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFIntegrate1D(
     const ork_df_task* task, int64_t, int64_t nlim, const double* left, int64_t leftHint,
@@ -231,7 +231,7 @@ ORK_EXPORT int ork_df_kernel_dDFIntegrate1D(
     ork_df_integr_d* rightCallback, void* rightParams, ork_df_integr_d* interiorCallback,
     void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
     const ork_threader* threader) {
-  return df::integrate_task<double>(
+  return ork::df::integrate_task<double>(
       task, nlim, left, leftHint, right, rightHint, leftDataHint, rightDataHint, result, resultHint,
       {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams},
       searchCallback, searchParams, threader);
@@ -245,7 +245,7 @@ ORK_EXPORT int ork_df_kernel_sDFIntegrate1D(const ork_df_task* task, int64_t, in
                                             void* rightParams, ork_df_integr_s* interiorCallback,
                                             void* interiorParams, ork_df_search_s* searchCallback,
                                             void* searchParams, const ork_threader* threader) {
-  return df::integrate_task<float>(
+  return ork::df::integrate_task<float>(
       task, nlim, left, leftHint, right, rightHint, leftDataHint, rightDataHint, result, resultHint,
       {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams},
       searchCallback, searchParams, threader);

@@ -3,7 +3,7 @@
 #include "integr1d/pieces.hpp"
 #include "search1d/search.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 struct IntegrCallback;
@@ -39,4 +39,4 @@ template <class T>
 int integrate_parts(const Fit<T>&, int kind, const Parts<T>&, T left, int left_cell, T right,
                     int right_cell, T* total, T* part);
 
-}  // namespace df
+}  // namespace ork::df

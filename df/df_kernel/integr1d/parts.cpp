@@ -3,7 +3,7 @@
 
 #include "integr1d/integration.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 template <class T>
@@ -86,4 +86,4 @@ template int integrate_parts(const Fit<double>&, int, const Parts<double>&, doub
 template int integrate_parts(const Fit<float>&, int, const Parts<float>&, float, int, float, int,
                              float*, float*);
 
-}  // namespace df
+}  // namespace ork::df

@@ -2,7 +2,7 @@
 
 #include "interp1d/polynomial.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 // c0 d + c1 d^2 / 2 + .. + c_(P-1) d^P / P, by Horner's rule.
@@ -208,4 +208,4 @@ Integrator<T> integrator(int kind) {
 template Integrator<double> integrator(int);
 template Integrator<float> integrator(int);
 
-}  // namespace df
+}  // namespace ork::df

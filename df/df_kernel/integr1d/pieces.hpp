@@ -6,7 +6,7 @@
 #pragma once
 #include "interp1d/evaluate.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Integrals between the breakpoints cut[0], .., cut[3], known beforehand: three a function.
 template <class T>
@@ -26,4 +26,4 @@ struct Integrator {
 template <class T>
 Integrator<T> integrator(int kind);
 
-}  // namespace df
+}  // namespace ork::df

@@ -3,7 +3,7 @@
 #include "interp1d/polynomial.hpp"
 #include "service/quad.hpp"
 
-namespace df {
+namespace ork::df {
 
 Request read_request(int64_t flags, const void* flag, bool wide) {
   Request request = {0, {-1, -1, -1, -1}, 0, flag, wide};
@@ -187,4 +187,4 @@ const Evaluator<T>& evaluator(int kind) {
 template const Evaluator<double>& evaluator(int);
 template const Evaluator<float>& evaluator(int);
 
-}  // namespace df
+}  // namespace ork::df

@@ -5,7 +5,7 @@
 #include "quadratic_subbotin/subgrid.hpp"
 #include "service/task.hpp"
 
-namespace df {
+namespace ork::df {
 
 enum Kind {
   linear_kind,
@@ -154,4 +154,4 @@ inline bool has_data(const Task* task, int kind) {
   return task->coeffs != nullptr && task->coeffs[0] != nullptr;
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -1,7 +1,7 @@
 // The exported forms of the evaluators.
 #include "interp1d/interpolate.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 // The order of the arguments is part of the interface.
@@ -92,7 +92,7 @@ int evaluate(int kind, const EvalArguments<T>& a, typename InterpCallback<T>::ty
 }
 
 }  // namespace
-}  // namespace df
+}  // namespace ork::df
 
 #define ORK_EVAL_PARAMETERS(T)                                                                 \
   int64_t nx, const T *x, int64_t xhint, T step, const T *icValues, int64_t icType, int64_t n, \
@@ -107,11 +107,11 @@ int evaluate(int kind, const EvalArguments<T>& a, typename InterpCallback<T>::ty
   }
 #define ORK_EVALUATOR(name, letter, T, kind)                                             \
   ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32(ORK_EVAL_PARAMETERS(T)) { \
-    return df::evaluate<T>(df::kind, ORK_EVAL_ARGUMENTS);                                \
+    return ork::df::evaluate<T>(ork::df::kind, ORK_EVAL_ARGUMENTS);                                \
   }                                                                                      \
   ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32CB(                        \
       ORK_EVAL_PARAMETERS(T), ork_df_interp_##letter* callback, void* params) {          \
-    return df::evaluate<T>(df::kind, ORK_EVAL_ARGUMENTS, callback, params);              \
+    return ork::df::evaluate<T>(ork::df::kind, ORK_EVAL_ARGUMENTS, callback, params);              \
   }
 #define ORK_EVALUATORS(name, kind)     \
   ORK_EVALUATOR(name, d, double, kind) \

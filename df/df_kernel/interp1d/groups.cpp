@@ -3,7 +3,7 @@
 
 #include "interp1d/interpolate.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 int interpolate_group(const Fit<T>& fit, int kind, const Request& request, int n, const T* site,
@@ -83,4 +83,4 @@ template int interpolate_groups(const Interpolation<double>&, int, int, const do
 template int interpolate_groups(const Interpolation<float>&, int, int, const float*, int32_t&,
                                 Located<float>&, float*);
 
-}  // namespace df
+}  // namespace ork::df

@@ -6,7 +6,7 @@
 
 #include "service/blocks.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 int interpolate_block(const Interpolation<T>& job, int first, int n, int32_t& state,
@@ -232,7 +232,7 @@ static int interpolate_scalar(const Task* task, int kind, int search_kind, doubl
   return interpolate_one(job);
 }
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFInterpolate1D(
     const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const double* site,
@@ -241,7 +241,7 @@ ORK_EXPORT int ork_df_kernel_dDFInterpolate1D(
     ork_df_interp_d* rightCallback, void* rightParams, ork_df_interp_d* interiorCallback,
     void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
     const ork_threader* threader) {
-  return df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
+  return ork::df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
                          result, resultHint, cell, leftCallback, leftParams, rightCallback,
                          rightParams, interiorCallback, interiorParams, searchCallback,
                          searchParams, threader);
@@ -253,7 +253,7 @@ ORK_EXPORT int ork_df_kernel_sDFInterpolate1D(
     ork_df_interp_s* rightCallback, void* rightParams, ork_df_interp_s* interiorCallback,
     void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
     const ork_threader* threader) {
-  return df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
+  return ork::df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
                          result, resultHint, cell, leftCallback, leftParams, rightCallback,
                          rightParams, interiorCallback, interiorParams, searchCallback,
                          searchParams, threader);
@@ -265,7 +265,7 @@ ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, 
                                       void* leftParams, ork_df_interp_d* rightCallback,
                                       void* rightParams, ork_df_interp_d* interiorCallback,
                                       void* interiorParams) {
-  return df::interpolate_scalar(task, splineIndex, searchKind, site, nDerivFlags, derivFlags,
+  return ork::df::interpolate_scalar(task, splineIndex, searchKind, site, nDerivFlags, derivFlags,
                                 result, leftCallback, leftParams, rightCallback, rightParams,
                                 interiorCallback, interiorParams);
 }

@@ -3,7 +3,7 @@
 #include "interp1d/evaluate.hpp"
 #include "search1d/search.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 struct InterpCallback;
@@ -80,4 +80,4 @@ int interpolate_group(const Fit<T>&, int kind, const Request&, int n, const T* s
                       const int32_t* cell, typename InterpCallback<T>::type* callback, void* params,
                       Located<T>&, T* values, const Output<T>& out, ptrdiff_t by_function);
 
-}  // namespace df
+}  // namespace ork::df

@@ -7,7 +7,7 @@
 #include "interp1d/evaluate.hpp"
 #include "spline/lanes.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Coefficients of the pieces of a register of sites: k[i] holds those of the power i.
 template <int P>
@@ -136,4 +136,4 @@ int fill_polynomial(const Fit<T>& fit, const Request& request, int n, const Loca
   return fill(fit, request, n, located, f, out);
 }
 
-}  // namespace df
+}  // namespace ork::df

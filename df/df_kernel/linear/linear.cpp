@@ -1,7 +1,7 @@
 // Linear spline: its kernels, their dispatch table and the construction entries.
 #include "linear/linear.hpp"
 
-namespace df {
+namespace ork::df {
 
 using LinearKernel = int(const Task*, const ork_threader*);
 
@@ -31,11 +31,11 @@ int construct_linear(const Task* task, int64_t method, const ork_threader* threa
   return linear_dispatch<T>[dispatch_block(task)](task, threader);
 }
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFLinearSpline1D(ork_df_task* task, int64_t, int64_t method, const ork_threader* threader) {
-  return df::construct_linear<double>(task, method, threader);
+  return ork::df::construct_linear<double>(task, method, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFLinearSpline1D(ork_df_task* task, int64_t, int64_t method, const ork_threader* threader) {
-  return df::construct_linear<float>(task, method, threader);
+  return ork::df::construct_linear<float>(task, method, threader);
 }

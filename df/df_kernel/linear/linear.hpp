@@ -2,7 +2,7 @@
 #pragma once
 #include "spline/layout.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T, class Y, class Grid>
 struct Linear {
@@ -58,4 +58,4 @@ struct Linear {
   }
 };
 
-}  // namespace df
+}  // namespace ork::df

@@ -3,7 +3,7 @@
 #include "quadratic_std/quadratic.hpp"
 #include "quadratic_subbotin/kernels.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 inline constexpr QuadraticKernel* _v1DQSStdYColsNoUniformGrid = Quadratic<T, YCols, NoUniformGrid>::build;
@@ -54,13 +54,13 @@ int construct_quadratic(const Task* task) {
   }
 }
 
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFQuadraticSpline1D(ork_df_task* task, int64_t, int64_t,
                                                   const ork_threader*) {
-  return df::construct_quadratic<double>(task);
+  return ork::df::construct_quadratic<double>(task);
 }
 ORK_EXPORT int ork_df_kernel_sDFQuadraticSpline1D(ork_df_task* task, int64_t, int64_t,
                                                   const ork_threader*) {
-  return df::construct_quadratic<float>(task);
+  return ork::df::construct_quadratic<float>(task);
 }

@@ -6,7 +6,7 @@
 #pragma once
 #include "spline/layout.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T, class Y, class Grid>
 struct Quadratic {
@@ -55,4 +55,4 @@ struct Quadratic {
   }
 };
 
-}  // namespace df
+}  // namespace ork::df

@@ -3,7 +3,7 @@
 #pragma once
 #include "quadratic_subbotin/subbotin.hpp"
 
-namespace df {
+namespace ork::df {
 
 using QuadraticKernel = int(const Task*);
 
@@ -138,4 +138,4 @@ inline constexpr QuadraticKernel* subbotin_dispatch[] = {
     nullptr,
 };
 
-}  // namespace df
+}  // namespace ork::df

@@ -13,7 +13,7 @@
 #include "spline/ends.hpp"
 #include "spline/solver.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T, class Y, class Grid>
 struct Subbotin {
@@ -95,4 +95,4 @@ struct Subbotin {
   }
 };
 
-}  // namespace df
+}  // namespace ork::df

@@ -4,7 +4,7 @@
 #pragma once
 #include "spline/layout.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 struct Subgrid {
@@ -48,4 +48,4 @@ struct Subgrid {
   }
 };
 
-}  // namespace df
+}  // namespace ork::df

@@ -1,7 +1,7 @@
 // The search entry: chooses a method, makes generated sites, divides the sites over threads.
 #include "search1d/search.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 int choose_search(const Task* task, int64_t site_hint, const T* data_hint,
@@ -135,20 +135,20 @@ int search_sites(const Task* task, int64_t nsite, const T* site, int64_t site_hi
 }
 
 }  // namespace
-}  // namespace df
+}  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFSearch1D(const ork_df_task* task, int64_t, int64_t nsite,
                                          const double* site, int64_t siteHint,
                                          const double* dataHint, void* cell,
                                          ork_df_search_d* searchCallback, void* searchParams,
                                          const ork_threader* threader) {
-  return df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback, searchParams,
+  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback, searchParams,
                           threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFSearch1D(const ork_df_task* task, int64_t, int64_t nsite,
                                          const float* site, int64_t siteHint, const float* dataHint,
                                          void* cell, ork_df_search_s* searchCallback,
                                          void* searchParams, const ork_threader* threader) {
-  return df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback, searchParams,
+  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback, searchParams,
                           threader);
 }

@@ -2,7 +2,7 @@
 #pragma once
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 
 constexpr int64_t uniform_sites = ORK_DF_SITES_UNIFORM;
 
@@ -27,4 +27,4 @@ inline void generate_sites(const T* ends, int64_t total, int first, int n, T* si
   for (int i = 0; i < n; ++i) site[i] = static_cast<T>(first + i) * step + ends[0];
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -2,7 +2,7 @@
 #pragma once
 #include "service/task.hpp"
 
-namespace df {
+namespace ork::df {
 
 // n items divided into tasks of five blocks, then into single blocks; items beyond `served`
 // make no block and are the caller's.
@@ -56,4 +56,4 @@ int serve_blocks(const BlockPlan& plan, const ork_threader* threader, const Serv
   return ORK_DF_OK;
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -1,6 +1,6 @@
 #include "service/buckets.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 template <class T>
@@ -43,4 +43,4 @@ int build_buckets(Task* task) {
   return ORK_DF_OK;
 }
 
-}  // namespace df
+}  // namespace ork::df

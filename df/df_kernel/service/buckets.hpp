@@ -3,10 +3,10 @@
 #pragma once
 #include "service/task.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Builds the table from the task's x and nx, by the task's precision. The block is allocated
 // when there is none yet. 0 or ORK_DF_NO_MEMORY.
 int build_buckets(Task* task);
 
-}  // namespace df
+}  // namespace ork::df

@@ -2,7 +2,7 @@
 #pragma once
 #include "service/task.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Boundary index: the order of kernels within a block of a dispatch table.
 enum Boundary {
@@ -70,4 +70,4 @@ inline int check_cubic_boundary(const Task* task, bool may_be_unset) {
   return needed && task->bcValues == nullptr ? ORK_DF_BAD_BC_VALUES : boundary;
 }
 
-}  // namespace df
+}  // namespace ork::df

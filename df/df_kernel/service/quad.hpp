@@ -4,7 +4,7 @@
 #include <stdint.h>
 #include <string.h>
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 struct Quad;
@@ -88,4 +88,4 @@ inline __attribute__((always_inline)) void by_fours(int n, const In* in, Out* ou
   for (int k = 0; j + k < n; ++k) out[j + k] = to[k];
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -4,7 +4,7 @@
 #include "service/buckets.hpp"
 #include "service/construct.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 bool valid_grid(int64_t hint) {
@@ -282,19 +282,19 @@ int query_value(const Task* task, int64_t code, void* out) {
 }
 
 }  // namespace
-}  // namespace df
+}  // namespace ork::df
 
 using ork_task = ork_df_task;
 
 ORK_EXPORT int ork_df_kernel_dNewTask1D(ork_task** task, int64_t nx, const double* x, int64_t xhint,
                                         int64_t ny, const double* y, int64_t yhint,
                                         int32_t widthFlag) {
-  return df::new_task(task, nx, x, xhint, ny, y, yhint, widthFlag);
+  return ork::df::new_task(task, nx, x, xhint, ny, y, yhint, widthFlag);
 }
 ORK_EXPORT int ork_df_kernel_sNewTask1D(ork_task** task, int64_t nx, const float* x, int64_t xhint,
                                         int64_t ny, const float* y, int64_t yhint,
                                         int32_t widthFlag) {
-  return df::new_task(task, nx, x, xhint, ny, y, yhint, widthFlag);
+  return ork::df::new_task(task, nx, x, xhint, ny, y, yhint, widthFlag);
 }
 
 ORK_EXPORT int ork_df_kernel_DeleteTask(ork_task** task) {
@@ -312,7 +312,7 @@ ORK_EXPORT int ork_df_kernel_dEditPPSpline1D(ork_task* task, int64_t splineOrder
                                              const double* bcValues, int64_t icType,
                                              const double* icValues, double* coeffs,
                                              int64_t coeffHint) {
-  return df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
+  return ork::df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
                          coeffHint);
 }
 ORK_EXPORT int ork_df_kernel_sEditPPSpline1D(ork_task* task, int64_t splineOrder,
@@ -320,45 +320,45 @@ ORK_EXPORT int ork_df_kernel_sEditPPSpline1D(ork_task* task, int64_t splineOrder
                                              const float* bcValues, int64_t icType,
                                              const float* icValues, float* coeffs,
                                              int64_t coeffHint) {
-  return df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
+  return ork::df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
                          coeffHint);
 }
 
 ORK_EXPORT int ork_df_kernel_dEditPtr(ork_task* task, int64_t code, const double* pointer) {
-  return df::edit_pointer(task, code, pointer);
+  return ork::df::edit_pointer(task, code, pointer);
 }
 ORK_EXPORT int ork_df_kernel_sEditPtr(ork_task* task, int64_t code, const float* pointer) {
-  return df::edit_pointer(task, code, pointer);
+  return ork::df::edit_pointer(task, code, pointer);
 }
 ORK_EXPORT int ork_df_kernel_dEditIdxPtr(ork_task* task, int64_t code, int64_t index,
                                          const double* pointer) {
-  return df::edit_row(task, code, index, pointer);
+  return ork::df::edit_row(task, code, index, pointer);
 }
 ORK_EXPORT int ork_df_kernel_sEditIdxPtr(ork_task* task, int64_t code, int64_t index,
                                          const float* pointer) {
-  return df::edit_row(task, code, index, pointer);
+  return ork::df::edit_row(task, code, index, pointer);
 }
 ORK_EXPORT int ork_df_kernel_dQueryPtr(const ork_task* task, int64_t code, double** pointer) {
-  return df::query_pointer(task, code, pointer);
+  return ork::df::query_pointer(task, code, pointer);
 }
 ORK_EXPORT int ork_df_kernel_sQueryPtr(const ork_task* task, int64_t code, float** pointer) {
-  return df::query_pointer(task, code, pointer);
+  return ork::df::query_pointer(task, code, pointer);
 }
 ORK_EXPORT int ork_df_kernel_dQueryIdxPtr(const ork_task* task, int64_t code, int64_t index,
                                           double** pointer) {
-  return df::query_row(task, code, index, pointer);
+  return ork::df::query_row(task, code, index, pointer);
 }
 ORK_EXPORT int ork_df_kernel_sQueryIdxPtr(const ork_task* task, int64_t code, int64_t index,
                                           float** pointer) {
-  return df::query_row(task, code, index, pointer);
+  return ork::df::query_row(task, code, index, pointer);
 }
 
 ORK_EXPORT int ork_df_kernel_iEditVal(ork_task* task, int64_t code, int64_t value) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
-  return task->dimension == 1 ? df::edit_value(task, code, value) : ORK_DF_OK;
+  return task->dimension == 1 ? ork::df::edit_value(task, code, value) : ORK_DF_OK;
 }
 ORK_EXPORT int ork_df_kernel_iQueryVal(const ork_task* task, int64_t code, void* value) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (value == nullptr) return ORK_DF_NULL_RESULT;
-  return task->dimension == 1 ? df::query_value(task, code, value) : ORK_DF_OK;
+  return task->dimension == 1 ? ork::df::query_value(task, code, value) : ORK_DF_OK;
 }

@@ -12,7 +12,7 @@
 #include "ork/df.h"
 #include "ork/serv.h"
 
-namespace df {
+namespace ork::df {
 
 // A bracket of breakpoint indices: any site of the bucket lies in a cell from lo to hi.
 struct Bucket {
@@ -20,7 +20,7 @@ struct Bucket {
 };
 constexpr int max_buckets = 1024;
 
-}  // namespace df
+}  // namespace ork::df
 
 // The layout is part of the interface: callers of the outer layer read fields of it.
 struct ork_df_task {
@@ -44,7 +44,7 @@ struct ork_df_task {
   int64_t coeffHint;
   int32_t extensionFlag;
   int64_t bucketCount;
-  df::Bucket* buckets;
+  ork::df::Bucket* buckets;
   union {
     double d;
     float s;
@@ -53,7 +53,7 @@ struct ork_df_task {
 static_assert(offsetof(ork_df_task, nx) == 16 && offsetof(ork_df_task, coeffs) == 96 &&
               sizeof(ork_df_task) == 132);
 
-namespace df {
+namespace ork::df {
 
 using Task = ork_df_task;
 
@@ -106,4 +106,4 @@ Samples<T> samples(const Task* task, int f) {
 using ork::Scratch;
 using ork::thread_limit;
 
-}  // namespace df
+}  // namespace ork::df

@@ -2,7 +2,7 @@
 // interpolation and integration entries, which call the routines of find.hpp themselves.
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 template <class T, Method method>
@@ -41,14 +41,14 @@ int simple_search(int64_t nx, const T* x, int64_t nsite, const T* site, int64_t*
 }
 
 }  // namespace
-}  // namespace df
+}  // namespace ork::df
 
 #define ORK_SIMPLE_SEARCH(name, letter, T, method)                                                \
   ORK_EXPORT int name(int64_t nx, const T* x, int64_t nsite, const T* site, int64_t* state,       \
                       T scale, const T*, int64_t bucketCount, const int32_t* buckets, void* cell, \
                       int32_t widthFlag, ork_df_search_##letter* searchCallback,                  \
                       void* searchParams, int32_t* flags) {                                       \
-    return df::simple_search<T, df::method>(nx, x, nsite, site, state, scale, bucketCount,        \
+    return ork::df::simple_search<T, ork::df::method>(nx, x, nsite, site, state, scale, bucketCount,        \
                                             buckets, cell, widthFlag, searchCallback,             \
                                             searchParams, flags);                                 \
   }

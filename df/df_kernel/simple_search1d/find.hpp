@@ -7,7 +7,7 @@
 #pragma once
 #include "service/task.hpp"
 
-namespace df {
+namespace ork::df {
 
 enum Method {
   uniform_search,
@@ -123,4 +123,4 @@ inline int walk_from_guess(const T* x, int nx, int guess, T s) {
   return walk_down(x, guess, s);
 }
 
-}  // namespace df
+}  // namespace ork::df

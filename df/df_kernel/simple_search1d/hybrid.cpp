@@ -5,7 +5,7 @@
 #include "service/quad.hpp"
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 constexpr int block = 128;
@@ -77,4 +77,4 @@ int find_hybrid(const Search<T>& search, int n, const T* site, int32_t&, int32_t
 template int find_hybrid(const Search<double>&, int, const double*, int32_t&, int32_t*);
 template int find_hybrid(const Search<float>&, int, const float*, int32_t&, int32_t*);
 
-}  // namespace df
+}  // namespace ork::df

@@ -1,7 +1,7 @@
 // Sites that lie close to one breakpoint: walk from there.
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 int find_peak(const Search<T>& search, int n, const T* site, int32_t&, int32_t* cell) {
@@ -18,4 +18,4 @@ int find_peak(const Search<T>& search, int n, const T* site, int32_t&, int32_t* 
 template int find_peak(const Search<double>&, int, const double*, int32_t&, int32_t*);
 template int find_peak(const Search<float>&, int, const float*, int32_t&, int32_t*);
 
-}  // namespace df
+}  // namespace ork::df

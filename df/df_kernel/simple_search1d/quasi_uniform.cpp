@@ -1,7 +1,7 @@
 // Nearly equal cells: the guess of the uniform search, then a walk to the cell.
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 int find_quasi_uniform(const Search<T>& search, int n, const T* site, int32_t& state,
@@ -23,4 +23,4 @@ int find_quasi_uniform(const Search<T>& search, int n, const T* site, int32_t& s
 template int find_quasi_uniform(const Search<double>&, int, const double*, int32_t&, int32_t*);
 template int find_quasi_uniform(const Search<float>&, int, const float*, int32_t&, int32_t*);
 
-}  // namespace df
+}  // namespace ork::df

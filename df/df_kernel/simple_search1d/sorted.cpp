@@ -2,7 +2,7 @@
 #include "service/quad.hpp"
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 // Eight sites that end at most two cells after cell c, with no branch on where they cross a
@@ -51,4 +51,4 @@ int find_sorted(const Search<T>& search, int n, const T* site, int32_t& state, i
 template int find_sorted(const Search<double>&, int, const double*, int32_t&, int32_t*);
 template int find_sorted(const Search<float>&, int, const float*, int32_t&, int32_t*);
 
-}  // namespace df
+}  // namespace ork::df

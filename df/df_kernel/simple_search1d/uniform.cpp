@@ -2,7 +2,7 @@
 #include "service/quad.hpp"
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T>
 int find_uniform(const Search<T>& search, int n, const T* site, int32_t&, int32_t* cell) {
@@ -21,4 +21,4 @@ int find_uniform(const Search<T>& search, int n, const T* site, int32_t&, int32_
 template int find_uniform(const Search<double>&, int, const double*, int32_t&, int32_t*);
 template int find_uniform(const Search<float>&, int, const float*, int32_t&, int32_t*);
 
-}  // namespace df
+}  // namespace ork::df

@@ -1,7 +1,7 @@
 // The caller's own search: its cells are final, or guesses that the library walks from.
 #include "simple_search1d/find.hpp"
 
-namespace df {
+namespace ork::df {
 namespace {
 
 constexpr int all_final = 1000;  // status of a callback whose cells need no work
@@ -58,4 +58,4 @@ int find_user_uniform(const Search<T>& search, int n, const T* site, int32_t&, i
 template int find_user_uniform(const Search<double>&, int, const double*, int32_t&, int32_t*);
 template int find_user_uniform(const Search<float>&, int, const float*, int32_t&, int32_t*);
 
-}  // namespace df
+}  // namespace ork::df

@@ -2,7 +2,7 @@
 #pragma once
 #include "spline/lanes.hpp"
 
-namespace df {
+namespace ork::df {
 
 // c0 .. c3 of the cells whose left values are y, with slopes d and d1 at their two ends,
 // divided differences t and reciprocal lengths r.
@@ -14,4 +14,4 @@ ORK_INLINE void put_cubic(T* coeffs, V y, V d, V d1, V t, V r) {
   put_records(coeffs, y, d, a - (b - a), c3);
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -5,7 +5,7 @@
 #pragma once
 #include "service/construct.hpp"
 
-namespace df {
+namespace ork::df {
 
 enum class Condition { not_a_knot, free, slope, curvature, periodic, not_set };
 
@@ -74,4 +74,4 @@ T end_slope(const End<T>& e, T beside) {
   return (row.right - row.beside * beside) / row.diagonal;
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -8,7 +8,7 @@
 
 #include "base/vec.hpp"
 
-namespace df {
+namespace ork::df {
 
 template <class T, class Body>
 ORK_INLINE void sweep(int first, int last, Body body) {
@@ -75,4 +75,4 @@ ORK_INLINE void put_records(float* p, ork::f32x4 a, ork::f32x4 b, ork::f32x4 c, 
   put(p, a), put(p + 4, b), put(p + 8, c), put(p + 12, d);
 }
 
-}  // namespace df
+}  // namespace ork::df

@@ -4,7 +4,7 @@
 #include "service/construct.hpp"
 #include "spline/lanes.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Function f is a row of its own.
 struct YRows {
@@ -94,4 +94,4 @@ bool closes(const Task* task, int f) {
   return y[0] == y[breakpoints(task) - 1];
 }
 
-}  // namespace df
+}  // namespace ork::df

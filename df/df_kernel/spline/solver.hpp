@@ -2,7 +2,7 @@
 #pragma once
 #include "base/dense.hpp"
 
-namespace df {
+namespace ork::df {
 
 // Solves for one right side; overwrites the matrix. False: the matrix is singular.
 template <class T>
@@ -28,4 +28,4 @@ bool solve_factored(int n, int count, const T* lower, const T* diagonal, const T
   return info == 0;
 }
 
-}  // namespace df
+}  // namespace ork::df
