@@ -43,20 +43,21 @@ struct MxcsrGuard {
 };
 
 // The same for the x87 control word. X87Guard<0> does nothing.
-template <unsigned wanted> struct X87Guard {
+template <unsigned wanted>
+struct X87Guard {
   unsigned short saved;
   bool changed;
   __attribute__((always_inline)) X87Guard() : saved(get_x87()) {
     changed = (saved & x87_bits) != wanted;
-    if (__builtin_expect(changed, 0))
-      set_x87((unsigned short)((saved & ~x87_bits) | wanted));
+    if (__builtin_expect(changed, 0)) set_x87((unsigned short)((saved & ~x87_bits) | wanted));
   }
   __attribute__((always_inline)) ~X87Guard() {
     if (__builtin_expect(changed, 0)) set_x87(saved);
   }
   X87Guard(const X87Guard&) = delete;
 };
-template <> struct X87Guard<0> {
+template <>
+struct X87Guard<0> {
   __attribute__((always_inline)) X87Guard() {}
 };
 

@@ -15,24 +15,30 @@ typedef int32_t i32x4 __attribute__((vector_size(16)));
 typedef uint32_t u32x4 __attribute__((vector_size(16)));
 
 // What an element type brings along. `bits` is its integer image.
-template <class T> struct simd;
-template <> struct simd<double> {
+template <class T>
+struct simd;
+template <>
+struct simd<double> {
   using vec = f64x2;
   using ivec = u64x2;
   using bits = uint64_t;
   static constexpr int width = 2;
 };
-template <> struct simd<float> {
+template <>
+struct simd<float> {
   using vec = f32x4;
   using ivec = u32x4;
   using bits = uint32_t;
   static constexpr int width = 4;
 };
-template <class T> using vec_of = typename simd<T>::vec;
-template <class T> using bits_of = typename simd<T>::bits;
+template <class T>
+using vec_of = typename simd<T>::vec;
+template <class T>
+using bits_of = typename simd<T>::bits;
 
 // Reinterprets without conversion: as<u32x4>(x) of a vector, as<uint64_t>(x) of a scalar.
-template <class To, class From> ORK_INLINE To as(const From& x) {
+template <class To, class From>
+ORK_INLINE To as(const From& x) {
   static_assert(sizeof(To) == sizeof(From));
   return __builtin_bit_cast(To, x);
 }
@@ -43,12 +49,16 @@ ORK_INLINE u32x4 splat_u32(uint32_t x) { return u32x4{x, x, x, x}; }
 ORK_INLINE u64x2 splat_u64(uint64_t x) { return u64x2{x, x}; }
 
 // One element; arrays may stand at any address.
-template <class T> ORK_INLINE T read_one(const T* p) {
+template <class T>
+ORK_INLINE T read_one(const T* p) {
   T x;
   __builtin_memcpy(&x, p, sizeof x);
   return x;
 }
-template <class T> ORK_INLINE void write_one(T* p, T x) { __builtin_memcpy(p, &x, sizeof x); }
+template <class T>
+ORK_INLINE void write_one(T* p, T x) {
+  __builtin_memcpy(p, &x, sizeof x);
+}
 
 ORK_INLINE f64x2 load(const double* p) { return _mm_loadu_pd(p); }
 ORK_INLINE f32x4 load(const float* p) { return _mm_loadu_ps(p); }
@@ -87,7 +97,8 @@ ORK_INLINE void gather_pairs(const float* p0, const float* p1, const float* p2, 
   second = _mm_shuffle_ps(row01, row23, 0xDD);
 }
 // 16-bit word `place` of a vector, 0 to 7.
-template <int place, class V> ORK_INLINE int word(V x) {
+template <int place, class V>
+ORK_INLINE int word(V x) {
   return _mm_extract_epi16(as<__m128i>(x), place);
 }
 
@@ -105,10 +116,14 @@ ORK_INLINE f64x2 abs(f64x2 x) { return and_bits(x, ~sign_f64x2); }
 ORK_INLINE f32x4 abs(f32x4 x) { return and_bits(x, ~sign_f32x4); }
 
 // a/b as a constant: under -frounding-math an expression would divide when run.
-template <int a, int b> inline constexpr double ratio = double(a) / b;
+template <int a, int b>
+inline constexpr double ratio = double(a) / b;
 
 // c0 + x (c1 + x (c2 + ...)), in that order of operations; of vectors or scalars.
-template <class V, class T> ORK_INLINE V horner(V x, T c0, T c1) { return c0 + x * c1; }
+template <class V, class T>
+ORK_INLINE V horner(V x, T c0, T c1) {
+  return c0 + x * c1;
+}
 template <class V, class T, class... Ts>
 ORK_INLINE V horner(V x, T c0, T c1, Ts... rest) {
   return c0 + x * horner(x, c1, rest...);
@@ -120,13 +135,15 @@ ORK_INLINE f32x4 rcp_est(f32x4 x) { return _mm_rcp_ps(x); }      // relative err
 ORK_INLINE f32x4 rsqrt_est(f32x4 x) { return _mm_rsqrt_ps(x); }  // relative error below 1.5 * 2^-12
 
 // mask ? x : y, each mask lane all ones or all zeros.
-template <class V, class M> ORK_INLINE V select(M mask, V x, V y) {
+template <class V, class M>
+ORK_INLINE V select(M mask, V x, V y) {
   const u32x4 m = as<u32x4>(mask);
   return as<V>((as<u32x4>(x) & m) | (as<u32x4>(y) & ~m));
 }
 
 // The lanes' sign bits, lane 0 lowest. 64-bit lanes have theirs in the high word.
-template <class T> ORK_INLINE int sign_mask(u32x4 x) {
+template <class T>
+ORK_INLINE int sign_mask(u32x4 x) {
   if constexpr (sizeof(T) == 8)
     return _mm_movemask_pd(as<f64x2>(x));
   else

@@ -21,9 +21,12 @@ struct Api<double> {
   static constexpr auto create = ork_df_kernel_dNewTask1D;
   static constexpr auto edit = ork_df_kernel_dEditPPSpline1D;
   static constexpr ork_df_construct *linear = ork_df_kernel_dDFLinearSpline1D,
-      *quadratic = ork_df_kernel_dDFQuadraticSpline1D, *natural = ork_df_kernel_dDFNaturalCubicSpline1D,
-      *standard = ork_df_kernel_dDFDefaultCubicSpline1D, *hermite = ork_df_kernel_dDFHermiteCubicSpline1D,
-      *bessel = ork_df_kernel_dDFBesselCubicSpline1D, *akima = ork_df_kernel_dDFAkimaCubicSpline1D;
+                                    *quadratic = ork_df_kernel_dDFQuadraticSpline1D,
+                                    *natural = ork_df_kernel_dDFNaturalCubicSpline1D,
+                                    *standard = ork_df_kernel_dDFDefaultCubicSpline1D,
+                                    *hermite = ork_df_kernel_dDFHermiteCubicSpline1D,
+                                    *bessel = ork_df_kernel_dDFBesselCubicSpline1D,
+                                    *akima = ork_df_kernel_dDFAkimaCubicSpline1D;
 };
 template <>
 struct Api<float> {
@@ -31,9 +34,12 @@ struct Api<float> {
   static constexpr auto create = ork_df_kernel_sNewTask1D;
   static constexpr auto edit = ork_df_kernel_sEditPPSpline1D;
   static constexpr ork_df_construct *linear = ork_df_kernel_sDFLinearSpline1D,
-      *quadratic = ork_df_kernel_sDFQuadraticSpline1D, *natural = ork_df_kernel_sDFNaturalCubicSpline1D,
-      *standard = ork_df_kernel_sDFDefaultCubicSpline1D, *hermite = ork_df_kernel_sDFHermiteCubicSpline1D,
-      *bessel = ork_df_kernel_sDFBesselCubicSpline1D, *akima = ork_df_kernel_sDFAkimaCubicSpline1D;
+                                    *quadratic = ork_df_kernel_sDFQuadraticSpline1D,
+                                    *natural = ork_df_kernel_sDFNaturalCubicSpline1D,
+                                    *standard = ork_df_kernel_sDFDefaultCubicSpline1D,
+                                    *hermite = ork_df_kernel_sDFHermiteCubicSpline1D,
+                                    *bessel = ork_df_kernel_sDFBesselCubicSpline1D,
+                                    *akima = ork_df_kernel_sDFAkimaCubicSpline1D;
 };
 
 // GSL's constructions, 0 where it is not installed.
@@ -44,7 +50,8 @@ struct Peer {
     void* blas = dlopen("libgslcblas.so.0", RTLD_NOW | RTLD_GLOBAL);
     void* gsl = blas != nullptr ? dlopen("libgsl.so.27", RTLD_NOW) : nullptr;
     if (gsl == nullptr) return report.line("GSL for i386 is not installed: no peer");
-    const auto alloc = reinterpret_cast<void* (*)(const void*, size_t)>(dlsym(gsl, "gsl_interp_alloc"));
+    const auto alloc =
+        reinterpret_cast<void* (*)(const void*, size_t)>(dlsym(gsl, "gsl_interp_alloc"));
     const auto init = reinterpret_cast<int (*)(void*, const double*, const double*, size_t)>(
         dlsym(gsl, "gsl_interp_init"));
     const auto cycles = [&](const char* kind) {
@@ -75,7 +82,8 @@ void measure(Report& report, const Row& row) {
   const bool uniform = row.xhint == ORK_DF_X_UNIFORM, given = row.ic == 0;
   ork_df_task* task = nullptr;
   Api<T>::create(&task, n, uniform ? ends : x.data(), row.xhint, row.ny, y.data(), row.yhint, 0);
-  Api<T>::edit(task, row.order, row.type, row.bc, bc, given, given ? ic.data() : nullptr, coeffs.data(), 0);
+  Api<T>::edit(task, row.order, row.type, row.bc, bc, given, given ? ic.data() : nullptr,
+               coeffs.data(), 0);
   if (!given) ork_df_kernel_iEditVal(task, ORK_DF_VAL_IC, row.ic);
   int code = 0;
   const double cycles =
@@ -83,9 +91,11 @@ void measure(Report& report, const Row& row) {
   ork_df_kernel_DeleteTask(&task);
   if (code != 0) return report.line(format("%s: code %d", row.name, code));
 
-  std::string line = format("%c %-20s %4d %-8s %-5s %8.2f", Api<T>::letter, row.name, row.ny,
-                            uniform ? "uniform" : "free", row.yhint == ORK_DF_COLS ? "cols" : "rows", cycles);
-  line += row.bound > 0 ? format(" %6.0f %-4s", row.bound, cycles <= row.bound ? "met" : "MISS") : "            ";
+  std::string line =
+      format("%c %-20s %4d %-8s %-5s %8.2f", Api<T>::letter, row.name, row.ny,
+             uniform ? "uniform" : "free", row.yhint == ORK_DF_COLS ? "cols" : "rows", cycles);
+  line += row.bound > 0 ? format(" %6.0f %-4s", row.bound, cycles <= row.bound ? "met" : "MISS")
+                        : "            ";
   if (row.peer > 0) line += format(" %8.2f %6.2f", row.peer, row.peer / cycles);
   report.line(line);
 }
@@ -99,7 +109,8 @@ void table(Report& report, Peer peer) {
     const double bound = !bounded ? 0 : ny == 1 ? 45 : 14;
     for (int64_t xhint : {0, 4})
       for (int64_t yhint : {0, 32})
-        measure<T>(report, {"natural, free ends", A::natural, 4, 2, 2, 0, ny, xhint, yhint, bound, peer.cspline});
+        measure<T>(report, {"natural, free ends", A::natural, 4, 2, 2, 0, ny, xhint, yhint, bound,
+                            peer.cspline});
     const Row rows[] = {
         {"natural, not-a-knot", A::natural, 4, 2, 1, 0, ny, 0, 0, bound, peer.cspline},
         {"linear", A::linear, 2, 0, 0, 0, ny, 0, 0, 0, 0},

@@ -25,16 +25,39 @@ struct Peer {
   const char* c_name;      // of the double form in the C library; the single form has an f more
   const char* sleef_name;  // "exp" of Sleef_expd2_u10sse2
 };
-const Peer peers[] = {
-    {"Exp", "exp", "exp"}, {"Expm1", "expm1", "expm1"}, {"Ln", "log", "log"}, {"Log10", "log10", "log10"},
-    {"Log1p", "log1p", "log1p"}, {"Sqrt", "sqrt", "sqrt"}, {"Cbrt", "cbrt", "cbrt"}, {"Sin", "sin", "sin"},
-    {"Cos", "cos", "cos"}, {"Tan", "tan", "tan"}, {"SinCos", "sincos", "sincos"}, {"Pow", "pow", "pow"},
-    {"Hypot", "hypot", "hypot"}, {"Asin", "asin", "asin"}, {"Acos", "acos", "acos"}, {"Atan", "atan", "atan"},
-    {"Atan2", "atan2", "atan2"}, {"Sinh", "sinh", "sinh"}, {"Cosh", "cosh", "cosh"}, {"Tanh", "tanh", "tanh"},
-    {"Asinh", "asinh", "asinh"}, {"Acosh", "acosh", "acosh"}, {"Atanh", "atanh", "atanh"}, {"Erf", "erf", "erf"},
-    {"Erfc", "erfc", "erfc"}, {"LGamma", "lgamma", "lgamma"}, {"TGamma", "tgamma", "tgamma"},
-    {"Floor", "floor", "floor"}, {"Ceil", "ceil", "ceil"}, {"Trunc", "trunc", "trunc"}, {"Round", "round", "round"},
-    {"Rint", "rint", "rint"}, {"NearbyInt", "nearbyint", "rint"}};
+const Peer peers[] = {{"Exp", "exp", "exp"},
+                      {"Expm1", "expm1", "expm1"},
+                      {"Ln", "log", "log"},
+                      {"Log10", "log10", "log10"},
+                      {"Log1p", "log1p", "log1p"},
+                      {"Sqrt", "sqrt", "sqrt"},
+                      {"Cbrt", "cbrt", "cbrt"},
+                      {"Sin", "sin", "sin"},
+                      {"Cos", "cos", "cos"},
+                      {"Tan", "tan", "tan"},
+                      {"SinCos", "sincos", "sincos"},
+                      {"Pow", "pow", "pow"},
+                      {"Hypot", "hypot", "hypot"},
+                      {"Asin", "asin", "asin"},
+                      {"Acos", "acos", "acos"},
+                      {"Atan", "atan", "atan"},
+                      {"Atan2", "atan2", "atan2"},
+                      {"Sinh", "sinh", "sinh"},
+                      {"Cosh", "cosh", "cosh"},
+                      {"Tanh", "tanh", "tanh"},
+                      {"Asinh", "asinh", "asinh"},
+                      {"Acosh", "acosh", "acosh"},
+                      {"Atanh", "atanh", "atanh"},
+                      {"Erf", "erf", "erf"},
+                      {"Erfc", "erfc", "erfc"},
+                      {"LGamma", "lgamma", "lgamma"},
+                      {"TGamma", "tgamma", "tgamma"},
+                      {"Floor", "floor", "floor"},
+                      {"Ceil", "ceil", "ceil"},
+                      {"Trunc", "trunc", "trunc"},
+                      {"Round", "round", "round"},
+                      {"Rint", "rint", "rint"},
+                      {"NearbyInt", "nearbyint", "rint"}};
 
 void* libm() {
   static void* library = dlopen("libm.so.6", RTLD_NOW);
@@ -45,21 +68,25 @@ void* sleef() {
   return library;
 }
 
-template <class T> struct Width;
-template <> struct Width<double> {
+template <class T>
+struct Width;
+template <>
+struct Width<double> {
   using vec = __m128d;
   static constexpr char letter = 'd';
   static vec load(const double* p) { return _mm_load_pd(p); }
   static void store(double* p, vec x) { _mm_store_pd(p, x); }
 };
-template <> struct Width<float> {
+template <>
+struct Width<float> {
   using vec = __m128;
   static constexpr char letter = 's';
   static vec load(const float* p) { return _mm_load_ps(p); }
   static void store(float* p, vec x) { _mm_store_ps(p, x); }
 };
 
-template <class T> struct Bench {
+template <class T>
+struct Bench {
   using vec = typename Width<T>::vec;
   static constexpr int width = 16 / sizeof(T);
   alignas(64) T a[n], b[n], r[n], r2[n];
@@ -70,7 +97,8 @@ template <class T> struct Bench {
       state = state * 6364136223846793005u + 1442695040888963407u;
       return T(low + (high - low) * double(state >> 11) * 0x1p-53);
     };
-    for (int i = 0; i < n; ++i) a[i] = next(range.low, range.high), b[i] = next(range.low2, range.high2);
+    for (int i = 0; i < n; ++i)
+      a[i] = next(range.low, range.high), b[i] = next(range.low2, range.high2);
   }
 
   // 0 where there is no such peer.
@@ -81,15 +109,21 @@ template <class T> struct Bench {
     switch (slot.form) {
       case Form::binary: {
         const auto g = reinterpret_cast<T (*)(T, T)>(f);
-        return timed([&] { for (int i = 0; i < n; ++i) r[i] = g(a[i], b[i]); });
+        return timed([&] {
+          for (int i = 0; i < n; ++i) r[i] = g(a[i], b[i]);
+        });
       }
       case Form::two: {
         const auto g = reinterpret_cast<void (*)(T, T*, T*)>(f);
-        return timed([&] { for (int i = 0; i < n; ++i) g(a[i], r + i, r2 + i); });
+        return timed([&] {
+          for (int i = 0; i < n; ++i) g(a[i], r + i, r2 + i);
+        });
       }
       default: {
         const auto g = reinterpret_cast<T (*)(T)>(f);
-        return timed([&] { for (int i = 0; i < n; ++i) r[i] = g(a[i]); });
+        return timed([&] {
+          for (int i = 0; i < n; ++i) r[i] = g(a[i]);
+        });
       }
     }
   }
@@ -99,7 +133,8 @@ template <class T> struct Bench {
     if (!sleef()) return 0;
     void* f = nullptr;
     for (const char* u : accuracies) {
-      const std::string name = std::string("Sleef_") + peer.sleef_name + (sizeof(T) == 8 ? "d2" : "f4") + u + "sse2";
+      const std::string name =
+          std::string("Sleef_") + peer.sleef_name + (sizeof(T) == 8 ? "d2" : "f4") + u + "sse2";
       if (!f) f = dlsym(sleef(), name.c_str());
     }
     if (!f) return 0;
@@ -107,33 +142,48 @@ template <class T> struct Bench {
     switch (slot.form) {
       case Form::binary: {
         const auto g = reinterpret_cast<vec (*)(vec, vec)>(f);
-        return time_calls([&] { for (int i = 0; i < n; i += width) W::store(r + i, g(W::load(a + i), W::load(b + i))); }).least / n;
+        return time_calls([&] {
+                 for (int i = 0; i < n; i += width)
+                   W::store(r + i, g(W::load(a + i), W::load(b + i)));
+               }).least /
+               n;
       }
       case Form::two: {
-        struct Pair { vec x, y; };
+        struct Pair {
+          vec x, y;
+        };
         const auto g = reinterpret_cast<Pair (*)(vec)>(f);
         return time_calls([&] {
-          for (int i = 0; i < n; i += width) {
-            const Pair p = g(W::load(a + i));
-            W::store(r + i, p.x), W::store(r2 + i, p.y);
-          }
-        }).least / n;
+                 for (int i = 0; i < n; i += width) {
+                   const Pair p = g(W::load(a + i));
+                   W::store(r + i, p.x), W::store(r2 + i, p.y);
+                 }
+               }).least /
+               n;
       }
       default: {
         const auto g = reinterpret_cast<vec (*)(vec)>(f);
-        return time_calls([&] { for (int i = 0; i < n; i += width) W::store(r + i, g(W::load(a + i))); }).least / n;
+        return time_calls([&] {
+                 for (int i = 0; i < n; i += width) W::store(r + i, g(W::load(a + i)));
+               }).least /
+               n;
       }
     }
   }
 
   // The obvious SSE2 loop, in the forms of the kernels that it stands beside.
-  template <class Op> static void loop(int count, const T* x, const T* y, T* z) {
+  template <class Op>
+  static void loop(int count, const T* x, const T* y, T* z) {
     using W = Width<T>;
     for (int i = 0; i < count; i += 4 * width)
 #pragma GCC unroll 4
-      for (int k = i; k < i + 4 * width; k += width) W::store(z + k, Op()(W::load(x + k), W::load(y + k)));
+      for (int k = i; k < i + 4 * width; k += width)
+        W::store(z + k, Op()(W::load(x + k), W::load(y + k)));
   }
-  template <class Op> static void square(int count, const T* x, T* z) { loop<Op>(count, x, x, z); }
+  template <class Op>
+  static void square(int count, const T* x, T* z) {
+    loop<Op>(count, x, x, z);
+  }
 
   // For Add, Sub, Mul and Sqr, called as the kernels are: through a table; 0 for others.
   double hand_written(const Slot& slot) {
@@ -157,10 +207,12 @@ template <class T> struct Bench {
 };
 
 std::string ratio(double cycles, double ours) {
-  return cycles == 0 ? std::string("      -       ") : format("%6.2f (%5.2f)", cycles, cycles / ours);
+  return cycles == 0 ? std::string("      -       ")
+                     : format("%6.2f (%5.2f)", cycles, cycles / ours);
 }
 
-template <class T> void run(Report& report, const Claims& claims, const Slot& slot) {
+template <class T>
+void run(Report& report, const Claims& claims, const Slot& slot) {
   static Bench<T> bench;
   const std::string name = slot.type + std::string(slot.function);
   const auto range = claims.bench.find(name);
@@ -179,7 +231,8 @@ template <class T> void run(Report& report, const Claims& claims, const Slot& sl
     const Call<T> call{&slot, level};
     const Cycles cycles = time_calls([&] { call(n, bench.a, bench.b, bench.r, bench.r2); }, 4000);
     const double ours = cycles.least / n;
-    report.line(format("%-18s %7.2f %7.2f  %7.2f  ", slot.name(level).c_str(), ours, cycles.median / n, double(slot.costs[level])) +
+    report.line(format("%-18s %7.2f %7.2f  %7.2f  ", slot.name(level).c_str(), ours,
+                       cycles.median / n, double(slot.costs[level])) +
                 ratio(hand, ours) + ratio(fine, ours) + ratio(coarse, ours) + ratio(c, ours));
   }
 }
@@ -188,7 +241,9 @@ void short_calls(Report& report) {
   alignas(16) double a[8] = {1, 2, 3, 4, 5, 6, 7, 8}, r[8];
   const double empty = time_calls([] { asm volatile("" : : : "memory"); }, 100000).least;
   const Cycles add = time_calls([&] { _zemdAdd(8, a, a, r); }, 100000);
-  report.line(format("dAdd of 8 elements through a stub: %.0f cycles a call (an empty timing: %.0f)", add.least - empty, empty));
+  report.line(
+      format("dAdd of 8 elements through a stub: %.0f cycles a call (an empty timing: %.0f)",
+             add.least - empty, empty));
 }
 
 }  // namespace
@@ -197,9 +252,12 @@ int main(int argc, char** argv) {
   Report report("kernels", argc, argv);
   const Claims claims = read_claims(report.root());
   if (!sleef()) report.line("SLEEF for i386 is not installed: its columns are empty");
-  report.line(format("%-18s %7s %7s  %7s  %-14s%-14s%-14s%-14s", "kernel", "least", "median", "cost", " hand (ratio)", " SLEEF 1.0", " SLEEF 3.5", " C library"));
+  report.line(format("%-18s %7s %7s  %7s  %-14s%-14s%-14s%-14s", "kernel", "least", "median",
+                     "cost", " hand (ratio)", " SLEEF 1.0", " SLEEF 3.5", " C library"));
   for (const Slot& slot : slots) {
-    if (slot.form >= Form::pack_i || !(report.wants(slot.function) || report.wants(slot.type + std::string(slot.function)))) continue;
+    if (slot.form >= Form::pack_i ||
+        !(report.wants(slot.function) || report.wants(slot.type + std::string(slot.function))))
+      continue;
     if (slot.type == 'd') run<double>(report, claims, slot);
     if (slot.type == 's') run<float>(report, claims, slot);
   }

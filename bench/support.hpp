@@ -14,7 +14,8 @@
 struct Cycles {
   double least, median;
 };
-template <class F> Cycles time_calls(F f, int runs = 400) {
+template <class F>
+Cycles time_calls(F f, int runs = 400) {
   std::vector<double> times;
   for (int i = 0; i < 3; ++i) f();
   for (int i = 0; i < runs; ++i) {
@@ -34,9 +35,12 @@ class Report {
   Report(const std::string& name, int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
       const std::string word = argv[i];
-      if (word == "--root" && i + 1 < argc) root_ = argv[++i];
-      else if (word == "--record") record_ = true;
-      else names_.push_back(word);
+      if (word == "--root" && i + 1 < argc)
+        root_ = argv[++i];
+      else if (word == "--record")
+        record_ = true;
+      else
+        names_.push_back(word);
     }
     path_ = root_ + "/bench/results/" + name + ".txt";
     line("# " + processor() + ", g++ " __VERSION__ "; time-stamp cycles");
@@ -62,9 +66,12 @@ class Report {
     std::string model = "unknown processor", family, number;
     for (std::string line; std::getline(info, line) && !line.empty();) {
       const auto value = [&] { return line.substr(line.find(':') + 2); };
-      if (line.starts_with("model name")) model = value();
-      else if (line.starts_with("cpu family")) family = value();
-      else if (line.starts_with("model\t")) number = value();
+      if (line.starts_with("model name"))
+        model = value();
+      else if (line.starts_with("cpu family"))
+        family = value();
+      else if (line.starts_with("model\t"))
+        number = value();
     }
     return model + " (family " + family + ", model " + number + ")";
   }
@@ -73,7 +80,8 @@ class Report {
   bool record_ = false;
 };
 
-template <class... A> std::string format(const char* pattern, A... arguments) {
+template <class... A>
+std::string format(const char* pattern, A... arguments) {
   char text[500];
   std::snprintf(text, sizeof text, pattern, arguments...);
   return text;

@@ -72,8 +72,7 @@ int32_t _ruasRngLaplace(int32_t method, RuaStream* stream, int32_t n, float* r, 
 /* a + beta tan(v), v uniform from -pi/2 to pi/2. */
 int32_t _ruadRngCauchy(int32_t method, RuaStream* stream, int32_t n, double* r, double a,
                        double beta);
-int32_t _ruasRngCauchy(int32_t method, RuaStream* stream, int32_t n, float* r, float a,
-                       float beta);
+int32_t _ruasRngCauchy(int32_t method, RuaStream* stream, int32_t n, float* r, float a, float beta);
 
 /* a + beta sqrt(-ln(u)), never below a. */
 int32_t _ruadRngRayleigh(int32_t method, RuaStream* stream, int32_t n, double* r, double a,
@@ -96,8 +95,7 @@ int32_t _ruasRngWeibull(int32_t method, RuaStream* stream, int32_t n, float* r, 
 /* a + beta ln(e), e exponential of scale 1. */
 int32_t _ruadRngGumbel(int32_t method, RuaStream* stream, int32_t n, double* r, double a,
                        double beta);
-int32_t _ruasRngGumbel(int32_t method, RuaStream* stream, int32_t n, float* r, float a,
-                       float beta);
+int32_t _ruasRngGumbel(int32_t method, RuaStream* stream, int32_t n, float* r, float a, float beta);
 
 #ifdef __cplusplus
 }

@@ -40,34 +40,34 @@ typedef struct ork_ss_task ork_ss_task;
 /* ---- Estimates: bits of a 64-bit mask that travels as two words ---------------------------
  *
  * W is the sum of weights, W2 the sum of their squares; without weights both are n. */
-#define ORK_SS_MEAN (1ull << 0)           /* sum w x / W */
-#define ORK_SS_RAW2 (1ull << 1)           /* sum w x^2 / W */
+#define ORK_SS_MEAN (1ull << 0) /* sum w x / W */
+#define ORK_SS_RAW2 (1ull << 1) /* sum w x^2 / W */
 #define ORK_SS_RAW3 (1ull << 2)
 #define ORK_SS_RAW4 (1ull << 3)
-#define ORK_SS_CENTRAL2 (1ull << 4)       /* M2 W / (W^2 - W2), with Mk = sum w (x - mean)^k */
-#define ORK_SS_CENTRAL3 (1ull << 5)       /* M3 / W */
-#define ORK_SS_CENTRAL4 (1ull << 6)       /* M4 / W */
-#define ORK_SS_KURTOSIS (1ull << 7)       /* central4 / central2^2 - 3 */
-#define ORK_SS_SKEWNESS (1ull << 8)       /* central3 / sqrt(central2^3) */
-#define ORK_SS_VARIATION (1ull << 9)      /* sqrt(central2) / mean */
-#define ORK_SS_MIN (1ull << 10)           /* in and out: the array holds the values to start from */
+#define ORK_SS_CENTRAL2 (1ull << 4)  /* M2 W / (W^2 - W2), with Mk = sum w (x - mean)^k */
+#define ORK_SS_CENTRAL3 (1ull << 5)  /* M3 / W */
+#define ORK_SS_CENTRAL4 (1ull << 6)  /* M4 / W */
+#define ORK_SS_KURTOSIS (1ull << 7)  /* central4 / central2^2 - 3 */
+#define ORK_SS_SKEWNESS (1ull << 8)  /* central3 / sqrt(central2^3) */
+#define ORK_SS_VARIATION (1ull << 9) /* sqrt(central2) / mean */
+#define ORK_SS_MIN (1ull << 10)      /* in and out: the array holds the values to start from */
 #define ORK_SS_MAX (1ull << 11)
-#define ORK_SS_COV (1ull << 12)           /* cross-product / (W - W2 / W) */
-#define ORK_SS_COR (1ull << 13)           /* correlations; the diagonal holds the variances */
-#define ORK_SS_POOLED_COV (1ull << 14)    /* pooled mean and covariance */
-#define ORK_SS_GROUP_COV (1ull << 15)     /* mean and covariance of each group asked for */
+#define ORK_SS_COV (1ull << 12)        /* cross-product / (W - W2 / W) */
+#define ORK_SS_COR (1ull << 13)        /* correlations; the diagonal holds the variances */
+#define ORK_SS_POOLED_COV (1ull << 14) /* pooled mean and covariance */
+#define ORK_SS_GROUP_COV (1ull << 15)  /* mean and covariance of each group asked for */
 #define ORK_SS_QUANTILES (1ull << 16)
 #define ORK_SS_ORDER_STATS (1ull << 17)
 #define ORK_SS_PARTIAL_COV (1ull << 20)
 #define ORK_SS_PARTIAL_COR (1ull << 21)
-#define ORK_SS_SUM (1ull << 25)           /* sum w x */
-#define ORK_SS_SUM2 (1ull << 26)          /* sum w x^2 */
+#define ORK_SS_SUM (1ull << 25)  /* sum w x */
+#define ORK_SS_SUM2 (1ull << 26) /* sum w x^2 */
 #define ORK_SS_SUM3 (1ull << 27)
 #define ORK_SS_SUM4 (1ull << 28)
-#define ORK_SS_CENTRAL_SUM2 (1ull << 29)  /* M2 */
+#define ORK_SS_CENTRAL_SUM2 (1ull << 29) /* M2 */
 #define ORK_SS_CENTRAL_SUM3 (1ull << 30)
 #define ORK_SS_CENTRAL_SUM4 (1ull << 31)
-#define ORK_SS_CROSS_PRODUCT (1ull << 32) /* sum w (x - mean) (x - mean)' */
+#define ORK_SS_CROSS_PRODUCT (1ull << 32)  /* sum w (x - mean) (x - mean)' */
 #define ORK_SS_MEDIAN_ABS_DEV (1ull << 33) /* median of |x - median| */
 #define ORK_SS_MEAN_ABS_DEV (1ull << 34)   /* mean of |x - mean| */
 
@@ -152,7 +152,7 @@ typedef struct ork_ss_task ork_ss_task;
 #define ORK_SS_NOTHING_TO_IMPUTE (-4060) /* neither simulated values nor estimates asked for */
 #define ORK_SS_NULL_PRIOR_COUNT (-4061)
 #define ORK_SS_NULL_PRIOR (-4062)
-#define ORK_SS_BAD_MISSING_COUNT (-4063)     /* differs from what the matrix has */
+#define ORK_SS_BAD_MISSING_COUNT (-4063)       /* differs from what the matrix has */
 #define ORK_SS_NULL_STREAM_PARAM_COUNT (-4064) /* in a computation */
 #define ORK_SS_NULL_STREAM_PARAMS (-4065)
 #define ORK_SS_BAD_STREAM_PARAM_COUNT (-4066) /* not 1, or null when edited */
@@ -174,17 +174,17 @@ typedef struct ork_ss_task ork_ss_task;
 #define ORK_SS_NULL_MEDIAN_ABS_DEV (-4082)
 #define ORK_SS_NULL_MEAN_ABS_DEV (-4083)
 /* A routine of the dense layer, or a generator, failed: */
-#define ORK_SS_ROBUST_EIGEN (-5000)         /* packed eigensolver, robust covariance */
-#define ORK_SS_PARTIAL_CHOLESKY (-5010)     /* factorisation, partial covariance */
+#define ORK_SS_ROBUST_EIGEN (-5000)     /* packed eigensolver, robust covariance */
+#define ORK_SS_PARTIAL_CHOLESKY (-5010) /* factorisation, partial covariance */
 #define ORK_SS_PARTIAL_INVERSE (-5011)
-#define ORK_SS_IMPUTE_CHOLESKY (-5021)      /* factorisation, imputation step */
-#define ORK_SS_IMPUTE_GAUSSIAN_MV (-5022)   /* multivariate Gaussian numbers */
-#define ORK_SS_POSTERIOR_GAUSSIAN (-5023)   /* Gaussian numbers, posterior step */
+#define ORK_SS_IMPUTE_CHOLESKY (-5021)    /* factorisation, imputation step */
+#define ORK_SS_IMPUTE_GAUSSIAN_MV (-5022) /* multivariate Gaussian numbers */
+#define ORK_SS_POSTERIOR_GAUSSIAN (-5023) /* Gaussian numbers, posterior step */
 #define ORK_SS_POSTERIOR_CHOLESKY (-5024)
 #define ORK_SS_POSTERIOR_INVERSE (-5025)
-#define ORK_SS_PARAM_EIGEN (-5030)          /* eigensolver, repair of correlation matrices */
-#define ORK_SS_RANK_EIGEN (-5040)           /* eigensolver, rank test */
-#define ORK_SS_INV_COV_CHOLESKY (-5041)     /* factorisation, inverse covariance */
+#define ORK_SS_PARAM_EIGEN (-5030)      /* eigensolver, repair of correlation matrices */
+#define ORK_SS_RANK_EIGEN (-5040)       /* eigensolver, rank test */
+#define ORK_SS_INV_COV_CHOLESKY (-5041) /* factorisation, inverse covariance */
 #define ORK_SS_INV_COV_INVERSE (-5042)
 
 /* ---- Life of a task --------------------------------------------------------------------- */
@@ -219,64 +219,64 @@ int32_t __ruasSSEditTask(ork_ss_task* task, int64_t code, const float* value);
 int32_t __ruaiSSEditTask(ork_ss_task* task, int64_t code, const void* value);
 
 /* Codes; the comment gives the length of arrays, and (int) marks those of the i form. */
-#define ORK_SS_EDIT_DIMENSION 1              /* (int) p */
-#define ORK_SS_EDIT_OBSERVATION_COUNT 2      /* (int) n */
-#define ORK_SS_EDIT_OBSERVATIONS 3           /* p n */
-#define ORK_SS_EDIT_STORAGE_FORMAT 4         /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
-#define ORK_SS_EDIT_VARIABLE_MASK 5          /* (int) p */
-#define ORK_SS_EDIT_WEIGHTS 6                /* n */
-#define ORK_SS_EDIT_MEAN 7                   /* p; in the two-pass method an input */
-#define ORK_SS_EDIT_RAW2 8                   /* p */
-#define ORK_SS_EDIT_RAW3 9                   /* p */
-#define ORK_SS_EDIT_RAW4 10                  /* p */
-#define ORK_SS_EDIT_CENTRAL2 11              /* p */
-#define ORK_SS_EDIT_CENTRAL3 12              /* p */
-#define ORK_SS_EDIT_CENTRAL4 13              /* p */
-#define ORK_SS_EDIT_KURTOSIS 14              /* p */
-#define ORK_SS_EDIT_SKEWNESS 15              /* p */
-#define ORK_SS_EDIT_MIN 16                   /* p */
-#define ORK_SS_EDIT_MAX 17                   /* p */
-#define ORK_SS_EDIT_VARIATION 18             /* p */
-#define ORK_SS_EDIT_COV 19                   /* p p, or packed */
-#define ORK_SS_EDIT_COV_STORAGE 20           /* (int) ORK_SS_FULL, _LOWER_PACKED, _UPPER_PACKED */
-#define ORK_SS_EDIT_COR 21                   /* p p, or packed */
-#define ORK_SS_EDIT_COR_STORAGE 22           /* (int) */
-#define ORK_SS_EDIT_ACCUMULATED_WEIGHT 23    /* 2: W and W2 so far, {0, 0} to begin */
-#define ORK_SS_EDIT_QUANTILE_COUNT 24        /* (int) */
-#define ORK_SS_EDIT_QUANTILE_ORDERS 25       /* quantileCount, each in [0, 1] */
-#define ORK_SS_EDIT_QUANTILES 26             /* quantileCount for each variable processed */
-#define ORK_SS_EDIT_ORDER_STATS 27           /* p n */
-#define ORK_SS_EDIT_GROUP_INDEX 28           /* (int) n, each 0 or more */
-#define ORK_SS_EDIT_POOLED_COV_STORAGE 29    /* (int) */
-#define ORK_SS_EDIT_POOLED_MEAN 30           /* p */
-#define ORK_SS_EDIT_POOLED_COV 31            /* p p, or packed */
-#define ORK_SS_EDIT_GROUP_REQUEST 32         /* (int) 0 or 1 for each group */
-#define ORK_SS_EDIT_GROUP_MEANS 33           /* p for each group asked for */
-#define ORK_SS_EDIT_GROUP_COV_STORAGE 34     /* (int) */
-#define ORK_SS_EDIT_GROUP_COV 35             /* one matrix for each group asked for */
-#define ORK_SS_EDIT_ROBUST_COV_STORAGE 36    /* (int) */
-#define ORK_SS_EDIT_ROBUST_PARAM_COUNT 37    /* (int) */
+#define ORK_SS_EDIT_DIMENSION 1           /* (int) p */
+#define ORK_SS_EDIT_OBSERVATION_COUNT 2   /* (int) n */
+#define ORK_SS_EDIT_OBSERVATIONS 3        /* p n */
+#define ORK_SS_EDIT_STORAGE_FORMAT 4      /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
+#define ORK_SS_EDIT_VARIABLE_MASK 5       /* (int) p */
+#define ORK_SS_EDIT_WEIGHTS 6             /* n */
+#define ORK_SS_EDIT_MEAN 7                /* p; in the two-pass method an input */
+#define ORK_SS_EDIT_RAW2 8                /* p */
+#define ORK_SS_EDIT_RAW3 9                /* p */
+#define ORK_SS_EDIT_RAW4 10               /* p */
+#define ORK_SS_EDIT_CENTRAL2 11           /* p */
+#define ORK_SS_EDIT_CENTRAL3 12           /* p */
+#define ORK_SS_EDIT_CENTRAL4 13           /* p */
+#define ORK_SS_EDIT_KURTOSIS 14           /* p */
+#define ORK_SS_EDIT_SKEWNESS 15           /* p */
+#define ORK_SS_EDIT_MIN 16                /* p */
+#define ORK_SS_EDIT_MAX 17                /* p */
+#define ORK_SS_EDIT_VARIATION 18          /* p */
+#define ORK_SS_EDIT_COV 19                /* p p, or packed */
+#define ORK_SS_EDIT_COV_STORAGE 20        /* (int) ORK_SS_FULL, _LOWER_PACKED, _UPPER_PACKED */
+#define ORK_SS_EDIT_COR 21                /* p p, or packed */
+#define ORK_SS_EDIT_COR_STORAGE 22        /* (int) */
+#define ORK_SS_EDIT_ACCUMULATED_WEIGHT 23 /* 2: W and W2 so far, {0, 0} to begin */
+#define ORK_SS_EDIT_QUANTILE_COUNT 24     /* (int) */
+#define ORK_SS_EDIT_QUANTILE_ORDERS 25    /* quantileCount, each in [0, 1] */
+#define ORK_SS_EDIT_QUANTILES 26          /* quantileCount for each variable processed */
+#define ORK_SS_EDIT_ORDER_STATS 27        /* p n */
+#define ORK_SS_EDIT_GROUP_INDEX 28        /* (int) n, each 0 or more */
+#define ORK_SS_EDIT_POOLED_COV_STORAGE 29 /* (int) */
+#define ORK_SS_EDIT_POOLED_MEAN 30        /* p */
+#define ORK_SS_EDIT_POOLED_COV 31         /* p p, or packed */
+#define ORK_SS_EDIT_GROUP_REQUEST 32      /* (int) 0 or 1 for each group */
+#define ORK_SS_EDIT_GROUP_MEANS 33        /* p for each group asked for */
+#define ORK_SS_EDIT_GROUP_COV_STORAGE 34  /* (int) */
+#define ORK_SS_EDIT_GROUP_COV 35          /* one matrix for each group asked for */
+#define ORK_SS_EDIT_ROBUST_COV_STORAGE 36 /* (int) */
+#define ORK_SS_EDIT_ROBUST_PARAM_COUNT 37 /* (int) */
 #define ORK_SS_EDIT_ROBUST_PARAMS 38
-#define ORK_SS_EDIT_ROBUST_MEAN 39           /* p */
-#define ORK_SS_EDIT_ROBUST_COV 40            /* p p, or packed */
-#define ORK_SS_EDIT_OUTLIER_PARAM_COUNT 41   /* (int) */
+#define ORK_SS_EDIT_ROBUST_MEAN 39         /* p */
+#define ORK_SS_EDIT_ROBUST_COV 40          /* p p, or packed */
+#define ORK_SS_EDIT_OUTLIER_PARAM_COUNT 41 /* (int) */
 #define ORK_SS_EDIT_OUTLIER_PARAMS 42
-#define ORK_SS_EDIT_OUTLIER_WEIGHTS 43       /* n: 0 marks an outlier */
-#define ORK_SS_EDIT_ORDER_STATS_STORAGE 44   /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
-#define ORK_SS_EDIT_PARTIAL_INDEX 45         /* (int) p: 1 of the result, -1 conditioned on */
+#define ORK_SS_EDIT_OUTLIER_WEIGHTS 43     /* n: 0 marks an outlier */
+#define ORK_SS_EDIT_ORDER_STATS_STORAGE 44 /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
+#define ORK_SS_EDIT_PARTIAL_INDEX 45       /* (int) p: 1 of the result, -1 conditioned on */
 #define ORK_SS_EDIT_PARTIAL_COV 46
-#define ORK_SS_EDIT_PARTIAL_COV_STORAGE 47   /* (int) */
+#define ORK_SS_EDIT_PARTIAL_COV_STORAGE 47 /* (int) */
 #define ORK_SS_EDIT_PARTIAL_COR 48
-#define ORK_SS_EDIT_PARTIAL_COR_STORAGE 49   /* (int) */
-#define ORK_SS_EDIT_MISSING_PARAM_COUNT 50   /* (int) 5 */
+#define ORK_SS_EDIT_PARTIAL_COR_STORAGE 49 /* (int) */
+#define ORK_SS_EDIT_MISSING_PARAM_COUNT 50 /* (int) 5 */
 #define ORK_SS_EDIT_MISSING_PARAMS 51
-#define ORK_SS_EDIT_INIT_ESTIMATE_COUNT 52   /* (int) */
+#define ORK_SS_EDIT_INIT_ESTIMATE_COUNT 52 /* (int) */
 #define ORK_SS_EDIT_INIT_ESTIMATES 53
-#define ORK_SS_EDIT_SIMULATED_COUNT 54       /* (int) */
+#define ORK_SS_EDIT_SIMULATED_COUNT 54 /* (int) */
 #define ORK_SS_EDIT_SIMULATED 55
-#define ORK_SS_EDIT_ESTIMATE_COUNT 56        /* (int) */
+#define ORK_SS_EDIT_ESTIMATE_COUNT 56 /* (int) */
 #define ORK_SS_EDIT_ESTIMATES 57
-#define ORK_SS_EDIT_PRIOR_COUNT 58           /* (int) */
+#define ORK_SS_EDIT_PRIOR_COUNT 58 /* (int) */
 #define ORK_SS_EDIT_PRIOR 59
 #define ORK_SS_EDIT_PARAM_COR 60             /* p p, or packed */
 #define ORK_SS_EDIT_PARAM_COR_STORAGE 61     /* (int) */
@@ -333,8 +333,8 @@ int32_t __ruadSSEditQuantiles(ork_ss_task* task, const void* quantileCount,
                               const double* quantileOrders, double* quantiles,
                               double* orderStatistics, const void* orderStatisticsStorage);
 int32_t __ruasSSEditQuantiles(ork_ss_task* task, const void* quantileCount,
-                              const float* quantileOrders, float* quantiles,
-                              float* orderStatistics, const void* orderStatisticsStorage);
+                              const float* quantileOrders, float* quantiles, float* orderStatistics,
+                              const void* orderStatisticsStorage);
 int32_t __ruadSSEditStreamQuantiles(ork_ss_task* task, const void* streamOrderCount,
                                     const double* streamOrders, double* streamQuantiles,
                                     const void* streamParamCount, const double* streamParams);
@@ -349,8 +349,8 @@ int32_t __ruadSSEditRCov(ork_ss_task* task, const void* robustCovStorage,
                          const void* robustParamCount, const double* robustParams,
                          double* robustMean, double* robustCov);
 int32_t __ruasSSEditRCov(ork_ss_task* task, const void* robustCovStorage,
-                         const void* robustParamCount, const float* robustParams,
-                         float* robustMean, float* robustCov);
+                         const void* robustParamCount, const float* robustParams, float* robustMean,
+                         float* robustCov);
 int32_t __ruadSSEditMissingVals(ork_ss_task* task, const void* missingParamCount,
                                 const double* missingParams, const void* initEstimateCount,
                                 const double* initEstimates, const void* priorCount,

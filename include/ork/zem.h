@@ -70,10 +70,10 @@ int ork_zem_kernel_GetTTableIndexM(uint32_t unused, uint32_t mode);
 /* ---- Statuses --------------------------------------------------------------------------- */
 
 #define ZEM_STATUS_NONE 0
-#define ZEM_STATUS_DOMAIN 1      /* the element lies outside the domain; the result is a NaN */
-#define ZEM_STATUS_SINGULARITY 2 /* a pole; the result is an infinity */
-#define ZEM_STATUS_OVERFLOW 3    /* a finite element whose result is too large for the type */
-#define ZEM_STATUS_UNDERFLOW 4   /* a result too small for the type */
+#define ZEM_STATUS_DOMAIN 1          /* the element lies outside the domain; the result is a NaN */
+#define ZEM_STATUS_SINGULARITY 2     /* a pole; the result is an infinity */
+#define ZEM_STATUS_OVERFLOW 3        /* a finite element whose result is too large for the type */
+#define ZEM_STATUS_UNDERFLOW 4       /* a result too small for the type */
 #define ZEM_STATUS_BAD_ARGUMENT (-1) /* raised by a public layer: `index` says which argument */
 #define ZEM_STATUS_BAD_ACCESS (-2)   /* raised by a public layer */
 

@@ -51,8 +51,7 @@ int solve_pivoting(int n, int nrhs, R* dl, R* d, R* du, R* b, int ldb) {
 template <class R>
 bool dominated(int n, const R* dl, const R* d, const R* du) {
   bool yes = true;
-  for (int i = 1; i + 1 < n; ++i)
-    yes &= std::fabs(d[i]) >= std::fabs(dl[i - 1]) + std::fabs(du[i]);
+  for (int i = 1; i + 1 < n; ++i) yes &= std::fabs(d[i]) >= std::fabs(dl[i - 1]) + std::fabs(du[i]);
   const int m = n - 2;
   return yes && std::fabs(dl[0]) <= std::fabs(d[0]) && std::fabs(du[m]) <= std::fabs(d[m + 1]) &&
          std::fabs(d[1] - dl[0] * du[0] / d[0]) >= std::fabs(du[1]) &&
@@ -156,7 +155,7 @@ using namespace ork::dense;
   ORK_OUTER void t##dtsvb_4dfl(const int* n, const int* nrhs, R* dl, R* d, R* du, R* b,        \
                                const int* ldb, int* info) {                                    \
     *info = *n < 0 ? -1 : *nrhs < 0 ? -2 : !ld_ok(*ldb, *n) ? -7 : 0;                          \
-    if (*info == 0) *info = solve(*n, *nrhs, dl, d, du, b, *ldb);                     \
+    if (*info == 0) *info = solve(*n, *nrhs, dl, d, du, b, *ldb);                              \
   }                                                                                            \
   ORK_OUTER void t##dttrfb_4dfl(const int* n, R* dl, R* d, R* du, int* info) {                 \
     *info = *n < 0 ? -1 : factor(*n, dl, d, du);                                               \

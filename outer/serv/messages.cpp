@@ -14,22 +14,22 @@ struct Message {
 
 constexpr int first_number = 735;
 constexpr Message catalogue[] = {
-    {2, "%s: argument %d was rejected"},           // 735
-    {1, "%s: an argument was rejected"},           // 736
+    {2, "%s: argument %d was rejected"},                // 735
+    {1, "%s: an argument was rejected"},                // 736
     {1, "%s: argument outside the function's domain"},  // 737
-    {1, "%s: the function has a pole here"},       // 738
-    {1, "%s: the result overflows"},               // 739
-    {1, "%s: the result underflows"},              // 740
-    {1, "%s: unlisted status"},                    // 741
-    {2, "  element %d: argument %.17g"},           // 742, 743: one argument, one result
+    {1, "%s: the function has a pole here"},            // 738
+    {1, "%s: the result overflows"},                    // 739
+    {1, "%s: the result underflows"},                   // 740
+    {1, "%s: unlisted status"},                         // 741
+    {2, "  element %d: argument %.17g"},                // 742, 743: one argument, one result
     {2, "  element %d: result %.17g"},
-    {2, "  element %d: argument %.17g"},           // 744 to 746: one argument, two results
+    {2, "  element %d: argument %.17g"},  // 744 to 746: one argument, two results
     {2, "  element %d: first result %.17g"},
     {2, "  element %d: second result %.17g"},
-    {2, "  element %d: first argument %.17g"},     // 747 to 749: two arguments, one result
+    {2, "  element %d: first argument %.17g"},  // 747 to 749: two arguments, one result
     {2, "  element %d: second argument %.17g"},
     {2, "  element %d: result %.17g"},
-    {2, "  element %d: first argument %.17g"},     // 750 to 753: two arguments, two results
+    {2, "  element %d: first argument %.17g"},  // 750 to 753: two arguments, two results
     {2, "  element %d: second argument %.17g"},
     {2, "  element %d: first result %.17g"},
     {2, "  element %d: second result %.17g"},

@@ -24,20 +24,20 @@ TEST(ConstructionThreads, LaunchesAsDocumentedWithTheSameBits) {
     int64_t bc;
     int nx, ny, threads, launched, on;  // launched 0: stays on the calling thread
   } rows[] = {
-      {Kind::linear, 0, 63, 2, 8, 0, 0},      {Kind::linear, 0, 64, 2, 8, 0, 0},
-      {Kind::linear, 64, 4097, 1, 8, 0, 0},   {Kind::linear, 64, 4098, 1, 8, 5, 5},
-      {Kind::linear, 0, 1025, 17, 3, 5, 3},   {Kind::linear, 0, 1026, 17, 3, 10, 3},
-      {Kind::natural, 2, 600, 2, 2, 2, 2},    {Kind::natural, 2, 600, 3, 8, 3, 3},
-      {Kind::natural, 64, 599, 9, 7, 0, 0},   {Kind::natural, 64, 599, 9, 8, 9, 8},
-      {Kind::natural, 1, 299, 8, 8, 0, 0},    {Kind::natural, 1, 300, 8, 8, 8, 8},
-      {Kind::natural, 36, 300, 7, 8, 0, 0},   {Kind::natural, 36, 1000, 1, 8, 0, 0},
-      {Kind::natural, 64, 1000, 5, 1, 0, 0},  {Kind::natural, 64, 1001, 5, 4, 5, 4},
-      {Kind::hermite, 2, 511, 1, 8, 0, 0},    {Kind::hermite, 2, 512, 1, 8, 1, 1},
-      {Kind::hermite, 64, 2051, 1, 8, 1, 1},  {Kind::hermite, 1, 2052, 5, 3, 4, 3},
-      {Kind::bessel, 64, 2051, 4, 8, 1, 1},   {Kind::bessel, 1, 2052, 9, 8, 6, 6},
-      {Kind::bessel, 24, 127, 4, 8, 0, 0},    {Kind::bessel, 24, 128, 5, 8, 2, 2},
-      {Kind::akima, 0, 2053, 1, 8, 1, 1},     {Kind::akima, 64, 2054, 5, 2, 4, 2},
-      {Kind::akima, 1, 4102, 1, 8, 3, 3},     {Kind::akima, 48, 101, 5, 8, 0, 0},
+      {Kind::linear, 0, 63, 2, 8, 0, 0},     {Kind::linear, 0, 64, 2, 8, 0, 0},
+      {Kind::linear, 64, 4097, 1, 8, 0, 0},  {Kind::linear, 64, 4098, 1, 8, 5, 5},
+      {Kind::linear, 0, 1025, 17, 3, 5, 3},  {Kind::linear, 0, 1026, 17, 3, 10, 3},
+      {Kind::natural, 2, 600, 2, 2, 2, 2},   {Kind::natural, 2, 600, 3, 8, 3, 3},
+      {Kind::natural, 64, 599, 9, 7, 0, 0},  {Kind::natural, 64, 599, 9, 8, 9, 8},
+      {Kind::natural, 1, 299, 8, 8, 0, 0},   {Kind::natural, 1, 300, 8, 8, 8, 8},
+      {Kind::natural, 36, 300, 7, 8, 0, 0},  {Kind::natural, 36, 1000, 1, 8, 0, 0},
+      {Kind::natural, 64, 1000, 5, 1, 0, 0}, {Kind::natural, 64, 1001, 5, 4, 5, 4},
+      {Kind::hermite, 2, 511, 1, 8, 0, 0},   {Kind::hermite, 2, 512, 1, 8, 1, 1},
+      {Kind::hermite, 64, 2051, 1, 8, 1, 1}, {Kind::hermite, 1, 2052, 5, 3, 4, 3},
+      {Kind::bessel, 64, 2051, 4, 8, 1, 1},  {Kind::bessel, 1, 2052, 9, 8, 6, 6},
+      {Kind::bessel, 24, 127, 4, 8, 0, 0},   {Kind::bessel, 24, 128, 5, 8, 2, 2},
+      {Kind::akima, 0, 2053, 1, 8, 1, 1},    {Kind::akima, 64, 2054, 5, 2, 4, 2},
+      {Kind::akima, 1, 4102, 1, 8, 3, 3},    {Kind::akima, 48, 101, 5, 8, 0, 0},
   };
   for (const auto& row : rows)
     for (int64_t layout : {0, 4, 32, 36}) {
@@ -64,7 +64,8 @@ TEST(ConstructionThreads, FunctionsDoNotDependOnEachOther) {
           for (int i = 0; i < nx; ++i) one.y[i] = many.value(f, i);
           ASSERT_EQ(one.build(), 0);
           for (size_t j = 0; j < one.coeffs.size(); ++j)
-            ASSERT_NEAR(one.coeffs[j], many.piece(f, 0)[j], 1e-12) << many.name() << " " << f << " " << j;
+            ASSERT_NEAR(one.coeffs[j], many.piece(f, 0)[j], 1e-12)
+                << many.name() << " " << f << " " << j;
         }
       }
 }
@@ -76,11 +77,11 @@ TEST(ConstructionMemory, EveryFailingAllocationIsReported) {
     int nx, ny;
     int blocks;  // of the construction alone, beside the four of the task
   } rows[] = {
-      {Kind::linear, 0, 500, 3, 0},     {Kind::quadratic, 128, 4094, 1, 0},
+      {Kind::linear, 0, 500, 3, 0},       {Kind::quadratic, 128, 4094, 1, 0},
       {Kind::quadratic, 128, 4095, 2, 1}, {Kind::subbotin, 12, 9, 2, 1},
-      {Kind::natural, 1, 50, 1, 1},     {Kind::natural, 64, 50, 3, 1},
-      {Kind::natural, 64, 700, 3, 2},   {Kind::standard, 2, 50, 2, 1},
-      {Kind::hermite, 2, 700, 2, 1},    {Kind::bessel, 2, 50, 2, 1},
+      {Kind::natural, 1, 50, 1, 1},       {Kind::natural, 64, 50, 3, 1},
+      {Kind::natural, 64, 700, 3, 2},     {Kind::standard, 2, 50, 2, 1},
+      {Kind::hermite, 2, 700, 2, 1},      {Kind::bessel, 2, 50, 2, 1},
       {Kind::akima, 0, 700, 2, 1},
   };
   for (const auto& row : rows) {
@@ -119,8 +120,10 @@ TEST(ConstructionStatus, RefusesWhatItsEntryDoesNotServe) {
       {"three ends", ORK_DF_BAD_BC, Kind::akima, [](F& f) { f.bc = 4 | 8 | 16; }},
       {"one end", ORK_DF_BAD_BC, Kind::natural, [](F& f) { f.bc = 4; }},
       {"the quadratic's own", ORK_DF_BAD_BC, Kind::hermite, [](F& f) { f.bc = 128; }},
-      {"no closing value", ORK_DF_BAD_BC_VALUES, Kind::standard, [](F& f) { f.bc = 64, f.bc_values = {}; }},
-      {"no closing value", ORK_DF_BAD_BC_VALUES, Kind::hermite, [](F& f) { f.bc = 64, f.bc_values = {}; }},
+      {"no closing value", ORK_DF_BAD_BC_VALUES, Kind::standard,
+       [](F& f) { f.bc = 64, f.bc_values = {}; }},
+      {"no closing value", ORK_DF_BAD_BC_VALUES, Kind::hermite,
+       [](F& f) { f.bc = 64, f.bc_values = {}; }},
       {"none needed", ORK_DF_OK, Kind::bessel, [](F& f) { f.bc = 2, f.bc_values = {}; }},
       {"no middle", ORK_DF_BAD_BC, Kind::quadratic, [](F& f) { f.bc = 12; }},
       {"no sub-grid", ORK_DF_BAD_IC, Kind::subbotin, [](F& f) { f.ic = 1; }},
@@ -129,7 +132,8 @@ TEST(ConstructionStatus, RefusesWhatItsEntryDoesNotServe) {
       {"Subbotin free", ORK_DF_BAD_BC, Kind::subbotin, [](F& f) { f.bc = 2; }},
       {"Subbotin periodic", ORK_DF_BAD_BC, Kind::subbotin, [](F& f) { f.bc = 64; }},
       {"even without values", ORK_DF_BAD_IC_VALUES, Kind::subbotin, [](F& f) { f.ic = 12; }},
-      {"no second derivatives", ORK_DF_BAD_IC_VALUES, Kind::standard, [](F& f) { f.ic_values = {}; }},
+      {"no second derivatives", ORK_DF_BAD_IC_VALUES, Kind::standard,
+       [](F& f) { f.ic_values = {}; }},
       {"no slopes", ORK_DF_BAD_IC_VALUES, Kind::hermite, [](F& f) { f.ic_values = {}; }},
       {"one point twice", ORK_DF_SOLVER_FAILED, Kind::natural, [](F& f) { f.x.assign(f.nx, 1); }},
   };
@@ -151,7 +155,8 @@ TEST(ConstructionStatus, RefusesWhatItsEntryDoesNotServe) {
   EXPECT_EQ(ork_df_kernel_dDFAkimaCubicSpline1D(task, 0, 0, &ork_threader_serial), ORK_DF_BAD_Y);
   ork_df_kernel_DeleteTask(&task);
   ASSERT_EQ(ork_df_kernel_dNewTask1D(&task, 5, x, 0, 1, y, 0, 0), 0);
-  EXPECT_EQ(ork_df_kernel_dDFAkimaCubicSpline1D(task, 0, 0, &ork_threader_serial), ORK_DF_BAD_COEFFS);
+  EXPECT_EQ(ork_df_kernel_dDFAkimaCubicSpline1D(task, 0, 0, &ork_threader_serial),
+            ORK_DF_BAD_COEFFS);
   ork_df_kernel_DeleteTask(&task);
 }
 
@@ -193,10 +198,22 @@ TEST(ConstructionStatus, SubgridPointsLieInsideTheirCells) {
       {"end within the tolerance", 4, 8, true, [](K& k, double t) { k[0] += t, k[6] -= t; }},
       {"left end beyond it", 4, 8, false, [](K& k, double t) { k[0] -= 1.01 * t; }},
       {"right end beyond it", 4, 8, false, [](K& k, double t) { k[6] += 1.01 * t; }},
-      {"even", 0, 12, true, [](K& k, double) { k = {0.5, 4.5}; }},
-      {"even, left outside", 0, 12, false, [](K& k, double) { k = {0, 4.5}; }},
-      {"even, right outside", 4, 12, false, [](K& k, double) { k = {0.5, 5}; }},
-      {"even, an inner one outside", 4, 12, false, [](K& k, double) { k = {0.9, 3.1}; }},
+      {"even", 0, 12, true,
+       [](K& k, double) {
+         k = {0.5, 4.5};
+       }},
+      {"even, left outside", 0, 12, false,
+       [](K& k, double) {
+         k = {0, 4.5};
+       }},
+      {"even, right outside", 4, 12, false,
+       [](K& k, double) {
+         k = {0.5, 5};
+       }},
+      {"even, an inner one outside", 4, 12, false,
+       [](K& k, double) {
+         k = {0.9, 3.1};
+       }},
   };
   for (const Row& row : rows) {
     Fit<double> fit = make_fit<double>(Kind::subbotin, 12, 6, 2, row.xhint, 0, row.ic);

@@ -103,9 +103,11 @@ struct Reference {
     if (fit.kind == Kind::bessel)
       return parabola(x[i - 1], y[i - 1], x[i], y[i], x[i + 1], y[i + 1], x[i]);
     // A weight that would need a cell beyond the end repeats its neighbour.
-    const Real bend_left = i >= 2 ? slope(i - 2) : 0, bend_right = i + 1 <= n - 2 ? slope(i + 1) : 0;
+    const Real bend_left = i >= 2 ? slope(i - 2) : 0,
+               bend_right = i + 1 <= n - 2 ? slope(i + 1) : 0;
     if (i == 1) return akima(slope(0) - (slope(1) - slope(0)), slope(0), slope(1), bend_right);
-    if (i == n - 2) return akima(bend_left, slope(n - 3), slope(n - 2), 2 * slope(n - 2) - slope(n - 3));
+    if (i == n - 2)
+      return akima(bend_left, slope(n - 3), slope(n - 2), 2 * slope(n - 2) - slope(n - 3));
     return akima(bend_left, slope(i - 1), slope(i), bend_right);
   }
   Real closed_slope() const {
@@ -177,9 +179,14 @@ struct Reference {
       c.demand({{i, x[i], 0}}, y[i]), c.demand({{i, x[i + 1], 0}}, y[i + 1]);
     for (int i = 1; i < n - 1; ++i) {
       switch (fit.kind) {
-        case Kind::linear: break;
-        case Kind::quadratic: c.join(i - 1, x[i], 1); break;
-        case Kind::natural: c.join(i - 1, x[i], 1), c.join(i - 1, x[i], 2); break;
+        case Kind::linear:
+          break;
+        case Kind::quadratic:
+          c.join(i - 1, x[i], 1);
+          break;
+        case Kind::natural:
+          c.join(i - 1, x[i], 1), c.join(i - 1, x[i], 2);
+          break;
         case Kind::standard:
           for (int p : {i - 1, i}) c.demand({{p, x[i], 2}}, fit.ic_values[i - 1]);
           break;
@@ -205,8 +212,9 @@ double scaled_error(const Fit<T>& fit) {
     for (Real v : expected) size = std::max(size, std::fabs(v));
     for (size_t j = 0; j < expected.size(); ++j) {
       const Real error = std::fabs(fit.piece(f, 0)[j] - expected[j]);
-      worst = std::isnan(error) ? std::numeric_limits<Real>::infinity()
-                                : std::max(worst, error / (size * std::numeric_limits<T>::epsilon()));
+      worst = std::isnan(error)
+                  ? std::numeric_limits<Real>::infinity()
+                  : std::max(worst, error / (size * std::numeric_limits<T>::epsilon()));
     }
   }
   return double(worst);
@@ -259,8 +267,9 @@ double worst_jump(const Fit<T>& fit, int derivatives) {
 
 class Construction : public testing::TestWithParam<Kind> {};
 INSTANTIATE_TEST_SUITE_P(Kinds, Construction,
-                         testing::Values(Kind::linear, Kind::quadratic, Kind::subbotin, Kind::natural,
-                                         Kind::standard, Kind::hermite, Kind::bessel, Kind::akima),
+                         testing::Values(Kind::linear, Kind::quadratic, Kind::subbotin,
+                                         Kind::natural, Kind::standard, Kind::hermite, Kind::bessel,
+                                         Kind::akima),
                          [](const auto& info) { return kind_facts[int(info.param)].name; });
 
 TEST_P(Construction, MeetsItsConditions) {
@@ -270,12 +279,14 @@ TEST_P(Construction, MeetsItsConditions) {
 
 template <class T>
 void check_joins(Kind kind) {
-  const int derivatives = kind == Kind::linear || kind == Kind::standard ? 0 : kind == Kind::natural ? 2 : 1;
+  const int derivatives = kind == Kind::linear || kind == Kind::standard ? 0
+                          : kind == Kind::natural                        ? 2
+                                                                         : 1;
   for (int64_t bc : boundaries(kind))
     for (int nx : {127, 300, 1025, 2062})
       for (int64_t xhint : {0, 4})
         for (int ny : {1, 6}) {
-          if (sizeof(T) == 4 && nx > 300) continue;  // x itself has few digits left
+          if (sizeof(T) == 4 && nx > 300) continue;           // x itself has few digits left
           if (kind == Kind::quadratic && nx > 127) continue;  // its errors add up
           Fit<T> fit = make_fit<T>(kind, bc, nx, ny, xhint, 32 * (nx & 1));
           ASSERT_EQ(fit.build(), 0) << fit.name();
@@ -298,7 +309,8 @@ TEST(SubbotinSpline, TakesListedAndEvenSubgrids) {
           if (ic == 8) {
             fit.ic_values = {fit.x[0]};
             for (int i = 1; i < nx; ++i)
-              fit.ic_values.push_back(fit.x[i - 1] + (fit.x[i] - fit.x[i - 1]) * (0.5 + 0.4 * noise(i)));
+              fit.ic_values.push_back(fit.x[i - 1] +
+                                      (fit.x[i] - fit.x[i - 1]) * (0.5 + 0.4 * noise(i)));
             fit.ic_values.push_back(fit.x[nx - 1]);
           } else {
             if (xhint == 0)

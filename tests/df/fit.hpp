@@ -20,10 +20,10 @@ struct FitApi;
     static constexpr auto edit = ork_df_kernel_##t##EditPPSpline1D;                           \
     static constexpr auto set = ork_df_kernel_##t##EditPtr;                                   \
     static constexpr ork_df_construct* build[] = {                                            \
-        ork_df_kernel_##t##DFLinearSpline1D,         ork_df_kernel_##t##DFQuadraticSpline1D,  \
-        ork_df_kernel_##t##DFQuadraticSpline1D,      ork_df_kernel_##t##DFNaturalCubicSpline1D, \
-        ork_df_kernel_##t##DFDefaultCubicSpline1D,   ork_df_kernel_##t##DFHermiteCubicSpline1D, \
-        ork_df_kernel_##t##DFBesselCubicSpline1D,    ork_df_kernel_##t##DFAkimaCubicSpline1D};  \
+        ork_df_kernel_##t##DFLinearSpline1D,       ork_df_kernel_##t##DFQuadraticSpline1D,    \
+        ork_df_kernel_##t##DFQuadraticSpline1D,    ork_df_kernel_##t##DFNaturalCubicSpline1D, \
+        ork_df_kernel_##t##DFDefaultCubicSpline1D, ork_df_kernel_##t##DFHermiteCubicSpline1D, \
+        ork_df_kernel_##t##DFBesselCubicSpline1D,  ork_df_kernel_##t##DFAkimaCubicSpline1D};  \
   };
 ORK_FIT_API(d, double)
 ORK_FIT_API(s, float)
@@ -52,9 +52,7 @@ struct Fit {
   int pieces() const { return kind == Kind::subbotin ? nx : nx - 1; }
   T value(int f, int i) const { return yhint == 32 ? y[i * ny + f] : y[f * nx + i]; }
   T& value(int f, int i) { return yhint == 32 ? y[i * ny + f] : y[f * nx + i]; }
-  const T* piece(int f, int i) const {
-    return &coeffs[(size_t(f) * pieces() + i) * facts().order];
-  }
+  const T* piece(int f, int i) const { return &coeffs[(size_t(f) * pieces() + i) * facts().order]; }
 
   // Builds through the exported interface. Every array ends at an inaccessible page; a
   // coefficient that is never written stays -1.
@@ -69,11 +67,14 @@ struct Fit {
     coeffs.assign(size_t(ny) * pieces() * facts().order, T(-1));
     T* out = lend(coeffs);
     ork_df_task* task = nullptr;
-    int code = FitApi<T>::create(&task, nx, lend(xhint == 4 ? std::vector<T>{x.front(), x.back()} : x),
-                                 xhint, ny, lend(y), yhint, 0);
+    int code =
+        FitApi<T>::create(&task, nx, lend(xhint == 4 ? std::vector<T>{x.front(), x.back()} : x),
+                          xhint, ny, lend(y), yhint, 0);
     if (code == 0)
-      code = FitApi<T>::edit(task, facts().order, facts().type, bc, lend(bc_values), 0, nullptr, out, 0);
-    if (code == 0 && !ic_values.empty()) code = FitApi<T>::set(task, ORK_DF_PTR_IC, lend(ic_values));
+      code = FitApi<T>::edit(task, facts().order, facts().type, bc, lend(bc_values), 0, nullptr,
+                             out, 0);
+    if (code == 0 && !ic_values.empty())
+      code = FitApi<T>::set(task, ORK_DF_PTR_IC, lend(ic_values));
     if (code == 0 && ic != 0) code = ork_df_kernel_iEditVal(task, ORK_DF_VAL_IC, ic);
     if (code == 0) code = FitApi<T>::build[int(kind)](task, 0, method, threader);
     if (task != nullptr) ork_df_kernel_DeleteTask(&task);
@@ -86,8 +87,8 @@ struct Fit {
 
   std::string name() const {
     return std::string(facts().name) + " nx " + std::to_string(nx) + " ny " + std::to_string(ny) +
-           " x " + std::to_string(xhint) + " y " + std::to_string(yhint) + " bc " + std::to_string(bc) +
-           " ic " + std::to_string(ic) + (sizeof(T) == 8 ? " d" : " s");
+           " x " + std::to_string(xhint) + " y " + std::to_string(yhint) + " bc " +
+           std::to_string(bc) + " ic " + std::to_string(ic) + (sizeof(T) == 8 ? " d" : " s");
   }
 };
 
@@ -100,17 +101,23 @@ inline double noise(int i) {
 // Every boundary condition that a kind takes.
 inline std::vector<int64_t> boundaries(Kind kind) {
   switch (kind) {
-    case Kind::linear: return {0, 64};
-    case Kind::quadratic: return {128};
-    case Kind::subbotin: return {12, 36, 24, 48};
-    case Kind::akima: return {1, 2, 12, 36, 24, 48, 64, 0};
-    default: return {1, 2, 12, 36, 24, 48, 64};
+    case Kind::linear:
+      return {0, 64};
+    case Kind::quadratic:
+      return {128};
+    case Kind::subbotin:
+      return {12, 36, 24, 48};
+    case Kind::akima:
+      return {1, 2, 12, 36, 24, 48, 64, 0};
+    default:
+      return {1, 2, 12, 36, 24, 48, 64};
   }
 }
 
 // A fit of the kind over irregular data; even grid for xhint 4.
 template <class T>
-Fit<T> make_fit(Kind kind, int64_t bc, int nx, int ny, int64_t xhint, int64_t yhint, int64_t ic = 0) {
+Fit<T> make_fit(Kind kind, int64_t bc, int nx, int ny, int64_t xhint, int64_t yhint,
+                int64_t ic = 0) {
   Fit<T> fit{kind, nx, ny, xhint, yhint, bc, ic};
   fit.x.resize(nx), fit.y.resize(size_t(nx) * ny);
   const T left = T(-1.25), step = T(0.75);

@@ -13,7 +13,8 @@ namespace fs = std::filesystem;
 
 // A directory for each test: they may run side by side.
 fs::path work_directory() {
-  return fs::path(ORK_BUILD_DIR) / "install_test" / testing::UnitTest::GetInstance()->current_test_info()->name();
+  return fs::path(ORK_BUILD_DIR) / "install_test" /
+         testing::UnitTest::GetInstance()->current_test_info()->name();
 }
 
 void run(const std::string& command) {
@@ -37,8 +38,9 @@ struct Install : testing::Test {
 };
 
 TEST_F(Install, CMakePackage) {
-  run("cmake -G Ninja -S " ORK_SOURCE_DIR "/tests/project/installed -B " + (work / "user").string() +
-      " -DCMAKE_PREFIX_PATH=" + (work / "tree").string() + " -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32");
+  run("cmake -G Ninja -S " ORK_SOURCE_DIR "/tests/project/installed -B " +
+      (work / "user").string() + " -DCMAKE_PREFIX_PATH=" + (work / "tree").string() +
+      " -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32");
   run("cmake --build " + (work / "user").string());
   for (const char* program : {"program_c", "program_cpp", "front_c", "front_cpp"})
     run((work / "user" / program).string());
@@ -47,7 +49,8 @@ TEST_F(Install, CMakePackage) {
 // The fields of a .pc file with its variables filled in, as pkg-config would print them.
 std::string pc_field(const fs::path& file, const std::string& wanted) {
   std::ifstream lines(file);
-  std::vector<std::pair<std::string, std::string>> variables = {{"pcfiledir", file.parent_path().string()}};
+  std::vector<std::pair<std::string, std::string>> variables = {
+      {"pcfiledir", file.parent_path().string()}};
   const auto expand = [&](std::string text) {
     for (auto v = variables.rbegin(); v != variables.rend(); ++v)
       for (size_t at; (at = text.find("${" + v->first + "}")) != std::string::npos;)
@@ -57,7 +60,8 @@ std::string pc_field(const fs::path& file, const std::string& wanted) {
   for (std::string line; std::getline(lines, line);) {
     const size_t equals = line.find('='), colon = line.find(':');
     if (line.starts_with(wanted + ":")) return expand(line.substr(wanted.size() + 1));
-    if (equals < colon) variables.emplace_back(line.substr(0, equals), expand(line.substr(equals + 1)));
+    if (equals < colon)
+      variables.emplace_back(line.substr(0, equals), expand(line.substr(equals + 1)));
   }
   return "";
 }
@@ -72,8 +76,9 @@ TEST_F(Install, PkgConfigFile) {
                                          {"gcc -std=c11", "front.c"},
                                          {"g++ -std=c++17", "front.cpp"}}) {
     const std::string program = (work / (std::string("pc_") + source)).string() + ".out";
-    run(std::string(compiler) + " -Wall -Werror -pedantic " ORK_SOURCE_DIR "/tests/project/installed/" + source +
-        " -o " + program + " " + flags + " " + libraries);
+    run(std::string(compiler) +
+        " -Wall -Werror -pedantic " ORK_SOURCE_DIR "/tests/project/installed/" + source + " -o " +
+        program + " " + flags + " " + libraries);
     run("LD_LIBRARY_PATH=" + (work / "tree/lib").string() + " " + program);
   }
 }

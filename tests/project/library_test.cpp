@@ -65,7 +65,8 @@ void check_exports(const std::string& file_of_library, const std::string& lists)
   std::set<std::string> exported;
   std::istringstream lines(output_of("nm -D --defined-only " + file_of_library));
   for (std::string address, kind, name; lines >> address >> kind >> name;) exported.insert(name);
-  for (const auto& name : exported) EXPECT_TRUE(expected.count(name)) << "exported, not meant to be: " << name;
+  for (const auto& name : exported)
+    EXPECT_TRUE(expected.count(name)) << "exported, not meant to be: " << name;
   for (const auto& name : expected) EXPECT_TRUE(exported.count(name)) << "not exported: " << name;
 }
 
@@ -78,7 +79,8 @@ TEST_F(Library, FrontExportsExactlyWhatIsMeantAndIsNeededByNone) {
   for (const char* name : {"[libork_zem_p4m.so]", "[libork_outer.so]", "[$ORIGIN]"})
     EXPECT_NE(needs.find(name), std::string::npos) << name;
   EXPECT_EQ(needs.find("libstdc++"), std::string::npos);
-  EXPECT_EQ(output_of("readelf -dW " ORK_LIB_DIR "/libork_outer.so").find("libork_front"), std::string::npos);
+  EXPECT_EQ(output_of("readelf -dW " ORK_LIB_DIR "/libork_outer.so").find("libork_front"),
+            std::string::npos);
 }
 
 // Kernels still to be written, by name. The list only shrinks.
@@ -96,11 +98,15 @@ TEST_F(Library, NeedsOnlyTheCLibraryAndTheOuterOne) {
   std::string run_path;
   for (std::string line; std::getline(lines, line);) {
     const size_t open = line.find('['), close = line.find(']');
-    if (line.find("(NEEDED)") != std::string::npos) needed.insert(line.substr(open + 1, close - open - 1));
-    if (line.find("(RUNPATH)") != std::string::npos) run_path = line.substr(open + 1, close - open - 1);
+    if (line.find("(NEEDED)") != std::string::npos)
+      needed.insert(line.substr(open + 1, close - open - 1));
+    if (line.find("(RUNPATH)") != std::string::npos)
+      run_path = line.substr(open + 1, close - open - 1);
   }
   for (const auto& name : needed)
-    EXPECT_TRUE(name == "libork_outer.so" || name == "libc.so.6" || name == "libm.so.6" || name == "ld-linux.so.2") << name;
+    EXPECT_TRUE(name == "libork_outer.so" || name == "libc.so.6" || name == "libm.so.6" ||
+                name == "ld-linux.so.2")
+        << name;
   EXPECT_TRUE(needed.count("libork_outer.so"));
   EXPECT_EQ(run_path, "$ORIGIN");
 }
@@ -110,7 +116,8 @@ TEST_F(Library, RunsNothingAtLoadAndIsAProperSharedObject) {
   for (const char* name : {".ctors", ".init_array", ".preinit_array", ".init "})
     EXPECT_EQ(sections.find(name), std::string::npos) << name;
   const std::string undefined = output_of("nm -D --undefined-only " + library);
-  for (const char* name : {"_Zn", "_ZN", "__cxa_throw", "__gxx_personality", "__cxa_guard", "GOMP_"})
+  for (const char* name :
+       {"_Zn", "_ZN", "__cxa_throw", "__gxx_personality", "__cxa_guard", "GOMP_"})
     EXPECT_EQ(undefined.find(name), std::string::npos) << name;
   const std::string flags = output_of("readelf -dlW " + library);
   EXPECT_EQ(flags.find("TEXTREL"), std::string::npos);
@@ -151,11 +158,13 @@ TEST_F(Library, EveryStubNamesItsTableAndSlot) {
       base = std::stoul(address, nullptr, 16);
     }
   std::map<std::string, unsigned long> address;
-  for (std::string a, kind, name; symbols >> a >> kind >> name;) address[name] = std::stoul(a, nullptr, 16);
+  for (std::string a, kind, name; symbols >> a >> kind >> name;)
+    address[name] = std::stoul(a, nullptr, 16);
   std::map<std::string, unsigned long> target;  // stub -> address of the slot it jumps through
   std::string current;
   for (std::string line; std::getline(lines, line);) {
-    if (line.ends_with(">:")) current = line.substr(line.find('<') + 1, line.size() - line.find('<') - 3);
+    if (line.ends_with(">:"))
+      current = line.substr(line.find('<') + 1, line.size() - line.find('<') - 3);
     const size_t jump = line.find("jmp    *");
     if (jump != std::string::npos && current.starts_with("_zem") && address.count(current))
       target[current] = base + unsigned(std::stol(line.substr(jump + 8), nullptr, 16));

@@ -45,7 +45,8 @@ std::vector<double> results(int shift) {
     call(A::edit_stream, t, &three, orders, streamed.data(), &one, &epsilon);
     call(A::edit_outliers, t, nullptr, none, out);
     call(A::edit_robust, t, nullptr, nullptr, none, out, out);
-    call(A::edit_missing, t, nullptr, none, nullptr, none, nullptr, none, nullptr, out, nullptr, out);
+    call(A::edit_missing, t, nullptr, none, nullptr, none, nullptr, none, nullptr, out, nullptr,
+         out);
     call(A::edit_matrix, t, out, nullptr, out, nullptr);
     call(A::edit, t, ORK_SS_EDIT_KURTOSIS, at(14));
     call(A::edit, t, ORK_SS_EDIT_MIN, at(15));

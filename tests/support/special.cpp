@@ -38,23 +38,27 @@ std::vector<Event> support::stop_recording() {
 
 namespace {
 
-template <class T> bool is_quiet_nan(T x) {
+template <class T>
+bool is_quiet_nan(T x) {
   return std::isnan(x) && (bits(x) >> (sizeof(T) == 8 ? 51 : 22) & 1);
 }
 
-template <class T> bool matches(T got, T expected, bool exact_nan) {
+template <class T>
+bool matches(T got, T expected, bool exact_nan) {
   if (std::isnan(expected) && !exact_nan) return is_quiet_nan(got);
   return bits(got) == bits(expected);
 }
 
-template <class T> std::string show(T x) {
+template <class T>
+std::string show(T x) {
   char text[64];
   snprintf(text, sizeof text, "%.17g (0x%llx)", double(x), (unsigned long long)bits(x));
   return text;
 }
 
 // Arrays of a call at an element offset from a 16-byte boundary.
-template <class T> struct Arrays {
+template <class T>
+struct Arrays {
   alignas(16) T storage[4][64];
   T *a, *b, *r, *r2;
   Arrays(int offset, bool in_place) {
@@ -63,18 +67,21 @@ template <class T> struct Arrays {
   }
 };
 
-template <class T> struct Check {
+template <class T>
+struct Check {
   const SpecialTable<T>& table;
   Call<T> call;
   T clean_r, clean_r2;
 
   std::string where(const SpecialCase<T>& c, int n, int place, int offset, bool in_place) const {
-    return call.slot->name(call.level) + "(" + show(c.a) + (call.inputs() == 2 || call.slot->form == Form::scalar ? ", " + show(c.b) : "") +
+    return call.slot->name(call.level) + "(" + show(c.a) +
+           (call.inputs() == 2 || call.slot->form == Form::scalar ? ", " + show(c.b) : "") +
            ") at " + std::to_string(place) + " of " + std::to_string(n) + ", offset " +
            std::to_string(offset) + (in_place ? ", in place" : "");
   }
 
-  void run(const SpecialCase<T>& c, int n, int place, int offset, bool in_place, const double* replace) {
+  void run(const SpecialCase<T>& c, int n, int place, int offset, bool in_place,
+           const double* replace) {
     Arrays<T> x(offset, in_place);
     for (int i = 0; i < n; ++i) x.a[i] = table.clean_a, x.b[i] = table.clean_b;
     memcpy(x.a + place, &c.a, sizeof(T));
@@ -85,9 +92,11 @@ template <class T> struct Check {
     SCOPED_TRACE(where(c, n, place, offset, in_place));
     const bool replaced = replace && c.status != 0;
     const bool ok = replaced ? x.r[place] == T(*replace) : matches(x.r[place], c.r, c.exact_nan);
-    ASSERT_TRUE(ok) << "got " << show(x.r[place]) << " want " << (replaced ? "the callback's value" : show(c.r));
+    ASSERT_TRUE(ok) << "got " << show(x.r[place]) << " want "
+                    << (replaced ? "the callback's value" : show(c.r));
     if (call.outputs() == 2) {
-      const bool ok2 = replaced ? x.r2[place] == T(*replace) : matches(x.r2[place], c.r2, c.exact_nan);
+      const bool ok2 =
+          replaced ? x.r2[place] == T(*replace) : matches(x.r2[place], c.r2, c.exact_nan);
       ASSERT_TRUE(ok2) << "second result " << show(x.r2[place]) << " want " << show(c.r2);
     }
     if (!scalar)
@@ -119,9 +128,11 @@ template <class T> struct Check {
 
 }  // namespace
 
-template <class T> void check_special(const SpecialTable<T>& table) {
+template <class T>
+void check_special(const SpecialTable<T>& table) {
   for (const Slot& slot : slots) {
-    if (slot.type != (sizeof(T) == 8 ? 'd' : 's') || strcmp(slot.function, table.function) != 0) continue;
+    if (slot.type != (sizeof(T) == 8 ? 'd' : 's') || strcmp(slot.function, table.function) != 0)
+      continue;
     ASSERT_TRUE(slot.exists(table.level)) << slot.name(table.level);
     Check<T> check{table, {&slot, table.level}, 0, 0};
     check.call(1, &table.clean_a, &table.clean_b, &check.clean_r, &check.clean_r2);
@@ -144,7 +155,8 @@ template <class T> void check_special(const SpecialTable<T>& table) {
     const int n = int(table.cases.size());
     std::vector<T> a, b, r(table.cases.size()), r2(r);
     for (const auto& c : table.cases) a.push_back(c.a), b.push_back(c.b);
-    const auto seen = record_events([&] { check.call(n, a.data(), b.data(), r.data(), r2.data()); });
+    const auto seen =
+        record_events([&] { check.call(n, a.data(), b.data(), r.data(), r2.data()); });
     size_t next = 0;
     for (int i = 0; i < n; ++i) {
       const auto& c = table.cases[size_t(i)];

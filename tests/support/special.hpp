@@ -7,16 +7,18 @@
 
 #include "registry/kernels.hpp"
 
-template <class T> struct SpecialCase {
-  T a;         // input
-  T r;         // expected result; a NaN stands for any quiet NaN
+template <class T>
+struct SpecialCase {
+  T a;  // input
+  T r;  // expected result; a NaN stands for any quiet NaN
   int status = 0;
-  T b = 0;     // second input, for the forms that have one
-  T r2 = 0;    // second result, likewise
+  T b = 0;                 // second input, for the forms that have one
+  T r2 = 0;                // second result, likewise
   bool exact_nan = false;  // compare a NaN's bits, too
 };
 
-template <class T> struct SpecialTable {
+template <class T>
+struct SpecialTable {
   const char* function;    // "Exp"
   int level;               // 0 LA, 1 HA, 2 EP
   const char* error_name;  // "vdExp"
@@ -25,13 +27,19 @@ template <class T> struct SpecialTable {
 };
 
 // Reports failures through GoogleTest.
-template <class T> void check_special(const SpecialTable<T>& table);
+template <class T>
+void check_special(const SpecialTable<T>& table);
 
-template <class T> constexpr T inf = std::numeric_limits<T>::infinity();
-template <class T> constexpr T quiet_nan = std::numeric_limits<T>::quiet_NaN();
-template <class T> constexpr T largest = std::numeric_limits<T>::max();
-template <class T> constexpr T smallest_normal = std::numeric_limits<T>::min();
-template <class T> constexpr T smallest_denormal = std::numeric_limits<T>::denorm_min();
+template <class T>
+constexpr T inf = std::numeric_limits<T>::infinity();
+template <class T>
+constexpr T quiet_nan = std::numeric_limits<T>::quiet_NaN();
+template <class T>
+constexpr T largest = std::numeric_limits<T>::max();
+template <class T>
+constexpr T smallest_normal = std::numeric_limits<T>::min();
+template <class T>
+constexpr T smallest_denormal = std::numeric_limits<T>::denorm_min();
 
 // What the callback of these tests saw.
 struct Event {
@@ -42,13 +50,15 @@ struct Event {
 
 // Runs f() with a callback that records events in order and, if `replacement` is given,
 // writes it to both results; the other error actions are off.
-template <class F> std::vector<Event> record_events(F f, const double* replacement = nullptr);
+template <class F>
+std::vector<Event> record_events(F f, const double* replacement = nullptr);
 
 namespace support {
 void start_recording(const double* replacement);
 std::vector<Event> stop_recording();
-}
-template <class F> std::vector<Event> record_events(F f, const double* replacement) {
+}  // namespace support
+template <class F>
+std::vector<Event> record_events(F f, const double* replacement) {
   support::start_recording(replacement);
   f();
   return support::stop_recording();

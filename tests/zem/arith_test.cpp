@@ -9,26 +9,36 @@
 
 namespace {
 
-template <class T> struct Functions;
-template <> struct Functions<double> {
+template <class T>
+struct Functions;
+template <>
+struct Functions<double> {
   static constexpr auto add = ork_zem_kernel_dAdd_V8HAynn, sub = ork_zem_kernel_dSub_V8HAynn,
                         mul = ork_zem_kernel_dMul_V8HAynn;
   static constexpr auto sqr = ork_zem_kernel_dSqr_V8HAynn, abs = ork_zem_kernel_dAbs_W7HAynn;
 };
-template <> struct Functions<float> {
+template <>
+struct Functions<float> {
   static constexpr auto add = ork_zem_kernel_sAdd_V8HAynn, sub = ork_zem_kernel_sSub_V8HAynn,
                         mul = ork_zem_kernel_sMul_V8HAynn;
   static constexpr auto sqr = ork_zem_kernel_sSqr_V8HAynn, abs = ork_zem_kernel_sAbs_W7HAynn;
 };
 
-template <class T> class Arith : public testing::Test { StateGuard guard; };
+template <class T>
+class Arith : public testing::Test {
+  StateGuard guard;
+};
 using Types = testing::Types<double, float>;
 TYPED_TEST_SUITE(Arith, Types);
 
-template <class T> T value(int i) { return T((i * 37 % 101) - 50) / T(7); }
+template <class T>
+T value(int i) {
+  return T((i * 37 % 101) - 50) / T(7);
+}
 
 // n elements at byte offsets from a 16-byte boundary; the rest of the buffer keeps its canary.
-template <class T> struct Buffer {
+template <class T>
+struct Buffer {
   alignas(16) unsigned char bytes[1200];
   int offset, n;
   Buffer(int offset, int n) : offset(offset), n(n) { memset(bytes, 0xA5, sizeof bytes); }
@@ -74,7 +84,8 @@ TYPED_TEST(Arith, BinaryInEveryNest) {
 
 TYPED_TEST(Arith, UnaryInEveryNest) {
   using T = TypeParam;
-  for (const auto& [kernel, square] : {std::pair{Functions<T>::sqr, true}, {Functions<T>::abs, false}})
+  for (const auto& [kernel, square] :
+       {std::pair{Functions<T>::sqr, true}, {Functions<T>::abs, false}})
     for (int n = -1; n < 90; ++n)
       for (int offset = 0; offset < 16; offset += 2)
         for (const bool in_place : {false, true}) {
@@ -103,14 +114,21 @@ TYPED_TEST(Arith, SpecialValuesRaiseNoStatus) {
   EXPECT_TRUE(std::isnan(r));
   Functions<T>::sqr(1, &big, &r);
   EXPECT_EQ(r, inf);
-  const struct { T x; T magnitude; } cases[] = {{-T(0), T(0)}, {-inf, inf}, {L::denorm_min(), L::denorm_min()},
-                                                {-L::denorm_min(), L::denorm_min()}, {-big, big}};
+  const struct {
+    T x;
+    T magnitude;
+  } cases[] = {{-T(0), T(0)},
+               {-inf, inf},
+               {L::denorm_min(), L::denorm_min()},
+               {-L::denorm_min(), L::denorm_min()},
+               {-big, big}};
   for (const auto& c : cases) {
     Functions<T>::abs(1, &c.x, &r);
     EXPECT_EQ(bits(r), bits(c.magnitude));
   }
   // A NaN keeps its sign and payload; a signalling one is quieted.
-  const auto sign = bits(-T(0)), quiet_bit = sizeof(T) == 8 ? decltype(sign)(1ull << 51) : decltype(sign)(1u << 22);
+  const auto sign = bits(-T(0)),
+             quiet_bit = sizeof(T) == 8 ? decltype(sign)(1ull << 51) : decltype(sign)(1u << 22);
   const auto signalling = bits(inf) | 5;
   for (const auto s : {decltype(sign)(0), sign}) {
     const T x = from_bits<T>(signalling | s);
@@ -126,7 +144,10 @@ TYPED_TEST(Arith, DenormalsFollowTheMode) {
   using T = TypeParam;
   const T d = std::numeric_limits<T>::denorm_min();
   std::vector<T> a(40, d), r(40);
-  const struct { uint32_t mode; T sum; } cases[] = {{ORK_ZEM_DENORMAL_ZERO, T(0)}, {ORK_ZEM_DENORMAL_KEEP, 2 * d}};
+  const struct {
+    uint32_t mode;
+    T sum;
+  } cases[] = {{ORK_ZEM_DENORMAL_ZERO, T(0)}, {ORK_ZEM_DENORMAL_KEEP, 2 * d}};
   for (const auto& c : cases) {
     ork_zem_kernel_SetMode(c.mode);
     Functions<T>::add(40, a.data(), a.data(), r.data());

@@ -44,10 +44,10 @@ void directed(const Limits& limits) {
   std::vector<T> centres = {T(0.02734375), T(-0.02734375), T(5.9921875), smallest_normal<T>,
                             smallest_normal<T> / T(1.128)};
   for (int j = 0; j < 770; ++j) centres.push_back(T((j + 0.5) / 128));
-  std::vector<T> points = neighbours(centres, 1) + spread<T>(-6, 6, 3000) +
-                          spread<T>(-0.04, 0.04, 1000) +
-                          spread<T>(0, 2 * double(smallest_normal<T>), 200) +
-                          spread<T>(0.87 * double(smallest_normal<T>), 0.89 * double(smallest_normal<T>), 200);
+  std::vector<T> points =
+      neighbours(centres, 1) + spread<T>(-6, 6, 3000) + spread<T>(-0.04, 0.04, 1000) +
+      spread<T>(0, 2 * double(smallest_normal<T>), 200) +
+      spread<T>(0.87 * double(smallest_normal<T>), 0.89 * double(smallest_normal<T>), 200);
   for (T x = 1; x > 0; x *= T(0.37)) points.push_back(x);
   check_directed<T>("Erf", erfq, points, limits);
 }

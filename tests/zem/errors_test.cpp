@@ -20,9 +20,11 @@ extern "C" void ork_serv_print(int kind, int message, int count, ...) {
   char line[256];
   if (message >= 742) {
     const int index = va_arg(values, int);
-    snprintf(line, sizeof line, "%d %d %d: %d %g", kind, message, count, index, va_arg(values, double));
+    snprintf(line, sizeof line, "%d %d %d: %d %g", kind, message, count, index,
+             va_arg(values, double));
   } else {
-    const int n = snprintf(line, sizeof line, "%d %d %d: %s", kind, message, count, va_arg(values, char*));
+    const int n =
+        snprintf(line, sizeof line, "%d %d %d: %s", kind, message, count, va_arg(values, char*));
     if (count == 2) snprintf(line + n, sizeof line - size_t(n), " %d", va_arg(values, int));
   }
   va_end(values);
@@ -62,7 +64,12 @@ struct Errors : testing::Test {
 };
 
 TEST_F(Errors, StandardActionsByStatus) {
-  const struct { int status, error; unsigned flag; std::vector<std::string> head; bool values; } cases[] = {
+  const struct {
+    int status, error;
+    unsigned flag;
+    std::vector<std::string> head;
+    bool values;
+  } cases[] = {
       {-2, EACCES, 0, {"1 736 1: vdExp"}, false},
       {-1, EINVAL, 0, {"1 735 2: vdExp 1"}, false},
       {0, 0, 0, {}, false},
@@ -91,7 +98,10 @@ TEST_F(Errors, StandardActionsByStatus) {
 
 TEST_F(Errors, ValueLinesCountArgumentsAndResults) {
   const double nan = NAN;
-  const struct { double a1, a2, r1, r2; std::vector<std::string> lines; } cases[] = {
+  const struct {
+    double a1, a2, r1, r2;
+    std::vector<std::string> lines;
+  } cases[] = {
       {1, 1, 2, 2, {"742 2: 0 1", "743 2: 0 2"}},
       {1, 0, 2, 0, {"742 2: 0 1", "743 2: 0 2"}},
       {1, 1, 2, 3, {"744 2: 0 1", "745 2: 0 2", "746 2: 0 3"}},
@@ -111,7 +121,11 @@ TEST_F(Errors, ValueLinesCountArgumentsAndResults) {
 
 TEST_F(Errors, ModeDecidesWhatHappens) {
   ork_zem_kernel_SetErrorCallBack(callback);
-  const struct { uint32_t mode; int calls; bool with_errno, flag, lines; } cases[] = {
+  const struct {
+    uint32_t mode;
+    int calls;
+    bool with_errno, flag, lines;
+  } cases[] = {
       {0x100, 0, false, false, false},  // IGNORE alone
       {0x300, 0, true, false, false},   // with another bit the dispatch goes on
       {0x1000, 1, false, false, false}, {0x1A00, 1, true, true, false},
@@ -192,7 +206,8 @@ TEST_F(Errors, RejectedCallArgumentsTouchNoElement) {
 template <class T, int parts, class Dispatch>
 void check_type(Dispatch dispatch, int shift) {
   std::vector<T> a(size_t(100 * parts)), b(a), r(a), r2(a);
-  for (size_t i = 0; i < a.size(); ++i) a[i] = T(i), b[i] = T(1000 + i), r[i] = T(2000 + i), r2[i] = T(3000 + i);
+  for (size_t i = 0; i < a.size(); ++i)
+    a[i] = T(i), b[i] = T(1000 + i), r[i] = T(2000 + i), r2[i] = T(3000 + i);
   ork_zem_kernel_SetInterfInputVectorPointer(a.data());
   change = [](ork_error_record* e) {
     e->r1 = 0.1, e->r2 = 0.2;

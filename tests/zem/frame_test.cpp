@@ -8,7 +8,8 @@
 
 namespace {
 
-template <class T> class Frame : public testing::Test {
+template <class T>
+class Frame : public testing::Test {
  protected:
   StateGuard guard;
   Frame() { ork_zem_kernel_SetMode(ORK_ZEM_ERRMODE_IGNORE); }
@@ -17,33 +18,62 @@ using Types = testing::Types<double, float>;
 TYPED_TEST_SUITE(Frame, Types);
 
 // Inside every function's domain.
-template <class T> T tame(int i) { return T(0.1) + T(i % 13) / T(17); }
+template <class T>
+T tame(int i) {
+  return T(0.1) + T(i % 13) / T(17);
+}
 
 // Values of which each is special to some function.
-template <class T> std::vector<T> wild() {
-  std::vector<T> values = {T(0), T(1), T(2), T(0.5), T(1.5), T(10), T(33), T(90), T(200), T(720), T(1e5), T(1e9),
-                           T(1e30), largest<T>, smallest_normal<T>, smallest_denormal<T>,
-                           smallest_normal<T> / 2, inf<T>, quiet_nan<T>};
+template <class T>
+std::vector<T> wild() {
+  std::vector<T> values = {T(0),
+                           T(1),
+                           T(2),
+                           T(0.5),
+                           T(1.5),
+                           T(10),
+                           T(33),
+                           T(90),
+                           T(200),
+                           T(720),
+                           T(1e5),
+                           T(1e9),
+                           T(1e30),
+                           largest<T>,
+                           smallest_normal<T>,
+                           smallest_denormal<T>,
+                           smallest_normal<T> / 2,
+                           inf<T>,
+                           quiet_nan<T>};
   for (size_t i = 0, n = values.size(); i < n; ++i) values.push_back(-values[i]);
   return values;
 }
 
-template <class T> struct One {
+template <class T>
+struct One {
   T r, r2;
 };
-template <class T> One<T> alone(const Call<T>& call, T a, T b) {
+template <class T>
+One<T> alone(const Call<T>& call, T a, T b) {
   One<T> one{0, 0};
   call(1, &a, &b, &one.r, &one.r2);
   return one;
 }
 
-template <class T> int longest(const Call<T>&) { return int(2 * 16 * 8 / sizeof(T) + 3); }
+template <class T>
+int longest(const Call<T>&) {
+  return int(2 * 16 * 8 / sizeof(T) + 3);
+}
 
 // NaN payloads are not part of the promise where an operation meets two of them.
-template <class T> bool same(T x, T y) { return bits(x) == bits(y) || (std::isnan(x) && std::isnan(y)); }
+template <class T>
+bool same(T x, T y) {
+  return bits(x) == bits(y) || (std::isnan(x) && std::isnan(y));
+}
 
 // Where one division serves several elements, their last bits depend on each other.
-template <class T> bool agrees(const Call<T>& call, T x, T y) {
+template <class T>
+bool agrees(const Call<T>& call, T x, T y) {
   const std::string name = call.slot->name(call.level);
   const bool shared = name == "dDiv_W7LA" || !strcmp(call.slot->function, "LinearFrac");
   return same(x, y) ||
@@ -77,8 +107,10 @@ TYPED_TEST(Frame, LengthsOffsetsAndPages) {
       }
     };
     for (int n = -1; n <= top; ++n) {
-      check(n, pa.template at_end<T>(n), pb.template at_end<T>(n), pr.template at_end<T>(n), pr2.template at_end<T>(n), "at the page's end");
-      check(n, pa.template at_start<T>(), pb.template at_start<T>(), pr.template at_start<T>(), pr2.template at_start<T>(), "at the page's start");
+      check(n, pa.template at_end<T>(n), pb.template at_end<T>(n), pr.template at_end<T>(n),
+            pr2.template at_end<T>(n), "at the page's end");
+      check(n, pa.template at_start<T>(), pb.template at_start<T>(), pr.template at_start<T>(),
+            pr2.template at_start<T>(), "at the page's start");
       T* in_place = pa.template at_end<T>(n);
       check(n, in_place, pb.template at_end<T>(n), in_place, pr2.template at_end<T>(n), "in place");
       if (call.inputs() == 2) {
@@ -88,8 +120,9 @@ TYPED_TEST(Frame, LengthsOffsetsAndPages) {
       if (this->HasFatalFailure()) return;
     }
     for (int offset = 0; offset < 16; ++offset) {
-      check(top, pa.template at_start<T>(offset), pb.template at_start<T>((offset * 5) % 16), pr.template at_start<T>((offset * 7) % 16),
-            pr2.template at_start<T>(offset), "at an offset");
+      check(top, pa.template at_start<T>(offset), pb.template at_start<T>((offset * 5) % 16),
+            pr.template at_start<T>((offset * 7) % 16), pr2.template at_start<T>(offset),
+            "at an offset");
       if (this->HasFatalFailure()) return;
     }
   }
@@ -114,9 +147,10 @@ TYPED_TEST(Frame, SpecialLanesDoNotDisturbTheirNeighbours) {
           call(n, start, bs, out, r2);
           for (int i = 0; i < n; ++i) {
             const One<T>& want = i == place ? special : expected[size_t(i % 13)];
-            ASSERT_TRUE(agrees(call, out[i], want.r) && (call.outputs() == 1 || same(r2[i], want.r2)))
-                << call.slot->name(call.level) << " special " << x << " at " << place << ", element "
-                << i << ": " << out[i] << " not " << want.r;
+            ASSERT_TRUE(agrees(call, out[i], want.r) &&
+                        (call.outputs() == 1 || same(r2[i], want.r2)))
+                << call.slot->name(call.level) << " special " << x << " at " << place
+                << ", element " << i << ": " << out[i] << " not " << want.r;
           }
         }
     }
@@ -152,8 +186,9 @@ bool without_frame(const Slot& slot) {
 // Kernels that set the x87 control word themselves. The others that use the unit, for a rare
 // lane, compute there under the caller's word.
 bool sets_x87(const std::string& kernel) {
-  for (const char* name : {"dAcosh_W7HA", "dAsinh_W7HA", "dAtanh_W7HA", "dSinh_W7HA", "dHypot_W7HA", "dDiv_W7LA",
-                           "dSin_T7HA", "dCos_T7HA", "dSinCos_W7LA", "dTan_W7EP", "dTan_W7LA", "sPow_T7HA"})
+  for (const char* name :
+       {"dAcosh_W7HA", "dAsinh_W7HA", "dAtanh_W7HA", "dSinh_W7HA", "dHypot_W7HA", "dDiv_W7LA",
+        "dSin_T7HA", "dCos_T7HA", "dSinCos_W7LA", "dTan_W7EP", "dTan_W7LA", "sPow_T7HA"})
     if (kernel == name) return true;
   return false;
 }
@@ -163,7 +198,8 @@ bool sets_x87(const std::string& kernel) {
 TYPED_TEST(Frame, ProcessorStateIsRestoredAndRoundingIsNearest) {
   using T = TypeParam;
   std::vector<T> a = wild<T>(), r(a.size()), r2(a.size()), nearest(a.size());
-  for (int i = 0; i < 40; ++i) a.push_back(tame<T>(i)), r.push_back(0), r2.push_back(0), nearest.push_back(0);
+  for (int i = 0; i < 40; ++i)
+    a.push_back(tame<T>(i)), r.push_back(0), r2.push_back(0), nearest.push_back(0);
   const std::vector<T> b(a.size(), tame<T>(3));
   const int n = int(a.size());
   for (const auto& call : elementwise_kernels<T>()) {
@@ -185,8 +221,9 @@ TYPED_TEST(Frame, ProcessorStateIsRestoredAndRoundingIsNearest) {
           if (x87 != 0x037F && !sets_x87(call.slot->name(call.level))) continue;
           for (int i = 0; i < n; ++i)
             ASSERT_TRUE(same(r[size_t(i)], nearest[size_t(i)]))
-                << call.slot->name(call.level) << " of " << a[size_t(i)] << " with MXCSR " << std::hex << csr
-                << ", x87 " << x87 << ": " << r[size_t(i)] << " not " << nearest[size_t(i)];
+                << call.slot->name(call.level) << " of " << a[size_t(i)] << " with MXCSR "
+                << std::hex << csr << ", x87 " << x87 << ": " << r[size_t(i)] << " not "
+                << nearest[size_t(i)];
         }
   }
 }

@@ -9,9 +9,11 @@
 
 namespace {
 
-template <class T> constexpr bool wide = sizeof(T) == 8;
+template <class T>
+constexpr bool wide = sizeof(T) == 8;
 
-template <class T> class Hyperbolic : public testing::Test {
+template <class T>
+class Hyperbolic : public testing::Test {
  protected:
   StateGuard guard;
   static constexpr T tiny = smallest_denormal<T>, nan = quiet_nan<T>;
@@ -31,24 +33,92 @@ TYPED_TEST(Hyperbolic, SpecialValues) {
   const auto name = [](const char* d, const char* s) { return wide<T> ? d : s; };
   const T below_one = std::nextafter(T(1), T(0)), above_one = std::nextafter(T(1), T(2));
   for (int level = 0; level < 3; ++level) {
-    check_special<T>({"Sinh", level, name("vdSinh", "vsSinh"), T(0.7), 0,
-                      {{0, 0}, {-T(0), -T(0)}, {tiny, tiny}, {-tiny, -tiny}, {inf<T>, inf<T>}, {-inf<T>, -inf<T>},
-                       {nan, nan}, {over, inf<T>, 3}, {-over, -inf<T>, 3}, {largest<T>, inf<T>, 3}}});
-    check_special<T>({"Cosh", level, name("vdCosh", "vsCosh"), T(0.7), 0,
-                      {{0, 1}, {-T(0), 1}, {tiny, 1}, {inf<T>, inf<T>}, {-inf<T>, inf<T>}, {nan, nan},
-                       {over, inf<T>, 3}, {-over, inf<T>, 3}, {-largest<T>, inf<T>, 3}}});
-    check_special<T>({"Tanh", level, "", T(0.7), 0,
-                      {{0, 0}, {-T(0), -T(0)}, {tiny, tiny}, {-tiny, -tiny}, {20, 1}, {-20, -1}, {largest<T>, 1},
-                       {inf<T>, 1}, {-inf<T>, -1}, {nan, nan}}});
-    check_special<T>({"Asinh", level, "", T(0.7), 0,
-                      {{0, 0}, {-T(0), -T(0)}, {tiny, tiny}, {-tiny, -tiny}, {inf<T>, inf<T>}, {-inf<T>, -inf<T>},
+    check_special<T>({"Sinh",
+                      level,
+                      name("vdSinh", "vsSinh"),
+                      T(0.7),
+                      0,
+                      {{0, 0},
+                       {-T(0), -T(0)},
+                       {tiny, tiny},
+                       {-tiny, -tiny},
+                       {inf<T>, inf<T>},
+                       {-inf<T>, -inf<T>},
+                       {nan, nan},
+                       {over, inf<T>, 3},
+                       {-over, -inf<T>, 3},
+                       {largest<T>, inf<T>, 3}}});
+    check_special<T>({"Cosh",
+                      level,
+                      name("vdCosh", "vsCosh"),
+                      T(0.7),
+                      0,
+                      {{0, 1},
+                       {-T(0), 1},
+                       {tiny, 1},
+                       {inf<T>, inf<T>},
+                       {-inf<T>, inf<T>},
+                       {nan, nan},
+                       {over, inf<T>, 3},
+                       {-over, inf<T>, 3},
+                       {-largest<T>, inf<T>, 3}}});
+    check_special<T>({"Tanh",
+                      level,
+                      "",
+                      T(0.7),
+                      0,
+                      {{0, 0},
+                       {-T(0), -T(0)},
+                       {tiny, tiny},
+                       {-tiny, -tiny},
+                       {20, 1},
+                       {-20, -1},
+                       {largest<T>, 1},
+                       {inf<T>, 1},
+                       {-inf<T>, -1},
                        {nan, nan}}});
-    check_special<T>({"Acosh", level, name("vdAcosh", "vsAcosh"), T(1.7), 0,
-                      {{1, 0}, {below_one, nan, 1}, {0, nan, 1}, {-T(0), nan, 1}, {-1, nan, 1}, {-largest<T>, nan, 1},
-                       {-inf<T>, nan, 1}, {inf<T>, inf<T>}, {nan, nan}}});
-    check_special<T>({"Atanh", level, name("vdAtanh", "vsAtanh"), T(0.7), 0,
-                      {{0, 0}, {-T(0), -T(0)}, {tiny, tiny}, {-tiny, -tiny}, {1, inf<T>, 2}, {-1, -inf<T>, 2},
-                       {above_one, nan, 1}, {-above_one, nan, 1}, {inf<T>, nan, 1}, {-inf<T>, nan, 1}, {nan, nan}}});
+    check_special<T>({"Asinh",
+                      level,
+                      "",
+                      T(0.7),
+                      0,
+                      {{0, 0},
+                       {-T(0), -T(0)},
+                       {tiny, tiny},
+                       {-tiny, -tiny},
+                       {inf<T>, inf<T>},
+                       {-inf<T>, -inf<T>},
+                       {nan, nan}}});
+    check_special<T>({"Acosh",
+                      level,
+                      name("vdAcosh", "vsAcosh"),
+                      T(1.7),
+                      0,
+                      {{1, 0},
+                       {below_one, nan, 1},
+                       {0, nan, 1},
+                       {-T(0), nan, 1},
+                       {-1, nan, 1},
+                       {-largest<T>, nan, 1},
+                       {-inf<T>, nan, 1},
+                       {inf<T>, inf<T>},
+                       {nan, nan}}});
+    check_special<T>({"Atanh",
+                      level,
+                      name("vdAtanh", "vsAtanh"),
+                      T(0.7),
+                      0,
+                      {{0, 0},
+                       {-T(0), -T(0)},
+                       {tiny, tiny},
+                       {-tiny, -tiny},
+                       {1, inf<T>, 2},
+                       {-1, -inf<T>, 2},
+                       {above_one, nan, 1},
+                       {-above_one, nan, 1},
+                       {inf<T>, nan, 1},
+                       {-inf<T>, nan, 1},
+                       {nan, nan}}});
   }
 }
 
@@ -62,7 +132,8 @@ TYPED_TEST(Hyperbolic, FiniteUpToTheLastArgument) {
     const T x[4] = {last, -last, std::nextafter(last, inf<T>), T(1)};
     T r[4];
     const auto events = record_events([&] { call(4, x, nullptr, r, nullptr); });
-    EXPECT_TRUE(std::isfinite(r[0]) && r[0] > largest<T> / 2) << call.slot->name(call.level) << " " << r[0];
+    EXPECT_TRUE(std::isfinite(r[0]) && r[0] > largest<T> / 2)
+        << call.slot->name(call.level) << " " << r[0];
     EXPECT_EQ(r[1], sinh ? -r[0] : r[0]);
     EXPECT_EQ(r[2], inf<T>);
     ASSERT_EQ(events.size(), 1u);
@@ -72,12 +143,15 @@ TYPED_TEST(Hyperbolic, FiniteUpToTheLastArgument) {
 
 TYPED_TEST(Hyperbolic, DirectedPoints) {
   using T = TypeParam;
-  const auto limits = [](double la, double ha, bool same = false) { return TestFixture::limits(la, ha, same); };
+  const auto limits = [](double la, double ha, bool same = false) {
+    return TestFixture::limits(la, ha, same);
+  };
   const T last = std::nextafter(TestFixture::overflow(), T(0));
   std::vector<T> knots{T(0.125), T(0.5), T(1), T(20), T(-0.125), std::ldexp(T(1), -12)};
   for (int i = 1; i < 200; ++i) knots.push_back(T(i) * T(0.6931471805599453) / 128);
   const auto near = neighbours<T>(knots, 2) + spread<T>(-3, 3, 2001);
-  const auto far = near + spread<T>(-double(last), double(last), 2001) + neighbours<T>({wide<T> ? T(708.4) : T(87.33655)}, 40);
+  const auto far = near + spread<T>(-double(last), double(last), 2001) +
+                   neighbours<T>({wide<T> ? T(708.4) : T(87.33655)}, 40);
   check_directed<T>("Sinh", sinhq, far, limits(2.5, wide<T> ? 0.6 : 0.55, wide<T>));
   check_directed<T>("Cosh", coshq, far, limits(2.5, wide<T> ? 0.6 : 0.55, wide<T>));
   std::vector<T> rows;
@@ -86,24 +160,34 @@ TYPED_TEST(Hyperbolic, DirectedPoints) {
                     limits(2, wide<T> ? 0.76 : 0.55, wide<T>));
   const auto wide_range = [] {
     std::vector<T> points;
-    for (int e = std::numeric_limits<T>::min_exponent; e < std::numeric_limits<T>::max_exponent; e += 7)
+    for (int e = std::numeric_limits<T>::min_exponent; e < std::numeric_limits<T>::max_exponent;
+         e += 7)
       points.push_back(std::ldexp(T(1.7), e));
     return points;
   }();
-  check_directed<T>("Asinh", asinhq, near + wide_range + neighbours<T>({largest<T>}, 0), limits(2.5, wide<T> ? 0.52 : 0.51, wide<T>));
-  std::vector<T> above = neighbours<T>({T(1.0004887580871582), T(2), T(1.5)}, 20) + spread<T>(1, 1.001, 500) + spread<T>(1, 9, 999);
+  check_directed<T>("Asinh", asinhq, near + wide_range + neighbours<T>({largest<T>}, 0),
+                    limits(2.5, wide<T> ? 0.52 : 0.51, wide<T>));
+  std::vector<T> above = neighbours<T>({T(1.0004887580871582), T(2), T(1.5)}, 20) +
+                         spread<T>(1, 1.001, 500) + spread<T>(1, 9, 999);
   for (T x = std::numeric_limits<T>::epsilon(); x < 1; x *= 3) above.push_back(1 + x);
   for (const T x : wide_range)
     if (x > 1) above.push_back(x);
   Limits acosh = limits(2.5, wide<T> ? 0.6 : 0.51, wide<T>);
   check_directed<T>("Acosh", acoshq, above + std::vector<T>{largest<T>}, acosh);
-  std::vector<T> inside = neighbours<T>({std::ldexp(T(1), -8), std::ldexp(T(1), -12), T(0.5)}, 20) + spread<T>(-0.9999, 0.9999, 2001);
-  for (T x = 1; x > std::numeric_limits<T>::epsilon(); x /= 3) inside.push_back(1 - x), inside.push_back(x / 2);
+  std::vector<T> inside = neighbours<T>({std::ldexp(T(1), -8), std::ldexp(T(1), -12), T(0.5)}, 20) +
+                          spread<T>(-0.9999, 0.9999, 2001);
+  for (T x = 1; x > std::numeric_limits<T>::epsilon(); x /= 3)
+    inside.push_back(1 - x), inside.push_back(x / 2);
   check_directed<T>("Atanh", atanhq, inside, limits(2.5, wide<T> ? 0.6 : 0.51, wide<T>));
 }
 
-struct Hard { const char *function, *file; double la, ha_d, ha_s; };
-class HardCases : public testing::TestWithParam<Hard> { StateGuard guard; };
+struct Hard {
+  const char *function, *file;
+  double la, ha_d, ha_s;
+};
+class HardCases : public testing::TestWithParam<Hard> {
+  StateGuard guard;
+};
 TEST_P(HardCases, Double) {
   const Hard& h = GetParam();
   check_worst_cases<double>(h.function, h.file, {{h.la, h.ha_d, h.la}, {false, false, false}});
@@ -112,17 +196,20 @@ TEST_P(HardCases, Single) {
   const Hard& h = GetParam();
   check_worst_cases<float>(h.function, h.file, {{h.la, h.ha_s, 0x1p-12}, {false, false, true}});
 }
-INSTANTIATE_TEST_SUITE_P(, HardCases,
-                         testing::Values(Hard{"Sinh", "sinh", 2.5, 0.6, 0.55}, Hard{"Cosh", "cosh", 2.5, 0.6, 0.55},
-                                         Hard{"Tanh", "tanh", 2, 0.76, 0.55}, Hard{"Asinh", "asinh", 2.5, 0.52, 0.51},
-                                         Hard{"Acosh", "acosh", 2.5, 0.6, 0.51}, Hard{"Atanh", "atanh", 2.5, 0.6, 0.51}),
-                         [](const auto& info) { return info.param.function; });
+INSTANTIATE_TEST_SUITE_P(
+    , HardCases,
+    testing::Values(Hard{"Sinh", "sinh", 2.5, 0.6, 0.55}, Hard{"Cosh", "cosh", 2.5, 0.6, 0.55},
+                    Hard{"Tanh", "tanh", 2, 0.76, 0.55}, Hard{"Asinh", "asinh", 2.5, 0.52, 0.51},
+                    Hard{"Acosh", "acosh", 2.5, 0.6, 0.51}, Hard{"Atanh", "atanh", 2.5, 0.6, 0.51}),
+    [](const auto& info) { return info.param.function; });
 
 // Vectors longer than the two-pass buffer, in place, special elements at its borders.
 TEST(TwoPass, BlocksOf64) {
   StateGuard guard;
   for (const auto& call : elementwise_kernels<double>()) {
-    if (strcmp(call.slot->kernels[call.level], "W7HA") != 0 || strcmp(call.slot->function, "Atanh") != 0) continue;
+    if (strcmp(call.slot->kernels[call.level], "W7HA") != 0 ||
+        strcmp(call.slot->function, "Atanh") != 0)
+      continue;
     for (const int n : {63, 64, 65, 128, 200}) {
       std::vector<double> a(size_t(n), 0.25), r;
       for (const int i : {0, 62, 63, 64, 127, 128})

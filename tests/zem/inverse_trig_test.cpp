@@ -12,11 +12,17 @@
 
 namespace {
 
-template <class T> constexpr bool wide = sizeof(T) == 8;
-template <class T> constexpr T pi = T(3.14159265358979323846L);
-template <class T> constexpr T tiny = wide<T> ? T(0x1p-30) : T(0x1p-14);
+template <class T>
+constexpr bool wide = sizeof(T) == 8;
+template <class T>
+constexpr T pi = T(3.14159265358979323846L);
+template <class T>
+constexpr T tiny = wide<T> ? T(0x1p-30) : T(0x1p-14);
 
-template <class T> class InverseTrig : public testing::Test { StateGuard guard; };
+template <class T>
+class InverseTrig : public testing::Test {
+  StateGuard guard;
+};
 using Types = testing::Types<double, float>;
 TYPED_TEST_SUITE(InverseTrig, Types);
 
@@ -26,16 +32,50 @@ TYPED_TEST(InverseTrig, SpecialValues) {
   const T nan = quiet_nan<T>, denormal = smallest_denormal<T>;
   for (int level = 0; level < 3; ++level) {
     const bool ep = level == 2;
-    check_special<T>({"Asin", level, wide<T> ? "vdAsin" : "vsAsin", T(0.3), 0,
-                      {{0, 0}, {-T(0), -T(0)}, {denormal, denormal}, {-3 * denormal, -3 * denormal},
-                       {1, pi<T> / 2}, {-1, -pi<T> / 2}, {nan, nan},
-                       {past_one, nan, 1}, {-past_one, nan, 1}, {inf<T>, nan, 1}, {-inf<T>, nan, 1}}});
-    check_special<T>({"Acos", level, wide<T> ? "vdAcos" : "vsAcos", T(0.3), 0,
-                      {{0, pi<T> / 2}, {-T(0), pi<T> / 2}, {denormal, pi<T> / 2}, {-denormal, pi<T> / 2}, {1, 0}, {-1, pi<T>}, {nan, nan},
-                       {past_one, nan, 1}, {-past_one, nan, 1}, {inf<T>, nan, 1}, {-inf<T>, nan, 1}}});
-    SpecialTable<T> atan{"Atan", level, "", T(0.3), 0,
-                         {{0, 0}, {-T(0), -T(0)}, {inf<T>, pi<T> / 2}, {-inf<T>, -pi<T> / 2}, {nan, nan},
-                          {largest<T>, pi<T> / 2}, {-largest<T>, -pi<T> / 2}}};
+    check_special<T>({"Asin",
+                      level,
+                      wide<T> ? "vdAsin" : "vsAsin",
+                      T(0.3),
+                      0,
+                      {{0, 0},
+                       {-T(0), -T(0)},
+                       {denormal, denormal},
+                       {-3 * denormal, -3 * denormal},
+                       {1, pi<T> / 2},
+                       {-1, -pi<T> / 2},
+                       {nan, nan},
+                       {past_one, nan, 1},
+                       {-past_one, nan, 1},
+                       {inf<T>, nan, 1},
+                       {-inf<T>, nan, 1}}});
+    check_special<T>({"Acos",
+                      level,
+                      wide<T> ? "vdAcos" : "vsAcos",
+                      T(0.3),
+                      0,
+                      {{0, pi<T> / 2},
+                       {-T(0), pi<T> / 2},
+                       {denormal, pi<T> / 2},
+                       {-denormal, pi<T> / 2},
+                       {1, 0},
+                       {-1, pi<T>},
+                       {nan, nan},
+                       {past_one, nan, 1},
+                       {-past_one, nan, 1},
+                       {inf<T>, nan, 1},
+                       {-inf<T>, nan, 1}}});
+    SpecialTable<T> atan{"Atan",
+                         level,
+                         "",
+                         T(0.3),
+                         0,
+                         {{0, 0},
+                          {-T(0), -T(0)},
+                          {inf<T>, pi<T> / 2},
+                          {-inf<T>, -pi<T> / 2},
+                          {nan, nan},
+                          {largest<T>, pi<T> / 2},
+                          {-largest<T>, -pi<T> / 2}}};
     if (!ep) {
       atan.cases.push_back({smallest_denormal<T>, smallest_denormal<T>});
       atan.cases.push_back({-3 * smallest_denormal<T>, -3 * smallest_denormal<T>});
@@ -47,14 +87,27 @@ TYPED_TEST(InverseTrig, SpecialValues) {
 TYPED_TEST(InverseTrig, QuadrantsAsInC99) {
   using T = TypeParam;
   const T nan = quiet_nan<T>, zero = 0;
-  struct Row { T y, x, r; };
-  const Row rows[] = {
-      {zero, zero, zero}, {zero, -zero, pi<T>}, {zero, 1, zero}, {zero, -1, pi<T>}, {1, zero, pi<T> / 2},
-      {1, -zero, pi<T> / 2}, {inf<T>, 1, pi<T> / 2}, {inf<T>, -1, pi<T> / 2}, {1, inf<T>, zero},
-      {1, -inf<T>, pi<T>}, {zero, inf<T>, zero}, {zero, -inf<T>, pi<T>}, {inf<T>, zero, pi<T> / 2},
-      {inf<T>, inf<T>, pi<T> / 4}, {inf<T>, -inf<T>, T(2.356194490192345)},
-      {largest<T>, smallest_denormal<T>, pi<T> / 2}, {smallest_denormal<T>, -largest<T>, pi<T>},
-      {smallest_denormal<T>, largest<T>, zero}};
+  struct Row {
+    T y, x, r;
+  };
+  const Row rows[] = {{zero, zero, zero},
+                      {zero, -zero, pi<T>},
+                      {zero, 1, zero},
+                      {zero, -1, pi<T>},
+                      {1, zero, pi<T> / 2},
+                      {1, -zero, pi<T> / 2},
+                      {inf<T>, 1, pi<T> / 2},
+                      {inf<T>, -1, pi<T> / 2},
+                      {1, inf<T>, zero},
+                      {1, -inf<T>, pi<T>},
+                      {zero, inf<T>, zero},
+                      {zero, -inf<T>, pi<T>},
+                      {inf<T>, zero, pi<T> / 2},
+                      {inf<T>, inf<T>, pi<T> / 4},
+                      {inf<T>, -inf<T>, T(2.356194490192345)},
+                      {largest<T>, smallest_denormal<T>, pi<T> / 2},
+                      {smallest_denormal<T>, -largest<T>, pi<T>},
+                      {smallest_denormal<T>, largest<T>, zero}};
   for (int level = 0; level < 3; ++level) {
     SpecialTable<T> table{"Atan2", level, "", T(0.3), T(0.7), {}};
     for (const Row& row : rows) {
@@ -75,7 +128,8 @@ TYPED_TEST(InverseTrig, DirectedPoints) {
     for (T& x : points) x = std::min(std::max(x, T(-1)), T(1));
     return points;
   };
-  const auto unit = inside(neighbours<T>({T(0.5), T(-0.5), T(1), T(-1), tiny<T>}, 20) + spread<T>(-1, 1, 4001));
+  const auto unit =
+      inside(neighbours<T>({T(0.5), T(-0.5), T(1), T(-1), tiny<T>}, 20) + spread<T>(-1, 1, 4001));
   if (wide<T>) {
     check_directed<T>("Asin", asinq, unit, {{2.5, 0.80, 0x1p-26}, {false, false, true}});
     check_directed<T>("Acos", acosq, unit, {{2.5, 0.80, 0x1p-26}, {false, false, true}});
@@ -93,13 +147,16 @@ TYPED_TEST(InverseTrig, DirectedPoints) {
 }
 
 TYPED_TEST(InverseTrig, HardCasesAsin) {
-  check_worst_cases<TypeParam>("Asin", "asin", {{2.5, wide<TypeParam> ? 0.80 : 0.51, 0x1p-12}, {false, false, true}});
+  check_worst_cases<TypeParam>(
+      "Asin", "asin", {{2.5, wide<TypeParam> ? 0.80 : 0.51, 0x1p-12}, {false, false, true}});
 }
 TYPED_TEST(InverseTrig, HardCasesAcos) {
-  check_worst_cases<TypeParam>("Acos", "acos", {{2.5, wide<TypeParam> ? 0.80 : 0.51, 0x1p-12}, {false, false, true}});
+  check_worst_cases<TypeParam>(
+      "Acos", "acos", {{2.5, wide<TypeParam> ? 0.80 : 0.51, 0x1p-12}, {false, false, true}});
 }
 TYPED_TEST(InverseTrig, HardCasesAtan) {
-  check_worst_cases<TypeParam>("Atan", "atan", {{3.6, wide<TypeParam> ? 0.6 : 0.95, 0x1p-12}, {false, false, true}});
+  check_worst_cases<TypeParam>(
+      "Atan", "atan", {{3.6, wide<TypeParam> ? 0.6 : 0.95, 0x1p-12}, {false, false, true}});
 }
 
 // Every octant, at distances from nearly level to nearly upright; near the ends of the range
@@ -113,7 +170,8 @@ TYPED_TEST(InverseTrig, Atan2InEveryOctant) {
       for (const T s : {T(1), T(-1)})
         for (const T u : {T(1), T(-1)}) {
           const int half = e / 2;
-          y.push_back(s * std::ldexp(1 + T(i) / 16, half)), x.push_back(u * std::ldexp(T(1.3), half - e));
+          y.push_back(s * std::ldexp(1 + T(i) / 16, half)),
+              x.push_back(u * std::ldexp(T(1.3), half - e));
         }
   std::vector<T> r(y.size());
   const double bounds[] = {2.5, 0.51, wide<T> ? 0x1p27 : 0x1p13};
@@ -134,7 +192,9 @@ TYPED_TEST(InverseTrig, Atan2InEveryOctant) {
 
 // Of the single kernels in blocks |x| > 1 yields this very NaN, and a NaN comes out as it went in.
 TEST(InverseTrigSingle, AsinKeepsNanImages) {
-  const float a[] = {2, -2, inf<float>, -inf<float>, from_bits<float>(0x7FC01234), from_bits<float>(0xFFC00001), 0.5f, 1};
+  const float a[] = {
+      2,    -2, inf<float>, -inf<float>, from_bits<float>(0x7FC01234), from_bits<float>(0xFFC00001),
+      0.5f, 1};
   for (int level = 0; level < 3; ++level) {
     float r[8];
     ork_zem_kernel_sAsin_ttab[level](8, a, r);
@@ -157,7 +217,8 @@ TEST(InverseTrigHa, Atan2EqualsTheInstruction) {
   for (int k = 0; k <= 64; ++k)  // quotients at the steps and half-way between them
     for (int i = 1; i < 400; ++i) {
       const double width = std::ldexp(1.0 + double(i), i % 60 - 30);
-      y.push_back((k + (i % 2) / 2.0) / 64 * width + std::ldexp(width, -10 - i % 50)), x.push_back(width);
+      y.push_back((k + (i % 2) / 2.0) / 64 * width + std::ldexp(width, -10 - i % 50)),
+          x.push_back(width);
     }
   std::vector<double> r(y.size());
   for (const auto& call : elementwise_kernels<double>()) {

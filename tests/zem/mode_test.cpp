@@ -8,9 +8,12 @@
 namespace {
 
 // What a fresh thread finds with the variable set to `value` (null: not set).
-template <class F> auto on_fresh_thread(const char* value, F f) {
-  if (value) setenv("ORK_ZEM_MODE", value, 1);
-  else unsetenv("ORK_ZEM_MODE");
+template <class F>
+auto on_fresh_thread(const char* value, F f) {
+  if (value)
+    setenv("ORK_ZEM_MODE", value, 1);
+  else
+    unsetenv("ORK_ZEM_MODE");
   decltype(f()) result{};
   std::thread([&] { result = f(); }).join();
   unsetenv("ORK_ZEM_MODE");
@@ -24,21 +27,37 @@ std::string repeated(const char* token, int times) {
 }
 
 TEST(Mode, EnvironmentGivesFirstWord) {
-  const struct { const char* value; uint32_t mode; } cases[] = {
-      {nullptr, 0x1A02}, {"", 0x1A02}, {"HA", 0x1A02},
-      {"ZEM_LA", 1}, {"ZEM_HA", 2}, {"ZEM_EP", 3},
-      {"ZEM_EP,ZEM_ERRMODE_ERRNO", 0x203}, {"ZEM_ERRMODE_DEFAULT,ZEM_LA", 0x1A01},
+  const struct {
+    const char* value;
+    uint32_t mode;
+  } cases[] = {
+      {nullptr, 0x1A02},
+      {"", 0x1A02},
+      {"HA", 0x1A02},
+      {"ZEM_LA", 1},
+      {"ZEM_HA", 2},
+      {"ZEM_EP", 3},
+      {"ZEM_EP,ZEM_ERRMODE_ERRNO", 0x203},
+      {"ZEM_ERRMODE_DEFAULT,ZEM_LA", 0x1A01},
       {"ZEM_LA,ZEM_HA", 3},
-      {"ZEM_FLOAT_CONSISTENT", 0x10}, {"ZEM_DOUBLE_CONSISTEN", 0x20},
-      {"ZEM_DOUBLE_CONSISTENT", 0x1A02}, {"ZEM_RESTORE", 0x30},
+      {"ZEM_FLOAT_CONSISTENT", 0x10},
+      {"ZEM_DOUBLE_CONSISTEN", 0x20},
+      {"ZEM_DOUBLE_CONSISTENT", 0x1A02},
+      {"ZEM_RESTORE", 0x30},
       {"ZEM_ERRMODE_IGNORE,ZEM_ERRMODE_STDERR,ZEM_ERRMODE_EXCEPT,ZEM_ERRMODE_CALLBACK", 0x1D00},
-      {"ZEM_HA,", 0x1A02}, {"ZEM_HA,ZEM_", 0x1A02}, {"ZEM_HA,HA", 0x1A02}, {"ZEM_HAX", 0x1A02},
-      {"ZEM_HA ,ZEM_LA", 0x1A02}, {"ZEM_LA,ZEM_XX", 0x1A02}, {"zem_ha", 0x1A02},
+      {"ZEM_HA,", 0x1A02},
+      {"ZEM_HA,ZEM_", 0x1A02},
+      {"ZEM_HA,HA", 0x1A02},
+      {"ZEM_HAX", 0x1A02},
+      {"ZEM_HA ,ZEM_LA", 0x1A02},
+      {"ZEM_LA,ZEM_XX", 0x1A02},
+      {"zem_ha", 0x1A02},
       // Read as zero: the word stays uninitialised.
       {"ZEM_DEFAULT_PRECISION", 0},
   };
   for (const auto& c : cases)
-    EXPECT_EQ(on_fresh_thread(c.value, ork_zem_kernel_GetMode), c.mode) << (c.value ? c.value : "(unset)");
+    EXPECT_EQ(on_fresh_thread(c.value, ork_zem_kernel_GetMode), c.mode)
+        << (c.value ? c.value : "(unset)");
 }
 
 TEST(Mode, TokensEndBeforeOffset256) {
@@ -65,10 +84,18 @@ TEST(Mode, ZeroWordIsReadAgain) {
 
 TEST(Mode, FieldsChangeOneByOneAndNeverToZero) {
   std::thread([] {
-    const struct { uint32_t set, before, after; } steps[] = {
-        {0, 0x1A02, 0x1A02}, {0x10, 0x1A02, 0x1A02}, {0xFFC300F0u & ~0xFFFF0Fu, 0x1A02, 0x1A02},
-        {0x3, 0x1A02, 0x1A03}, {0x1000, 0x1A03, 0x1003}, {0x140000, 0x1003, 0x141003},
-        {0x280000, 0x141003, 0x281003}, {0x0100, 0x281003, 0x280103}, {0x141A02, 0x280103, 0x141A02},
+    const struct {
+      uint32_t set, before, after;
+    } steps[] = {
+        {0, 0x1A02, 0x1A02},
+        {0x10, 0x1A02, 0x1A02},
+        {0xFFC300F0u & ~0xFFFF0Fu, 0x1A02, 0x1A02},
+        {0x3, 0x1A02, 0x1A03},
+        {0x1000, 0x1A03, 0x1003},
+        {0x140000, 0x1003, 0x141003},
+        {0x280000, 0x141003, 0x281003},
+        {0x0100, 0x281003, 0x280103},
+        {0x141A02, 0x280103, 0x141A02},
     };
     for (const auto& s : steps) {
       EXPECT_EQ(ork_zem_kernel_SetMode(s.set), s.before);

@@ -141,11 +141,13 @@ constexpr float s_ep[][4] = {
 };
 }  // namespace tanh_rows
 namespace gamma_rows {
-template <class C, int factors> struct Lgamma {
+template <class C, int factors>
+struct Lgamma {
   double middle, per_half;
   C scale, factor[2 * factors];
 };
-template <class C, int factors> struct Low {
+template <class C, int factors>
+struct Low {
   double middle, per_half;
   C scale;
   int zero;
@@ -185,20 +187,25 @@ struct Table {
   std::function<quad(int, quad)> got, exact;
   double bound;  // relative
 };
-template <class T, size_t n> constexpr int count(const T (&)[n]) { return int(n); }
+template <class T, size_t n>
+constexpr int count(const T (&)[n]) {
+  return int(n);
+}
 
 void check(const std::vector<Table>& tables) {
   for (const Table& t : tables)
     for (int i = 0; i < t.rows; i += 1 + t.rows / 40)
       for (const quad u : {0.01Q, 0.47Q, 0.99Q}) {
         const quad exact = t.exact(i, u), got = t.got(i, u);
-        ASSERT_LE(double(fabsq(got - exact)), t.bound * double(fabsq(exact))) << t.name << " row " << i << " at " << double(u);
+        ASSERT_LE(double(fabsq(got - exact)), t.bound * double(fabsq(exact)))
+            << t.name << " row " << i << " at " << double(u);
       }
 }
 
 const quad root_2 = sqrtq(2), root_pi = sqrtq(M_PIq);
 quad power(quad e) { return exp2q(e); }
-template <class Row> quad polynomial(const Row& row, int first, int last, quad t) {
+template <class Row>
+quad polynomial(const Row& row, int first, int last, quad t) {
   quad p = 0;
   for (int n = last; n >= first; --n) p = p * t + quad(row[n]);
   return p;
@@ -213,7 +220,9 @@ TEST(Tables, ValuesAtNodes) {
     return [=](int j, quad) { return scale * erfcq(quad(j) / steps / root_2) / 2; };
   };
   const auto density = [](int steps, quad scale) {
-    return [=](int j, quad) { return scale * expq(-quad(j) * j / steps / steps / 2) / (root_2 * root_pi); };
+    return [=](int j, quad) {
+      return scale * expq(-quad(j) * j / steps / steps / 2) / (root_2 * root_pi);
+    };
   };
   const quad g = power(128), gs = power(48);
   using namespace erf_rows;
@@ -222,39 +231,64 @@ TEST(Tables, ValuesAtNodes) {
       {"erf d slope", 767, [](int j, quad) -> quad { return d[j][1]; }, slope, one},
       {"erf s", 767, [](int j, quad) -> quad { return s[j][0]; }, erf, single},
       {"erf s slope", 767, [](int j, quad) -> quad { return s[j][1]; }, slope, single},
-      {"erf d HA", 767, [=](int j, quad) { return (quad(d_ha[j][0]) + d_ha[j][2]) / g; }, erf, 0x1p-104},
-      {"erf d HA slope", 767, [=](int j, quad) { return (quad(d_ha[j][1]) + d_ha[j][3]) / g; }, slope, 0x1p-78},
-      {"cdfnorm d EP", 38 * 64, [](int j, quad) -> quad { return cdf_rows::d_ep[j][0]; }, tail(64, g), one},
-      {"cdfnorm d EP slope", 38 * 64, [](int j, quad) -> quad { return cdf_rows::d_ep[j][1]; }, density(64, g), one},
-      {"cdfnorm d LA", 38 * 128, [](int j, quad) -> quad { return cdf_rows::d_la[j][0]; }, tail(128, g), one},
-      {"cdfnorm d LA slope", 38 * 128, [](int j, quad) -> quad { return cdf_rows::d_la[j][1]; }, density(128, g), one},
-      {"cdfnorm d HA", 38 * 128, [](int j, quad) { return quad(cdf_rows::d_ha[j][0]) + cdf_rows::d_ha[j][2]; }, tail(128, g), 0x1p-100},
-      {"cdfnorm d HA slope", 38 * 128, [](int j, quad) { return quad(cdf_rows::d_ha[j][1]) + cdf_rows::d_ha[j][3]; }, density(128, g), 0x1p-78},
-      {"cdfnorm s", 14 * 64, [](int j, quad) -> quad { return cdf_rows::s[j][0]; }, tail(64, gs), one},
-      {"cdfnorm s slope", 14 * 64, [](int j, quad) -> quad { return cdf_rows::s[j][1]; }, density(64, gs), one},
+      {"erf d HA", 767, [=](int j, quad) { return (quad(d_ha[j][0]) + d_ha[j][2]) / g; }, erf,
+       0x1p-104},
+      {"erf d HA slope", 767, [=](int j, quad) { return (quad(d_ha[j][1]) + d_ha[j][3]) / g; },
+       slope, 0x1p-78},
+      {"cdfnorm d EP", 38 * 64, [](int j, quad) -> quad { return cdf_rows::d_ep[j][0]; },
+       tail(64, g), one},
+      {"cdfnorm d EP slope", 38 * 64, [](int j, quad) -> quad { return cdf_rows::d_ep[j][1]; },
+       density(64, g), one},
+      {"cdfnorm d LA", 38 * 128, [](int j, quad) -> quad { return cdf_rows::d_la[j][0]; },
+       tail(128, g), one},
+      {"cdfnorm d LA slope", 38 * 128, [](int j, quad) -> quad { return cdf_rows::d_la[j][1]; },
+       density(128, g), one},
+      {"cdfnorm d HA", 38 * 128,
+       [](int j, quad) { return quad(cdf_rows::d_ha[j][0]) + cdf_rows::d_ha[j][2]; }, tail(128, g),
+       0x1p-100},
+      {"cdfnorm d HA slope", 38 * 128,
+       [](int j, quad) { return quad(cdf_rows::d_ha[j][1]) + cdf_rows::d_ha[j][3]; },
+       density(128, g), 0x1p-78},
+      {"cdfnorm s", 14 * 64, [](int j, quad) -> quad { return cdf_rows::s[j][0]; }, tail(64, gs),
+       one},
+      {"cdfnorm s slope", 14 * 64, [](int j, quad) -> quad { return cdf_rows::s[j][1]; },
+       density(64, gs), one},
       {"atan", 126, [](int i, quad) { return quad(atan_rows::d[i][0]) + atan_rows::d[i][1]; },
-       [](int i, quad) { return i == 0 ? 0 : atanq(power((i - 1) / 16 - 3) * (1 + (quad((i - 1) % 16) + 0.5Q) / 16)); }, 0x1p-104},
-      {"atan2", 65, [](int i, quad) { return quad(atan_rows::steps[i][0]) + atan_rows::steps[i][1]; },
+       [](int i, quad) {
+         return i == 0 ? 0
+                       : atanq(power((i - 1) / 16 - 3) * (1 + (quad((i - 1) % 16) + 0.5Q) / 16));
+       },
+       0x1p-104},
+      {"atan2", 65,
+       [](int i, quad) { return quad(atan_rows::steps[i][0]) + atan_rows::steps[i][1]; },
        [](int i, quad) { return atanq(i / 64.0Q); }, 0x1p-104},
-      {"2^(j/64)", 64, [](int i, quad) { return quad(exp_rows::split64[i][0]) + exp_rows::split64[i][1]; },
+      {"2^(j/64)", 64,
+       [](int i, quad) { return quad(exp_rows::split64[i][0]) + exp_rows::split64[i][1]; },
        [](int i, quad) { return power(i / 64.0Q); }, 0x1p-96},
-      {"2^(j/128)", 128, [](int i, quad) -> quad { return exp_rows::power128[i]; }, [](int i, quad) { return power(i / 128.0Q); }, one},
-      {"2^(j/128) s", 128, [](int i, quad) { return quad(exp_rows::split128_s[i][0]) + exp_rows::split128_s[i][1]; },
+      {"2^(j/128)", 128, [](int i, quad) -> quad { return exp_rows::power128[i]; },
+       [](int i, quad) { return power(i / 128.0Q); }, one},
+      {"2^(j/128) s", 128,
+       [](int i, quad) { return quad(exp_rows::split128_s[i][0]) + exp_rows::split128_s[i][1]; },
        [](int i, quad) { return power(i / 128.0Q); }, 0x1p-46},
-      {"2^(j/128) erfc", 128, [](int i, quad) { return quad(exp_rows::erfc128[i][0]) + exp_rows::erfc128[i][1]; },
+      {"2^(j/128) erfc", 128,
+       [](int i, quad) { return quad(exp_rows::erfc128[i][0]) + exp_rows::erfc128[i][1]; },
        [](int i, quad) { return power(i / 128.0Q); }, 0x1p-78},
       {"-ln c", 256, [](int i, quad) { return quad(ln_rows::asinh[i][0]) + ln_rows::asinh[i][1]; },
        [](int i, quad) { return -logq(ln_rows::asinh[i][2]); }, 0x1p-100},
-      {"c", 256, [](int i, quad) -> quad { return ln_rows::asinh[i][2]; }, [](int i, quad) { return 256 / (256.0Q + i); }, 0x1p-21},
+      {"c", 256, [](int i, quad) -> quad { return ln_rows::asinh[i][2]; },
+       [](int i, quad) { return 256 / (256.0Q + i); }, 0x1p-21},
       {"ln c of the tails", 256, [](int i, quad) -> quad { return ln_rows::tails[i][1]; },
        [](int i, quad) { return logq(ln_rows::tails[i][0]); }, one},
-      {"c of the tails", 256, [](int i, quad) -> quad { return ln_rows::tails[i][0]; }, [](int i, quad) { return 256 / (256.5Q + i); }, 0x1p-14},
+      {"c of the tails", 256, [](int i, quad) -> quad { return ln_rows::tails[i][0]; },
+       [](int i, quad) { return 256 / (256.5Q + i); }, 0x1p-14},
   });
 }
 
 // exp(x^2) erfc(x) from the left end of a quarter of a binade.
 TEST(Tables, Erfc) {
-  const auto end = [](int i) { return i == 0 ? quad(0) : power((i - 1) / 4 - 2) * (4 + (i - 1) % 4) / 4; };
+  const auto end = [](int i) {
+    return i == 0 ? quad(0) : power((i - 1) / 4 - 2) * (4 + (i - 1) % 4) / 4;
+  };
   const auto place = [=](int i, quad u) { return u * (end(i + 1) - end(i)); };
   const auto exact = [=](int i, quad u) {
     const quad x = end(i) + place(i, u);
@@ -287,7 +321,8 @@ TEST(Tables, InverseErrorFunctions) {
     };
   };
   const auto rows = [](const auto& table, int parts, int degree) {
-    return [=, &table](int i, quad u) { return polynomial(table[i], 0, degree, (u - 0.5Q) / parts); };
+    return
+        [=, &table](int i, quad u) { return polynomial(table[i], 0, degree, (u - 0.5Q) / parts); };
   };
   const auto split = [](const auto& table) {
     return [&table](int i, quad u) {
@@ -297,14 +332,19 @@ TEST(Tables, InverseErrorFunctions) {
   };
   // The cubics of single ErfInv begin at w = 2^-24, and take w unscaled.
   const auto upward = [](const auto& table, int parts) {
-    return [=, &table](int i, quad u) { return polynomial(table[i], 0, 3, (u - 0.5Q) / parts * power(i / parts - 24)); };
+    return [=, &table](int i, quad u) {
+      return polynomial(table[i], 0, 3, (u - 0.5Q) / parts * power(i / parts - 24));
+    };
   };
   const auto exact_upward = [=](int parts) {
     return [=](int i, quad u) { return exact(parts, 1)(24 * parts - 1 - i, u); };
   };
   using namespace inverse_rows;
   check({
-      {"erfinv d EP", 848, [](int i, quad u) { return polynomial(erf_d_ep[i], 0, 3, (u - 0.5Q) / 16 * power(-1 - i / 16)); },
+      {"erfinv d EP", 848,
+       [](int i, quad u) {
+         return polynomial(erf_d_ep[i], 0, 3, (u - 0.5Q) / 16 * power(-1 - i / 16));
+       },
        exact(16, 1), 0x1p-26},
       {"erfinv d LA", 212, rows(erf_d_la, 4, 11), exact(4, 1), 0x1p-52},
       {"erfinv d HA", 212, split(erf_d_ha), exact(4, 1), 0x1p-57},
@@ -325,27 +365,39 @@ TEST(Tables, InverseErrorFunctions) {
 
 // Eighths of binades from 0.125 on, about their centres; row 0 below.
 TEST(Tables, Tanh) {
-  const auto low = [](int i) { return i == 0 ? quad(0) : power((i - 1) / 8 - 3) * (8 + (i - 1) % 8) / 8; };
+  const auto low = [](int i) {
+    return i == 0 ? quad(0) : power((i - 1) / 8 - 3) * (8 + (i - 1) % 8) / 8;
+  };
   const auto at = [=](int i, quad u) { return low(i) + u * (low(i + 1) - low(i)); };
-  const auto from_centre = [=](int i, quad u) { return at(i, u) - (i == 0 ? 0 : (low(i) + low(i + 1)) / 2); };
+  const auto from_centre = [=](int i, quad u) {
+    return at(i, u) - (i == 0 ? 0 : (low(i) + low(i + 1)) / 2);
+  };
   const auto exact = [=](int i, quad u) { return tanhq(at(i, u)); };
   using namespace tanh_rows;
   check({
-      {"tanh d", 59, [=](int i, quad u) { const quad t = at(i, u) + d[i][12]; return polynomial(d[i], 1, 11, t) + quad(d[i][0]); }, exact, 0x1p-54},
+      {"tanh d", 59,
+       [=](int i, quad u) {
+         const quad t = at(i, u) + d[i][12];
+         return polynomial(d[i], 1, 11, t) + quad(d[i][0]);
+       },
+       exact, 0x1p-54},
       {"tanh s", 51,
        [=](int i, quad u) {
          const quad t = from_centre(i, u);
-         return quad(s[i][0]) + s[i][1] + t * (quad(s[i][2]) + s[i][3] + t * polynomial(s[i], 4, 7, t));
+         return quad(s[i][0]) + s[i][1] +
+                t * (quad(s[i][2]) + s[i][3] + t * polynomial(s[i], 4, 7, t));
        },
        exact, 0x1p-28},
-      {"tanh s EP", 51, [=](int i, quad u) { return polynomial(s_ep[i], 0, 3, from_centre(i, u)); }, exact, 0x1p-18},
+      {"tanh s EP", 51, [=](int i, quad u) { return polynomial(s_ep[i], 0, 3, from_centre(i, u)); },
+       exact, 0x1p-18},
   });
 }
 
 TEST(Tables, Gamma) {
   const auto product = [](const auto& row, quad t) {
     quad y = row.scale;
-    for (int k = 0; k < count(row.factor); k += 2) y *= (t * t + quad(row.factor[k + 1])) + quad(row.factor[k]) * t;
+    for (int k = 0; k < count(row.factor); k += 2)
+      y *= (t * t + quad(row.factor[k + 1])) + quad(row.factor[k]) * t;
     return y;
   };
   const auto binade = [=](const auto& table) {
@@ -367,7 +419,8 @@ TEST(Tables, Gamma) {
     return [=, &table](int i, quad u) {
       const quad f = u - 0.5Q;
       quad y = table[i][0];
-      for (int k = 1; k < columns; k += 2) y *= 1 + quad(table[i][k]) * f + quad(table[i][k + 1]) * f * f;
+      for (int k = 1; k < columns; k += 2)
+        y *= 1 + quad(table[i][k]) * f + quad(table[i][k + 1]) * f * f;
       return y;
     };
   };
@@ -377,8 +430,10 @@ TEST(Tables, Gamma) {
       {"lgamma s", count(binades_s), binade(binades_s), of_binade, 0x1p-32},
       {"lgamma low d", count(low_d), low(low_d), of_low(low_d), 0x1p-61},
       {"lgamma low s", count(low_s), low(low_s), of_low(low_s), 0x1p-28},
-      {"tgamma d", count(tgamma_d), shifted(tgamma_d, 25), [](int i, quad u) { return tgammaq(3 + 4 * i + u - 0.5Q); }, 0x1p-61},
-      {"tgamma s", count(tgamma_s), shifted(tgamma_s, 13), [](int i, quad u) { return tgammaq(3 + i + u - 0.5Q); }, 0x1p-29},
+      {"tgamma d", count(tgamma_d), shifted(tgamma_d, 25),
+       [](int i, quad u) { return tgammaq(3 + 4 * i + u - 0.5Q); }, 0x1p-61},
+      {"tgamma s", count(tgamma_s), shifted(tgamma_s, 13),
+       [](int i, quad u) { return tgammaq(3 + i + u - 0.5Q); }, 0x1p-29},
   });
   // The zeros at negative x: the function vanishes there, and its slope is digamma.
   for (const Root& root : roots) {
@@ -387,7 +442,8 @@ TEST(Tables, Gamma) {
     ASSERT_LT(double(fabsq(lgammaq(zero))), 0x1p-95 * double(fabsq(1 / width))) << root.high;
     for (const quad t : {-0.99Q, -0.5Q, 0.3Q, 0.99Q}) {
       const quad exact = lgammaq(zero + t * width), got = t * polynomial(root.c, 0, 23, t);
-      ASSERT_LE(double(fabsq(got - exact)), 0x1p-62 * double(fabsq(exact))) << root.high << " at " << double(t);
+      ASSERT_LE(double(fabsq(got - exact)), 0x1p-62 * double(fabsq(exact)))
+          << root.high << " at " << double(t);
     }
   }
 }

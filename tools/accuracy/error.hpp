@@ -7,15 +7,20 @@
 #include "accuracy/reference.hpp"
 
 // The precision that exact values of an element type's functions are computed in.
-template <class T> struct Wide;
-template <> struct Wide<double> {
+template <class T>
+struct Wide;
+template <>
+struct Wide<double> {
   using type = quad;
   static constexpr int digits = 53, min_exponent = -1022, max_exponent = 1023;
   static int exponent(quad x) { return ilogbq(x); }
   static quad scale(quad x, int e) { return scalbnq(x, e); }
-  static quad call(const Reference& f, int output, quad a, quad b) { return (output ? f.wide2 : f.wide)(a, b); }
+  static quad call(const Reference& f, int output, quad a, quad b) {
+    return (output ? f.wide2 : f.wide)(a, b);
+  }
 };
-template <> struct Wide<float> {
+template <>
+struct Wide<float> {
   using type = long double;
   static constexpr int digits = 24, min_exponent = -126, max_exponent = 127;
   static int exponent(long double x) { return ilogbl(x); }
@@ -27,7 +32,8 @@ template <> struct Wide<float> {
 
 // In ulp or relative; infinite where one of the two is a NaN, or a finite value lies where an
 // infinity is due.
-template <class T> double error_of(T got, typename Wide<T>::type exact, bool relative) {
+template <class T>
+double error_of(T got, typename Wide<T>::type exact, bool relative) {
   using W = Wide<T>;
   using R = typename W::type;
   const bool nan = exact != exact;

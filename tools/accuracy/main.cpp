@@ -34,8 +34,8 @@ constexpr int block = 4096;
 
 // Measures the kernels of one function on a block of arguments, the exact values taken once.
 template <class T>
-void measure_block(const Reference& reference, const Slot& slot, std::vector<Measured>& kernels, const T* a,
-                   const T* b, int n) {
+void measure_block(const Reference& reference, const Slot& slot, std::vector<Measured>& kernels,
+                   const T* a, const T* b, int n) {
   static thread_local std::vector<T> r(block), r2(block);
   static thread_local std::vector<typename Wide<T>::type> exact[2] = {
       std::vector<typename Wide<T>::type>(block), std::vector<typename Wide<T>::type>(block)};
@@ -49,7 +49,9 @@ void measure_block(const Reference& reference, const Slot& slot, std::vector<Mea
         const T got = (k ? r2 : r)[size_t(i)];
         const double error = error_of(got, exact[k][size_t(i)], m.claim.relative);
         if (error > m.worst.error)
-          m.worst = {error, double(a[i]), double(b[i]), double(got), double(exact[k][size_t(i)]), m.worst.points};
+          m.worst = {
+              error,         double(a[i]), double(b[i]), double(got), double(exact[k][size_t(i)]),
+              m.worst.points};
       }
     m.worst.points += n;
   }
@@ -58,14 +60,15 @@ void measure_block(const Reference& reference, const Slot& slot, std::vector<Mea
 // The double kernel of a single-precision function.
 const Slot* double_twin(const Slot& slot) {
   for (const Slot& other : slots)
-    if (other.type == 'd' && !strcmp(other.function, slot.function) && other.exists(1)) return &other;
+    if (other.type == 'd' && !strcmp(other.function, slot.function) && other.exists(1))
+      return &other;
   return nullptr;
 }
 
 // The same for all 2^32 arguments, in minutes: the double HA kernel, some 2^-29 ulp of single
 // off, sifts; what it finds worse than the worst so far is measured against the reference.
-void sift_block(const Reference& reference, const Slot& slot, const Slot& twin, std::vector<Measured>& kernels,
-                const float* a, int n) {
+void sift_block(const Reference& reference, const Slot& slot, const Slot& twin,
+                std::vector<Measured>& kernels, const float* a, int n) {
   alignas(16) static thread_local double wide[block], near[2][block];
   alignas(16) static thread_local float r[2][block];
   constexpr double overflow = 0x1.ffffffp127;  // from here on an infinity is right
@@ -76,7 +79,8 @@ void sift_block(const Reference& reference, const Slot& slot, const Slot& twin, 
     Call<float>{&slot, m.level}(n, a, a, r[0], r[1]);
     for (int k = 0; k < outputs; ++k)
       for (int pair = 0; pair < n; pair += 2) {
-        const int suspects = worse_pair(r[k] + pair, near[k] + pair, m.worst.error, m.claim.relative);
+        const int suspects =
+            worse_pair(r[k] + pair, near[k] + pair, m.worst.error, m.claim.relative);
         for (int i = pair; i < pair + 2; ++i) {
           if (!(suspects >> (i - pair) & 1)) continue;
           const double got = r[k][i], exact = near[k][i];
@@ -84,7 +88,8 @@ void sift_block(const Reference& reference, const Slot& slot, const Slot& twin, 
           if (std::fabs(exact) >= overflow && got == (exact > 0 ? INFINITY : -INFINITY)) continue;
           const long double truth = Wide<float>::call(reference, k, a[i], 0);
           const double error = error_of(r[k][i], truth, m.claim.relative);
-          if (error > m.worst.error) m.worst = {error, double(a[i]), 0, got, double(truth), m.worst.points};
+          if (error > m.worst.error)
+            m.worst = {error, double(a[i]), 0, got, double(truth), m.worst.points};
         }
       }
     m.worst.points += n;
@@ -100,7 +105,8 @@ void merge(std::vector<Measured>& to, const std::vector<Measured>& from) {
 }
 
 // Splits blocks 0 to count - 1 among the processor's threads; f(block number, kernels).
-template <class F> void on_all_threads(long long count, std::vector<Measured>& kernels, F f) {
+template <class F>
+void on_all_threads(long long count, std::vector<Measured>& kernels, F f) {
   std::mutex lock;
   const auto blank = kernels;
   std::vector<std::thread> threads;
@@ -125,15 +131,18 @@ void measure_all(const Slot& slot, std::vector<Measured>& kernels) {
       const float x = std::bit_cast<float>(uint32_t(number * block + i));
       a[i] = std::isnan(x) ? 1 : x;
     }
-    if (twin) sift_block(reference, slot, *twin, mine, a, block);
-    else measure_block<float>(reference, slot, mine, a, b, block);
+    if (twin)
+      sift_block(reference, slot, *twin, mine, a, block);
+    else
+      measure_block<float>(reference, slot, mine, a, b, block);
   });
 }
 
 template <class T>
 void measure(const Claims& claims, const Slot& slot, std::vector<Measured>& kernels, int points) {
   const Reference& reference = *find_reference(slot.function);
-  const bool binary = slot.form == Form::binary || slot.form == Form::linear || slot.form == Form::scalar;
+  const bool binary =
+      slot.form == Form::binary || slot.form == Form::linear || slot.form == Form::scalar;
   const auto p = make_points<T>(claims, std::string(1, slot.type) + slot.function, binary, points);
   // One exponent serves a whole call of the scalar form.
   const int step = slot.form == Form::scalar ? 1 : block;
@@ -164,12 +173,18 @@ Options parse(int argc, char** argv) {
   Options o;
   for (int i = 1; i < argc; ++i) {
     const std::string word = argv[i];
-    if (word == "--root" && i + 1 < argc) o.root = argv[++i];
-    else if (word == "--points" && i + 1 < argc) o.points = std::atoi(argv[++i]);
-    else if (word == "--exhaustive") o.exhaustive = true;
-    else if (word == "--dry") o.dry = true;
-    else if (word.starts_with("--")) std::fprintf(stderr, "unknown option %s\n", argv[i]), std::exit(2);
-    else o.names.push_back(word);
+    if (word == "--root" && i + 1 < argc)
+      o.root = argv[++i];
+    else if (word == "--points" && i + 1 < argc)
+      o.points = std::atoi(argv[++i]);
+    else if (word == "--exhaustive")
+      o.exhaustive = true;
+    else if (word == "--dry")
+      o.dry = true;
+    else if (word.starts_with("--"))
+      std::fprintf(stderr, "unknown option %s\n", argv[i]), std::exit(2);
+    else
+      o.names.push_back(word);
   }
   return o;
 }
@@ -183,7 +198,9 @@ int main(int argc, char** argv) {
   int failures = 0, measured = 0;
   for (const Slot& slot : slots) {
     if (slot.form >= Form::pack_i || (slot.type != 'd' && slot.type != 's')) continue;
-    if (options.exhaustive && (slot.type != 's' || (slot.form != Form::unary && slot.form != Form::two))) continue;
+    if (options.exhaustive &&
+        (slot.type != 's' || (slot.form != Form::unary && slot.form != Form::two)))
+      continue;
     std::vector<Measured> kernels;
     for (int level = 0; level < 3; ++level) {
       bool again = false;
@@ -203,17 +220,23 @@ int main(int argc, char** argv) {
       ++failures;
       continue;
     }
-    if (options.exhaustive) measure_all(slot, kernels);
-    else if (slot.type == 'd') measure<double>(claims, slot, kernels, options.points);
-    else measure<float>(claims, slot, kernels, options.points);
-    const bool binary = slot.form == Form::binary || slot.form == Form::linear || slot.form == Form::scalar;
+    if (options.exhaustive)
+      measure_all(slot, kernels);
+    else if (slot.type == 'd')
+      measure<double>(claims, slot, kernels, options.points);
+    else
+      measure<float>(claims, slot, kernels, options.points);
+    const bool binary =
+        slot.form == Form::binary || slot.form == Form::linear || slot.form == Form::scalar;
     for (const Measured& m : kernels) {
       const bool exceeded = !(m.worst.error <= m.claim.bound);
       failures += exceeded;
       ++measured;
       rows[m.kernel] = table_row(m.kernel, m.worst, m.claim.bound, m.claim.relative, binary);
       std::printf("%s%s\n", rows[m.kernel].c_str(), exceeded ? "  EXCEEDED" : "");
-      if (exceeded) std::printf("    exact %.17g, got %.17g at %.17g %.17g\n", m.worst.exact, m.worst.got, m.worst.a, m.worst.b);
+      if (exceeded)
+        std::printf("    exact %.17g, got %.17g at %.17g %.17g\n", m.worst.exact, m.worst.got,
+                    m.worst.a, m.worst.b);
       std::fflush(stdout);
     }
   }

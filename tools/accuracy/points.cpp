@@ -8,9 +8,11 @@
 
 namespace {
 
-template <class T> using Bits = std::conditional_t<sizeof(T) == 8, uint64_t, uint32_t>;
+template <class T>
+using Bits = std::conditional_t<sizeof(T) == 8, uint64_t, uint32_t>;
 
-template <class T> T draw(Random& random, bool log, double low, double high) {
+template <class T>
+T draw(Random& random, bool log, double low, double high) {
   if (!log) return T(low + (high - low) * random.uniform());
   const double l = std::log2(low), h = std::log2(high);
   // The exponent from the interval, the low bits at random: no argument of few digits.
@@ -19,14 +21,16 @@ template <class T> T draw(Random& random, bool log, double low, double high) {
   return random.next() & 1 ? -x : x;
 }
 
-template <class T> T any_finite(Random& random) {
+template <class T>
+T any_finite(Random& random) {
   for (;;) {
     const T x = std::bit_cast<T>(Bits<T>(random.next()));
     if (std::isfinite(x)) return x;
   }
 }
 
-template <class T> void neighbours(std::vector<T>& to, T centre, int each_side) {
+template <class T>
+void neighbours(std::vector<T>& to, T centre, int each_side) {
   const auto image = std::bit_cast<Bits<T>>(centre);
   for (int k = -each_side; k <= each_side; ++k) {
     const T x = std::bit_cast<T>(Bits<T>(image + Bits<T>(k)));
@@ -43,12 +47,14 @@ Points<T> make_points(const Claims& claims, const std::string& function, bool bi
   Points<T> points;
   std::vector<T> directed;
   using L = std::numeric_limits<T>;
-  for (int e = L::min_exponent - L::digits; e < L::max_exponent; ++e) neighbours(directed, T(std::ldexp(1.0, e)), 2);
+  for (int e = L::min_exponent - L::digits; e < L::max_exponent; ++e)
+    neighbours(directed, T(std::ldexp(1.0, e)), 2);
   if (const auto near = claims.near.find(function); near != claims.near.end())
     for (const double x : near->second) neighbours(directed, T(x), 64);
 
   const auto ranges = claims.ranges.find(function);
-  const int share = ranges == claims.ranges.end() ? 0 : int(count * 0.9 / double(ranges->second.size()));
+  const int share =
+      ranges == claims.ranges.end() ? 0 : int(count * 0.9 / double(ranges->second.size()));
   if (share)
     for (const Range& r : ranges->second)
       for (int i = 0; i < share; ++i) {

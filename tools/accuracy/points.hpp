@@ -15,7 +15,8 @@ struct Random {
   double uniform() { return double(next() >> 11) * 0x1p-53; }
 };
 
-template <class T> struct Points {
+template <class T>
+struct Points {
   std::vector<T> a, b;
 };
 

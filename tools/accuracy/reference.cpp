@@ -7,20 +7,22 @@
 #include "accuracy/inverse_error.hpp"
 
 // The same names at both widths, so that a row states its function once.
-#define BOTH(name)                                   \
-  static quad name(quad x) { return name##q(x); }    \
+#define BOTH(name)                                \
+  static quad name(quad x) { return name##q(x); } \
   static long double name(long double x) { return name##l(x); }
-#define BOTH2(name)                                                  \
-  static quad name(quad x, quad y) { return name##q(x, y); }         \
+#define BOTH2(name)                                          \
+  static quad name(quad x, quad y) { return name##q(x, y); } \
   static long double name(long double x, long double y) { return name##l(x, y); }
 
 namespace exact {
+// clang-format off
 BOTH(exp) BOTH(expm1) BOTH(log) BOTH(log10) BOTH(log1p) BOTH(sqrt) BOTH(cbrt)
 BOTH(sin) BOTH(cos) BOTH(tan) BOTH(asin) BOTH(acos) BOTH(atan)
 BOTH(sinh) BOTH(cosh) BOTH(tanh) BOTH(asinh) BOTH(acosh) BOTH(atanh)
 BOTH(erf) BOTH(erfc) BOTH(lgamma) BOTH(tgamma)
 BOTH(floor) BOTH(ceil) BOTH(trunc) BOTH(round) BOTH(rint) BOTH(fabs)
-BOTH2(pow) BOTH2(hypot) BOTH2(atan2)
+BOTH2(pow) BOTH2(hypot) BOTH2(atan2);
+// clang-format on
 
 // A term of LinearFrac as IEEE arithmetic gives it in the kernel's type: near its zero the
 // rounding of the product is all that is left, and no fault of the quotient.
@@ -30,20 +32,24 @@ static long double linear(long double x, double scale, double shift) {
 }
 
 #define ONE(name, expression)                                        \
-  {#name, [](quad x, quad y) -> quad { (void)y; return expression; }, \
-   [](long double x, long double y) -> long double { (void)y; return expression; }}
-#define TWO(name, first, second)                                                       \
-  {#name, [](quad x, quad y) -> quad { (void)y; return first; },                       \
+  {                                                                  \
+#name, [](quad x, quad y) -> quad { (void)y; return expression; }, \
+   [](long double x, long double y) -> long double { (void)y; return expression; } \
+  }
+#define TWO(name, first, second)                                                      \
+  {                                                                                   \
+#name, [](quad x, quad y) -> quad { (void)y; return first; },                       \
    [](long double x, long double y) -> long double { (void)y; return first; },         \
    [](quad x, quad y) -> quad { (void)y; return second; },                             \
-   [](long double x, long double y) -> long double { (void)y; return second; }}
+   [](long double x, long double y) -> long double { (void)y; return second; } \
+  }
 
 static const Reference rows[] = {
     ONE(Add, x + y),
     ONE(Sub, x - y),
-    ONE(Mul, x * y),
+    ONE(Mul, x* y),
     ONE(Div, x / y),
-    ONE(Sqr, x * x),
+    ONE(Sqr, x* x),
     ONE(Abs, fabs(x)),
     ONE(Exp, exp(x)),
     ONE(Expm1, expm1(x)),
@@ -64,7 +70,7 @@ static const Reference rows[] = {
     ONE(Pow, pow(x, y)),
     ONE(Powx, pow(x, y)),
     ONE(Pow2o3, cbrt(x) * cbrt(x)),
-    ONE(Pow3o2, x * sqrt(x)),
+    ONE(Pow3o2, x* sqrt(x)),
     ONE(Hypot, hypot(x, y)),
     ONE(Asin, asin(x)),
     ONE(Acos, acos(x)),

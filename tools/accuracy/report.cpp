@@ -4,16 +4,20 @@
 #include <cstdio>
 #include <fstream>
 
-std::string table_row(const std::string& kernel, const Worst& worst, double bound, bool relative, bool binary) {
+std::string table_row(const std::string& kernel, const Worst& worst, double bound, bool relative,
+                      bool binary) {
   char text[400], at[100], unit[40];
   std::snprintf(at, sizeof at, binary ? "%a, %a" : "%a", worst.a, worst.b);
   std::snprintf(unit, sizeof unit, relative ? "2^%.1f | 2^%.1f rel" : "%.3f | %.2f ulp",
-                relative ? std::log2(worst.error) : worst.error, relative ? std::log2(bound) : bound);
-  std::snprintf(text, sizeof text, "| %s | %s | %s | %a | %lld |", kernel.c_str(), unit, at, worst.got, worst.points);
+                relative ? std::log2(worst.error) : worst.error,
+                relative ? std::log2(bound) : bound);
+  std::snprintf(text, sizeof text, "| %s | %s | %s | %a | %lld |", kernel.c_str(), unit, at,
+                worst.got, worst.points);
   return text;
 }
 
-void update_report(const std::string& path, const std::map<std::string, std::string>& rows, bool exhaustive) {
+void update_report(const std::string& path, const std::map<std::string, std::string>& rows,
+                   bool exhaustive) {
   std::map<std::string, std::string> tables[2];
   int current = 0;
   std::ifstream file(path);
@@ -27,10 +31,14 @@ void update_report(const std::string& path, const std::map<std::string, std::str
   for (const auto& [kernel, row] : rows) tables[exhaustive][kernel] = row;
   std::ofstream out(path);
   out << "# Accuracy\n\n"
-         "Written by `./dev accuracy`. Error is |got - exact| / ulp(exact), the rounding's half ulp\n"
-         "included, with the ulp of the smallest normal number below the normal range; rows marked rel\n"
-         "give |got - exact| / |exact|. Exact values come from quad precision for `d` kernels, from the\n"
-         "x87's extended precision for `s` kernels. Arguments: the ranges and neighbourhoods declared in\n"
+         "Written by `./dev accuracy`. Error is |got - exact| / ulp(exact), the rounding's half "
+         "ulp\n"
+         "included, with the ulp of the smallest normal number below the normal range; rows marked "
+         "rel\n"
+         "give |got - exact| / |exact|. Exact values come from quad precision for `d` kernels, "
+         "from the\n"
+         "x87's extended precision for `s` kernels. Arguments: the ranges and neighbourhoods "
+         "declared in\n"
          "each function's `claims.tsv`, powers of two, random bit patterns.\n";
   for (int k = 0; k < 2; ++k) {
     if (tables[k].empty()) continue;

@@ -9,7 +9,9 @@ struct Worst {
   long long points = 0;
 };
 
-std::string table_row(const std::string& kernel, const Worst& worst, double bound, bool relative, bool binary);
+std::string table_row(const std::string& kernel, const Worst& worst, double bound, bool relative,
+                      bool binary);
 
 // Merges rows (by kernel) into the file's table of sampled or exhaustive measurements.
-void update_report(const std::string& path, const std::map<std::string, std::string>& rows, bool exhaustive);
+void update_report(const std::string& path, const std::map<std::string, std::string>& rows,
+                   bool exhaustive);

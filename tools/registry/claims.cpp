@@ -30,12 +30,13 @@ bool parse(const std::string& line, Claims& claims) {
   while (fields >> word && word[0] != '#') rest.push_back(word);
   const auto range = [&](size_t first, bool log) {
     const bool two = rest.size() == first + 4;
-    return Range{log, number(rest[first]), number(rest[first + 1]), number(rest[two ? first + 2 : first]),
-                 number(rest[two ? first + 3 : first + 1])};
+    return Range{log, number(rest[first]), number(rest[first + 1]),
+                 number(rest[two ? first + 2 : first]), number(rest[two ? first + 3 : first + 1])};
   };
   if (kind == "claim" && rest.size() == 2 && (rest[1] == "ulp" || rest[1] == "rel"))
     claims.bounds[name] = {number(rest[0]), rest[1] == "rel"};
-  else if (kind == "range" && (rest.size() == 3 || rest.size() == 5) && (rest[0] == "lin" || rest[0] == "log"))
+  else if (kind == "range" && (rest.size() == 3 || rest.size() == 5) &&
+           (rest[0] == "lin" || rest[0] == "log"))
     claims.ranges[name].push_back(range(1, rest[0] == "log"));
   else if (kind == "near")
     for (const auto& value : rest) claims.near[name].push_back(number(value));

@@ -24,8 +24,8 @@ struct Range {
 };
 
 struct Claims {
-  std::map<std::string, Claim> bounds;                // by kernel, "dExp_W7HA"
-  std::map<std::string, std::vector<Range>> ranges;   // by function, "dExp"
+  std::map<std::string, Claim> bounds;               // by kernel, "dExp_W7HA"
+  std::map<std::string, std::vector<Range>> ranges;  // by function, "dExp"
   std::map<std::string, std::vector<double>> near;
   std::map<std::string, std::vector<Range>> omitted;
   std::map<std::string, Range> bench;

@@ -1,19 +1,22 @@
 #include "registry/kernels.hpp"
 
 #include <cstring>
-
 #include <set>
 
 const std::vector<Slot> slots = {
-#define SLOT(type, function, form, la, ha, ep)      \
-  {#type[0], #function, Form::form, {la, ha, ep},    \
+#define SLOT(type, function, form, la, ha, ep)                                   \
+  {#type[0],                                                                     \
+   #function,                                                                    \
+   Form::form,                                                                   \
+   {la, ha, ep},                                                                 \
    reinterpret_cast<const void* const*>(ork_zem_kernel_##type##function##_ttab), \
    ork_zem_kernel_##type##function##_ctab},
 #include "registry/slots.inc"
 #undef SLOT
 };
 
-template <class T> void Call<T>::operator()(int n, const T* a, const T* b, T* r, T* r2) const {
+template <class T>
+void Call<T>::operator()(int n, const T* a, const T* b, T* r, T* r2) const {
   void* kernel = const_cast<void*>(slot->table[level]);
   switch (slot->form) {
     case Form::unary:
@@ -35,7 +38,8 @@ template <class T> void Call<T>::operator()(int n, const T* a, const T* b, T* r,
   }
 }
 
-template <class T> std::vector<Call<T>> elementwise_kernels() {
+template <class T>
+std::vector<Call<T>> elementwise_kernels() {
   std::vector<Call<T>> calls;
   for (const Slot& slot : slots) {
     if ((slot.type == 'd') != (sizeof(T) == 8) || (slot.type != 'd' && slot.type != 's')) continue;

@@ -1,13 +1,25 @@
 #pragma once
-// The registry of vector kernels as tests, meter and benchmarks see it: one row for each function and type,
-// called through its exported table.
+// The registry of vector kernels as tests, meter and benchmarks see it: one row for each function
+// and type, called through its exported table.
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "ork/zem_kernels.h"
 
-enum class Form { unary, binary, scalar, two, linear, pack_i, pack_m, pack_v, unpack_i, unpack_m, unpack_v };
+enum class Form {
+  unary,
+  binary,
+  scalar,
+  two,
+  linear,
+  pack_i,
+  pack_m,
+  pack_v,
+  unpack_i,
+  unpack_m,
+  unpack_v
+};
 
 struct Slot {
   char type;
@@ -26,7 +38,8 @@ extern const std::vector<Slot> slots;
 
 // A kernel with the arguments that its form takes out of these. Powx takes b[0]; LinearFrac
 // scales and shifts that keep its denominator away from 0.
-template <class T> struct Call {
+template <class T>
+struct Call {
   const Slot* slot;
   int level;
 
@@ -37,4 +50,5 @@ template <class T> struct Call {
 
 // Every existing kernel of an element type with an elementwise form (pack and unpack apart),
 // each once.
-template <class T> std::vector<Call<T>> elementwise_kernels();
+template <class T>
+std::vector<Call<T>> elementwise_kernels();

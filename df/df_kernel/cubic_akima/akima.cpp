@@ -9,7 +9,8 @@ namespace ork::df {
 template <class T, class V>
 V weighted_slope(V t_before, V w_before, V t_after, V w_after) {
   const V s = w_after + w_before;
-  return T(1e-10) > s ? (t_before + t_after) * T(0.5) : (w_after * t_before + w_before * t_after) / s;
+  return T(1e-10) > s ? (t_before + t_after) * T(0.5)
+                      : (w_after * t_before + w_before * t_after) / s;
 }
 template <class T, class V>
 V bend(V t_before, V t_after) {
@@ -27,9 +28,8 @@ struct Akima {
   // the window ends with the spline.
   template <class T, class Grid>
   static void slopes(const Task*, const Window<T>& s, int first, int last) {
-    sweep<T>(1, s.cells, [&]<class V>(int i) {
-      put(s.w + i, bend<T>(get<V>(s.t + i - 1), get<V>(s.t + i)));
-    });
+    sweep<T>(1, s.cells,
+             [&]<class V>(int i) { put(s.w + i, bend<T>(get<V>(s.t + i - 1), get<V>(s.t + i))); });
     s.w[0] = s.w[1], s.w[s.cells] = s.w[s.cells - 1];
     sweep<T>(first, last + 1, [&]<class V>(int i) {
       put(s.d + i, weighted_slope<T>(get<V>(s.t + i - 1), get<V>(s.w + i - 1), get<V>(s.t + i),
@@ -44,13 +44,17 @@ struct Akima {
 };
 
 template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYColsNoUniformGrid = local_cubic<T, Akima, YCols, NoUniformGrid>;
+inline constexpr LocalKernel* _v1DCSAkimaYColsNoUniformGrid =
+    local_cubic<T, Akima, YCols, NoUniformGrid>;
 template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYColsUniformGrid = local_cubic<T, Akima, YCols, UniformGrid>;
+inline constexpr LocalKernel* _v1DCSAkimaYColsUniformGrid =
+    local_cubic<T, Akima, YCols, UniformGrid>;
 template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYRowsNoUniformGrid = local_cubic<T, Akima, YRows, NoUniformGrid>;
+inline constexpr LocalKernel* _v1DCSAkimaYRowsNoUniformGrid =
+    local_cubic<T, Akima, YRows, NoUniformGrid>;
 template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYRowsUniformGrid = local_cubic<T, Akima, YRows, UniformGrid>;
+inline constexpr LocalKernel* _v1DCSAkimaYRowsUniformGrid =
+    local_cubic<T, Akima, YRows, UniformGrid>;
 
 template <class T>
 inline constexpr LocalKernel* akima_dispatch[] = {
@@ -63,10 +67,12 @@ inline constexpr LocalKernel* akima_dispatch[] = {
 }  // namespace ork::df
 
 ORK_EXPORT int ork_df_kernel_dDFAkimaCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                     const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<double>, task, method, threader);
+                                                   const ork_threader* threader) {
+  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<double>, task, method,
+                                                  threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFAkimaCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                     const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<float>, task, method, threader);
+                                                   const ork_threader* threader) {
+  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<float>, task, method,
+                                                  threader);
 }

@@ -27,24 +27,32 @@ Cubic<T> through(T y, T h, T t, T c2, T c3) {
 template <class T>
 Cubic<T> first_cell(int boundary, const T* bc, T y, T h, T t, T m, T c3) {
   switch (left_condition[boundary]) {
-    case Condition::not_a_knot: return through(y, h, t, m / 2 - 3 * h * c3, c3);
-    case Condition::free: return through(y, h, t, T(0), m / (6 * h));
+    case Condition::not_a_knot:
+      return through(y, h, t, m / 2 - 3 * h * c3, c3);
+    case Condition::free:
+      return through(y, h, t, T(0), m / (6 * h));
     case Condition::slope: {
       const T third = (bc[0] - t) / (2 * h * h) + m / (4 * h);
       return {y, bc[0], m / 2 - 3 * h * third, third};
     }
-    default: return through(y, h, t, bc[0] / 2, (m - bc[0]) / (6 * h));  // curvature, periodic
+    default:
+      return through(y, h, t, bc[0] / 2, (m - bc[0]) / (6 * h));  // curvature, periodic
   }
 }
 template <class T>
 Cubic<T> last_cell(int boundary, const T* bc, T y, T h, T t, T m, T c3) {
   const T c2 = m / 2;
   switch (right_condition[boundary]) {
-    case Condition::not_a_knot: return through(y, h, t, c2, c3);
-    case Condition::free: return through(y, h, t, c2, -m / (6 * h));
-    case Condition::slope: return through(y, h, t, c2, ((bc[1] - t) / h - c2) / (2 * h));
-    case Condition::periodic: return through(y, h, t, c2, (bc[0] - m) / (6 * h));
-    default: return through(y, h, t, c2, (bc[1] - m) / (6 * h));  // curvature
+    case Condition::not_a_knot:
+      return through(y, h, t, c2, c3);
+    case Condition::free:
+      return through(y, h, t, c2, -m / (6 * h));
+    case Condition::slope:
+      return through(y, h, t, c2, ((bc[1] - t) / h - c2) / (2 * h));
+    case Condition::periodic:
+      return through(y, h, t, c2, (bc[0] - m) / (6 * h));
+    default:
+      return through(y, h, t, c2, (bc[1] - m) / (6 * h));  // curvature
   }
 }
 
@@ -82,10 +90,11 @@ struct DefaultCubic {
       sweep<T>(1, last, [&]<class V>(int i) {
         const V left = y.template lanes<V>(i), length = get<V>(h + i), third = get<V>(c3 + i);
         const V t = (y.template lanes<V>(i + 1) - left) * get<V>(r + i), c2 = get<V>(M + i) / T(2);
-        put_records(coeffs + 4 * static_cast<size_t>(i), left, t - (c2 + third * length) * length, c2,
-                    third);
+        put_records(coeffs + 4 * static_cast<size_t>(i), left, t - (c2 + third * length) * length,
+                    c2, third);
       });
-      store(last, last_cell(boundary, bc, y[last], h[last], difference(last), M[last], c3[last - 1]));
+      store(last,
+            last_cell(boundary, bc, y[last], h[last], difference(last), M[last], c3[last - 1]));
     }
     return ORK_DF_OK;
   }

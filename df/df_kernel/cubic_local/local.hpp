@@ -31,8 +31,8 @@ struct Window {
 //                  the slope at the two ends of a periodic spline
 template <class T, class Rule, class Y, class Grid>
 struct Local {
-  static constexpr int block = 2048;  // interior cells of a task
-  static constexpr int group = 4;     // functions of a task
+  static constexpr int block = 2048;                                // interior cells of a task
+  static constexpr int group = 4;                                   // functions of a task
   static constexpr int margin = Rule::reach > 1 ? Rule::reach : 1;  // cells that are not interior
   static constexpr int held = Rule::run + 2 * Rule::reach + 1;
   static constexpr int arrays = (Grid::uniform ? 3 : 5) + Y::columns;
@@ -49,8 +49,14 @@ struct Local {
     const int end = last < n - 1 - Rule::reach ? last + Rule::reach : n - 1;
     T* slice = work + static_cast<size_t>(thread) * (arrays * held);
     const auto array = [&](bool there, int k) { return there ? slice + k * held : nullptr; };
-    return {origin, end - origin, slice, slice + held, slice + 2 * held, array(!Grid::uniform, 3),
-            array(!Grid::uniform, 4), array(Y::columns, arrays - 1)};
+    return {origin,
+            end - origin,
+            slice,
+            slice + held,
+            slice + 2 * held,
+            array(!Grid::uniform, 3),
+            array(!Grid::uniform, 4),
+            array(Y::columns, arrays - 1)};
   }
   template <class V>
   V reciprocals(const Window<T>& s, int i) const {
@@ -104,7 +110,8 @@ struct Local {
 
   // A block of cells and a group of functions. The first and the last block take the
   // spline's end cells along.
-  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int, void* context) {
+  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
+                                                            void* context) {
     const Local& s = *static_cast<const Local*>(context);
     const int at = item % s.blocks, f0 = item / s.blocks * group;
     const int f1 = s.ny - f0 < group ? s.ny : f0 + group;

@@ -11,92 +11,106 @@ int natural(const Task* task, int64_t /*method*/, const ork_threader* threader) 
 }
 
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGridNotAKnot = natural<T, YCols, NoUniformGrid, not_a_knot>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGridNotAKnot =
+    natural<T, YCols, NoUniformGrid, not_a_knot>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGridFreeEnd = natural<T, YCols, NoUniformGrid, free_end>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGridFreeEnd =
+    natural<T, YCols, NoUniformGrid, free_end>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid1st1st = natural<T, YCols, NoUniformGrid, first_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid1st1st =
+    natural<T, YCols, NoUniformGrid, first_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid1st2nd = natural<T, YCols, NoUniformGrid, first_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid1st2nd =
+    natural<T, YCols, NoUniformGrid, first_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid2nd1st = natural<T, YCols, NoUniformGrid, second_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid2nd1st =
+    natural<T, YCols, NoUniformGrid, second_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid2nd2nd = natural<T, YCols, NoUniformGrid, second_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGrid2nd2nd =
+    natural<T, YCols, NoUniformGrid, second_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGridPeriodic = natural<T, YCols, NoUniformGrid, periodic>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsNoUniformGridPeriodic =
+    natural<T, YCols, NoUniformGrid, periodic>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGridNotAKnot = natural<T, YCols, UniformGrid, not_a_knot>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGridNotAKnot =
+    natural<T, YCols, UniformGrid, not_a_knot>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGridFreeEnd = natural<T, YCols, UniformGrid, free_end>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGridFreeEnd =
+    natural<T, YCols, UniformGrid, free_end>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid1st1st = natural<T, YCols, UniformGrid, first_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid1st1st =
+    natural<T, YCols, UniformGrid, first_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid1st2nd = natural<T, YCols, UniformGrid, first_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid1st2nd =
+    natural<T, YCols, UniformGrid, first_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid2nd1st = natural<T, YCols, UniformGrid, second_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid2nd1st =
+    natural<T, YCols, UniformGrid, second_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid2nd2nd = natural<T, YCols, UniformGrid, second_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGrid2nd2nd =
+    natural<T, YCols, UniformGrid, second_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGridPeriodic = natural<T, YCols, UniformGrid, periodic>;
+inline constexpr NaturalKernel* _v1DCSNaturalYColsUniformGridPeriodic =
+    natural<T, YCols, UniformGrid, periodic>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGridNotAKnot = natural<T, YRows, NoUniformGrid, not_a_knot>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGridNotAKnot =
+    natural<T, YRows, NoUniformGrid, not_a_knot>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGridFreeEnd = natural<T, YRows, NoUniformGrid, free_end>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGridFreeEnd =
+    natural<T, YRows, NoUniformGrid, free_end>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid1st1st = natural<T, YRows, NoUniformGrid, first_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid1st1st =
+    natural<T, YRows, NoUniformGrid, first_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid1st2nd = natural<T, YRows, NoUniformGrid, first_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid1st2nd =
+    natural<T, YRows, NoUniformGrid, first_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid2nd1st = natural<T, YRows, NoUniformGrid, second_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid2nd1st =
+    natural<T, YRows, NoUniformGrid, second_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid2nd2nd = natural<T, YRows, NoUniformGrid, second_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGrid2nd2nd =
+    natural<T, YRows, NoUniformGrid, second_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGridPeriodic = natural<T, YRows, NoUniformGrid, periodic>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsNoUniformGridPeriodic =
+    natural<T, YRows, NoUniformGrid, periodic>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGridNotAKnot = natural<T, YRows, UniformGrid, not_a_knot>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGridNotAKnot =
+    natural<T, YRows, UniformGrid, not_a_knot>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGridFreeEnd = natural<T, YRows, UniformGrid, free_end>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGridFreeEnd =
+    natural<T, YRows, UniformGrid, free_end>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid1st1st = natural<T, YRows, UniformGrid, first_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid1st1st =
+    natural<T, YRows, UniformGrid, first_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid1st2nd = natural<T, YRows, UniformGrid, first_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid1st2nd =
+    natural<T, YRows, UniformGrid, first_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid2nd1st = natural<T, YRows, UniformGrid, second_first>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid2nd1st =
+    natural<T, YRows, UniformGrid, second_first>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid2nd2nd = natural<T, YRows, UniformGrid, second_second>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGrid2nd2nd =
+    natural<T, YRows, UniformGrid, second_second>;
 template <class T>
-inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGridPeriodic = natural<T, YRows, UniformGrid, periodic>;
+inline constexpr NaturalKernel* _v1DCSNaturalYRowsUniformGridPeriodic =
+    natural<T, YRows, UniformGrid, periodic>;
 
 template <class T>
 inline constexpr NaturalKernel* natural_dispatch[] = {
-    _v1DCSNaturalYColsNoUniformGridNotAKnot<T>,
-    _v1DCSNaturalYColsNoUniformGridFreeEnd<T>,
-    _v1DCSNaturalYColsNoUniformGrid1st1st<T>,
-    _v1DCSNaturalYColsNoUniformGrid1st2nd<T>,
-    _v1DCSNaturalYColsNoUniformGrid2nd1st<T>,
-    _v1DCSNaturalYColsNoUniformGrid2nd2nd<T>,
-    _v1DCSNaturalYColsNoUniformGridPeriodic<T>,
-    _v1DCSNaturalYColsUniformGridNotAKnot<T>,
-    _v1DCSNaturalYColsUniformGridFreeEnd<T>,
-    _v1DCSNaturalYColsUniformGrid1st1st<T>,
-    _v1DCSNaturalYColsUniformGrid1st2nd<T>,
-    _v1DCSNaturalYColsUniformGrid2nd1st<T>,
-    _v1DCSNaturalYColsUniformGrid2nd2nd<T>,
-    _v1DCSNaturalYColsUniformGridPeriodic<T>,
-    _v1DCSNaturalYRowsNoUniformGridNotAKnot<T>,
-    _v1DCSNaturalYRowsNoUniformGridFreeEnd<T>,
-    _v1DCSNaturalYRowsNoUniformGrid1st1st<T>,
-    _v1DCSNaturalYRowsNoUniformGrid1st2nd<T>,
-    _v1DCSNaturalYRowsNoUniformGrid2nd1st<T>,
-    _v1DCSNaturalYRowsNoUniformGrid2nd2nd<T>,
-    _v1DCSNaturalYRowsNoUniformGridPeriodic<T>,
-    _v1DCSNaturalYRowsUniformGridNotAKnot<T>,
-    _v1DCSNaturalYRowsUniformGridFreeEnd<T>,
-    _v1DCSNaturalYRowsUniformGrid1st1st<T>,
-    _v1DCSNaturalYRowsUniformGrid1st2nd<T>,
-    _v1DCSNaturalYRowsUniformGrid2nd1st<T>,
-    _v1DCSNaturalYRowsUniformGrid2nd2nd<T>,
-    _v1DCSNaturalYRowsUniformGridPeriodic<T>,
+    _v1DCSNaturalYColsNoUniformGridNotAKnot<T>, _v1DCSNaturalYColsNoUniformGridFreeEnd<T>,
+    _v1DCSNaturalYColsNoUniformGrid1st1st<T>,   _v1DCSNaturalYColsNoUniformGrid1st2nd<T>,
+    _v1DCSNaturalYColsNoUniformGrid2nd1st<T>,   _v1DCSNaturalYColsNoUniformGrid2nd2nd<T>,
+    _v1DCSNaturalYColsNoUniformGridPeriodic<T>, _v1DCSNaturalYColsUniformGridNotAKnot<T>,
+    _v1DCSNaturalYColsUniformGridFreeEnd<T>,    _v1DCSNaturalYColsUniformGrid1st1st<T>,
+    _v1DCSNaturalYColsUniformGrid1st2nd<T>,     _v1DCSNaturalYColsUniformGrid2nd1st<T>,
+    _v1DCSNaturalYColsUniformGrid2nd2nd<T>,     _v1DCSNaturalYColsUniformGridPeriodic<T>,
+    _v1DCSNaturalYRowsNoUniformGridNotAKnot<T>, _v1DCSNaturalYRowsNoUniformGridFreeEnd<T>,
+    _v1DCSNaturalYRowsNoUniformGrid1st1st<T>,   _v1DCSNaturalYRowsNoUniformGrid1st2nd<T>,
+    _v1DCSNaturalYRowsNoUniformGrid2nd1st<T>,   _v1DCSNaturalYRowsNoUniformGrid2nd2nd<T>,
+    _v1DCSNaturalYRowsNoUniformGridPeriodic<T>, _v1DCSNaturalYRowsUniformGridNotAKnot<T>,
+    _v1DCSNaturalYRowsUniformGridFreeEnd<T>,    _v1DCSNaturalYRowsUniformGrid1st1st<T>,
+    _v1DCSNaturalYRowsUniformGrid1st2nd<T>,     _v1DCSNaturalYRowsUniformGrid2nd1st<T>,
+    _v1DCSNaturalYRowsUniformGrid2nd2nd<T>,     _v1DCSNaturalYRowsUniformGridPeriodic<T>,
 };
 
 template <class T>

@@ -10,10 +10,10 @@
 // A periodic spline makes the system cyclic: A = T + u v', T tridiagonal, v zero but for a
 // one in rows 0 and n - 2. With T z = u and T w = right side, d = w - z (v'w) / (1 + v'z).
 #pragma once
-#include "spline/solver.hpp"
 #include "spline/cubic.hpp"
 #include "spline/ends.hpp"
 #include "spline/layout.hpp"
+#include "spline/solver.hpp"
 
 namespace ork::df {
 
@@ -114,7 +114,8 @@ struct Natural {
   void write(int f, const T* t, T* d) const {
     if (is_periodic()) {
       const T scale = (d[0] + d[n - 2]) / (1 + z[0] + z[n - 2]);
-      sweep<T>(0, n - 1, [&]<class V>(int i) { put(d + i, get<V>(d + i) - get<V>(z + i) * scale); });
+      sweep<T>(0, n - 1,
+               [&]<class V>(int i) { put(d + i, get<V>(d + i) - get<V>(z + i) * scale); });
       d[n - 1] = d[0];
     }
     const auto y = Y::template view<T>(task, f);
@@ -181,9 +182,9 @@ struct Natural {
     const Scratch<T> work((2 * held + 6) * static_cast<uint64_t>(n));
     if (!work) return ORK_DF_NO_MEMORY;
     const auto part = [&](uint64_t k) { return work.get() + static_cast<size_t>(k * n); };
-    const Natural s{task,    boundary, n,       typename Grid::template View<T>(task),
-                    part(0), part(1),  part(2), part(3),
-                    part(4), part(5 + held),    part(5), part(6 + held)};
+    const Natural s{task,    boundary,       n,       typename Grid::template View<T>(task),
+                    part(0), part(1),        part(2), part(3),
+                    part(4), part(5 + held), part(5), part(6 + held)};
     s.matrix();
     if (!factored) return s.one_function();
     if (!factor(n, s.lower, s.diagonal, s.upper)) return ORK_DF_SOLVER_FAILED;

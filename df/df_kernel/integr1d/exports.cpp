@@ -80,17 +80,17 @@ int integrate(int kind, const IntegralArguments<T>& a, const Parts<T>& parts) {
   ORK_EXPORT int ork_df_kernel_##letter##_Integrate##name##Spline(                                \
       ORK_INTEGRAL_PARAMETERS(T), const T* middles, int32_t cut0, int32_t cut1, int32_t cut2,     \
       int32_t cut3) {                                                                             \
-    return ork::df::integrate<T>(ork::df::kind, ORK_INTEGRAL_ARGUMENTS,                                     \
-                            ork::df::Middles<T>{middles, {cut0, cut1, cut2, cut3}});                   \
+    return ork::df::integrate<T>(ork::df::kind, ORK_INTEGRAL_ARGUMENTS,                           \
+                                 ork::df::Middles<T>{middles, {cut0, cut1, cut2, cut3}});         \
   }                                                                                               \
   ORK_EXPORT int ork_df_kernel_##letter##_Integrate##name##SplineCB(                              \
       ORK_INTEGRAL_PARAMETERS(T), ork_df_integr_##letter* leftCallback, void* leftParams,         \
       ork_df_integr_##letter* rightCallback, void* rightParams,                                   \
       ork_df_integr_##letter* interiorCallback, void* interiorParams, const T*, int32_t, int32_t, \
       int32_t, int32_t) {                                                                         \
-    return ork::df::integrate<T>(ork::df::kind, ORK_INTEGRAL_ARGUMENTS,                                     \
-                            ork::df::Parts<T>{leftCallback, leftParams, interiorCallback,              \
-                                         interiorParams, rightCallback, rightParams});            \
+    return ork::df::integrate<T>(ork::df::kind, ORK_INTEGRAL_ARGUMENTS,                           \
+                                 ork::df::Parts<T>{leftCallback, leftParams, interiorCallback,    \
+                                                   interiorParams, rightCallback, rightParams});  \
   }
 #define ORK_INTEGRATORS(name, kind)     \
   ORK_INTEGRATOR(name, d, double, kind) \

@@ -107,11 +107,11 @@ int evaluate(int kind, const EvalArguments<T>& a, typename InterpCallback<T>::ty
   }
 #define ORK_EVALUATOR(name, letter, T, kind)                                             \
   ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32(ORK_EVAL_PARAMETERS(T)) { \
-    return ork::df::evaluate<T>(ork::df::kind, ORK_EVAL_ARGUMENTS);                                \
+    return ork::df::evaluate<T>(ork::df::kind, ORK_EVAL_ARGUMENTS);                      \
   }                                                                                      \
   ORK_EXPORT int ork_df_kernel_##letter##_##name##SplineEval32CB(                        \
       ORK_EVAL_PARAMETERS(T), ork_df_interp_##letter* callback, void* params) {          \
-    return ork::df::evaluate<T>(ork::df::kind, ORK_EVAL_ARGUMENTS, callback, params);              \
+    return ork::df::evaluate<T>(ork::df::kind, ORK_EVAL_ARGUMENTS, callback, params);    \
   }
 #define ORK_EVALUATORS(name, kind)     \
   ORK_EVALUATOR(name, d, double, kind) \

@@ -86,8 +86,7 @@ int interpolate_blocks(const Interpolation<T>& job, const ork_threader* threader
 
   const BlockPlan plan(job.nsite, block,
                        job.nsite >= least_for_threads ? thread_limit(threader) : 1);
-  const uint64_t slice =
-      job.has_callbacks() ? uint64_t{block} * job.fit.ny * job.request.count : 0;
+  const uint64_t slice = job.has_callbacks() ? uint64_t{block} * job.fit.ny * job.request.count : 0;
   const uint64_t needed = slice * plan.threads;
   const auto run = [&](T* values) -> int {
     const int status = serve_blocks(
@@ -242,9 +241,9 @@ ORK_EXPORT int ork_df_kernel_dDFInterpolate1D(
     void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
     const ork_threader* threader) {
   return ork::df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
-                         result, resultHint, cell, leftCallback, leftParams, rightCallback,
-                         rightParams, interiorCallback, interiorParams, searchCallback,
-                         searchParams, threader);
+                              result, resultHint, cell, leftCallback, leftParams, rightCallback,
+                              rightParams, interiorCallback, interiorParams, searchCallback,
+                              searchParams, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFInterpolate1D(
     const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const float* site,
@@ -254,9 +253,9 @@ ORK_EXPORT int ork_df_kernel_sDFInterpolate1D(
     void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
     const ork_threader* threader) {
   return ork::df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
-                         result, resultHint, cell, leftCallback, leftParams, rightCallback,
-                         rightParams, interiorCallback, interiorParams, searchCallback,
-                         searchParams, threader);
+                              result, resultHint, cell, leftCallback, leftParams, rightCallback,
+                              rightParams, interiorCallback, interiorParams, searchCallback,
+                              searchParams, threader);
 }
 
 ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, int searchKind,
@@ -266,6 +265,6 @@ ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, 
                                       void* rightParams, ork_df_interp_d* interiorCallback,
                                       void* interiorParams) {
   return ork::df::interpolate_scalar(task, splineIndex, searchKind, site, nDerivFlags, derivFlags,
-                                result, leftCallback, leftParams, rightCallback, rightParams,
-                                interiorCallback, interiorParams);
+                                     result, leftCallback, leftParams, rightCallback, rightParams,
+                                     interiorCallback, interiorParams);
 }

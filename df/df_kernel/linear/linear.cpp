@@ -6,11 +6,13 @@ namespace ork::df {
 using LinearKernel = int(const Task*, const ork_threader*);
 
 template <class T>
-inline constexpr LinearKernel* _v1DLSLinearYColsNoUniformGrid = Linear<T, YCols, NoUniformGrid>::build;
+inline constexpr LinearKernel* _v1DLSLinearYColsNoUniformGrid =
+    Linear<T, YCols, NoUniformGrid>::build;
 template <class T>
 inline constexpr LinearKernel* _v1DLSLinearYColsUniformGrid = Linear<T, YCols, UniformGrid>::build;
 template <class T>
-inline constexpr LinearKernel* _v1DLSLinearYRowsNoUniformGrid = Linear<T, YRows, NoUniformGrid>::build;
+inline constexpr LinearKernel* _v1DLSLinearYRowsNoUniformGrid =
+    Linear<T, YRows, NoUniformGrid>::build;
 template <class T>
 inline constexpr LinearKernel* _v1DLSLinearYRowsUniformGrid = Linear<T, YRows, UniformGrid>::build;
 
@@ -33,9 +35,11 @@ int construct_linear(const Task* task, int64_t method, const ork_threader* threa
 
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFLinearSpline1D(ork_df_task* task, int64_t, int64_t method, const ork_threader* threader) {
+ORK_EXPORT int ork_df_kernel_dDFLinearSpline1D(ork_df_task* task, int64_t, int64_t method,
+                                               const ork_threader* threader) {
   return ork::df::construct_linear<double>(task, method, threader);
 }
-ORK_EXPORT int ork_df_kernel_sDFLinearSpline1D(ork_df_task* task, int64_t, int64_t method, const ork_threader* threader) {
+ORK_EXPORT int ork_df_kernel_sDFLinearSpline1D(ork_df_task* task, int64_t, int64_t method,
+                                               const ork_threader* threader) {
   return ork::df::construct_linear<float>(task, method, threader);
 }

@@ -43,8 +43,12 @@ struct Linear {
         if (!closes<T, Y>(task, f)) return ORK_DF_NOT_PERIODIC;
 
     const T* ends = partition<T>(task);
-    Linear s{task, n, ny, typename Grid::template View<T>(task),
-             static_cast<T>(n - 1) / (ends[1] - ends[0]), (n - 2) / block + 1};
+    Linear s{task,
+             n,
+             ny,
+             typename Grid::template View<T>(task),
+             static_cast<T>(n - 1) / (ends[1] - ends[0]),
+             (n - 2) / block + 1};
     const int tasks = s.blocks * ((ny - 1) / group + 1);
     if (static_cast<int64_t>(n) * ny < 128) {  // a small fit
       for (int f = 0; f < ny; ++f) s.cells(f, 0, n - 1);

@@ -1,18 +1,23 @@
 // The quadratic splines: the standard kernels, their dispatch table, and the construction
 // entries, which serve the Subbotin kind, too.
 #include "quadratic_std/quadratic.hpp"
+
 #include "quadratic_subbotin/kernels.hpp"
 
 namespace ork::df {
 
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYColsNoUniformGrid = Quadratic<T, YCols, NoUniformGrid>::build;
+inline constexpr QuadraticKernel* _v1DQSStdYColsNoUniformGrid =
+    Quadratic<T, YCols, NoUniformGrid>::build;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYColsUniformGrid = Quadratic<T, YCols, UniformGrid>::build;
+inline constexpr QuadraticKernel* _v1DQSStdYColsUniformGrid =
+    Quadratic<T, YCols, UniformGrid>::build;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYRowsNoUniformGrid = Quadratic<T, YRows, NoUniformGrid>::build;
+inline constexpr QuadraticKernel* _v1DQSStdYRowsNoUniformGrid =
+    Quadratic<T, YRows, NoUniformGrid>::build;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYRowsUniformGrid = Quadratic<T, YRows, UniformGrid>::build;
+inline constexpr QuadraticKernel* _v1DQSStdYRowsUniformGrid =
+    Quadratic<T, YRows, UniformGrid>::build;
 
 template <class T>
 inline constexpr QuadraticKernel* quadratic_dispatch[] = {
@@ -48,9 +53,12 @@ int construct_quadratic(const Task* task) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (const int code = check_shape(task, 2)) return code;
   switch (task->splineType) {
-    case ORK_DF_TYPE_DEFAULT: return construct_quadratic_std<T>(task);
-    case ORK_DF_TYPE_SUBBOTIN: return construct_subbotin<T>(task);
-    default: return ORK_DF_BAD_METHOD;
+    case ORK_DF_TYPE_DEFAULT:
+      return construct_quadratic_std<T>(task);
+    case ORK_DF_TYPE_SUBBOTIN:
+      return construct_subbotin<T>(task);
+    default:
+      return ORK_DF_BAD_METHOD;
   }
 }
 

@@ -14,123 +14,163 @@ int subbotin(const Task* task) {
 }
 
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid1st1st = subbotin<T, YCols, NoUniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid1st1st =
+    subbotin<T, YCols, NoUniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid1st2nd = subbotin<T, YCols, NoUniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid1st2nd =
+    subbotin<T, YCols, NoUniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid2nd1st = subbotin<T, YCols, NoUniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid2nd1st =
+    subbotin<T, YCols, NoUniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid2nd2nd = subbotin<T, YCols, NoUniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsNoUniformGrid2nd2nd =
+    subbotin<T, YCols, NoUniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid1st1st = subbotin<T, YCols, UniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid1st1st =
+    subbotin<T, YCols, UniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid1st2nd = subbotin<T, YCols, UniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid1st2nd =
+    subbotin<T, YCols, UniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid2nd1st = subbotin<T, YCols, UniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid2nd1st =
+    subbotin<T, YCols, UniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid2nd2nd = subbotin<T, YCols, UniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYColsUniformGrid2nd2nd =
+    subbotin<T, YCols, UniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid1st1st = subbotin<T, YRows, NoUniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid1st1st =
+    subbotin<T, YRows, NoUniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid1st2nd = subbotin<T, YRows, NoUniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid1st2nd =
+    subbotin<T, YRows, NoUniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid2nd1st = subbotin<T, YRows, NoUniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid2nd1st =
+    subbotin<T, YRows, NoUniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid2nd2nd = subbotin<T, YRows, NoUniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid2nd2nd =
+    subbotin<T, YRows, NoUniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid1st1st = subbotin<T, YRows, UniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid1st1st =
+    subbotin<T, YRows, UniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid1st2nd = subbotin<T, YRows, UniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid1st2nd =
+    subbotin<T, YRows, UniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid2nd1st = subbotin<T, YRows, UniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid2nd1st =
+    subbotin<T, YRows, UniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid2nd2nd = subbotin<T, YRows, UniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbNoUniformSubgridYRowsUniformGrid2nd2nd =
+    subbotin<T, YRows, UniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid1st1st = subbotin<T, YCols, NoUniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid1st1st =
+    subbotin<T, YCols, NoUniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid1st2nd = subbotin<T, YCols, NoUniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid1st2nd =
+    subbotin<T, YCols, NoUniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid2nd1st = subbotin<T, YCols, NoUniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid2nd1st =
+    subbotin<T, YCols, NoUniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid2nd2nd = subbotin<T, YCols, NoUniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsNoUniformGrid2nd2nd =
+    subbotin<T, YCols, NoUniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid1st1st = subbotin<T, YCols, UniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid1st1st =
+    subbotin<T, YCols, UniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid1st2nd = subbotin<T, YCols, UniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid1st2nd =
+    subbotin<T, YCols, UniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid2nd1st = subbotin<T, YCols, UniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid2nd1st =
+    subbotin<T, YCols, UniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid2nd2nd = subbotin<T, YCols, UniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYColsUniformGrid2nd2nd =
+    subbotin<T, YCols, UniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid1st1st = subbotin<T, YRows, NoUniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid1st1st =
+    subbotin<T, YRows, NoUniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid1st2nd = subbotin<T, YRows, NoUniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid1st2nd =
+    subbotin<T, YRows, NoUniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid2nd1st = subbotin<T, YRows, NoUniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid2nd1st =
+    subbotin<T, YRows, NoUniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid2nd2nd = subbotin<T, YRows, NoUniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsNoUniformGrid2nd2nd =
+    subbotin<T, YRows, NoUniformGrid, second_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid1st1st = subbotin<T, YRows, UniformGrid, first_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid1st1st =
+    subbotin<T, YRows, UniformGrid, first_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid1st2nd = subbotin<T, YRows, UniformGrid, first_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid1st2nd =
+    subbotin<T, YRows, UniformGrid, first_second>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid2nd1st = subbotin<T, YRows, UniformGrid, second_first>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid2nd1st =
+    subbotin<T, YRows, UniformGrid, second_first>;
 template <class T>
-inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid2nd2nd = subbotin<T, YRows, UniformGrid, second_second>;
+inline constexpr QuadraticKernel* _v1DQSSubbUniformSubgridYRowsUniformGrid2nd2nd =
+    subbotin<T, YRows, UniformGrid, second_second>;
 
 template <class T>
 inline constexpr QuadraticKernel* subbotin_dispatch[] = {
     // NoUniformSubgrid YCols NoUniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbNoUniformSubgridYColsNoUniformGrid1st1st<T>,
     _v1DQSSubbNoUniformSubgridYColsNoUniformGrid1st2nd<T>,
     _v1DQSSubbNoUniformSubgridYColsNoUniformGrid2nd1st<T>,
     _v1DQSSubbNoUniformSubgridYColsNoUniformGrid2nd2nd<T>,
     nullptr,
     // NoUniformSubgrid YCols UniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbNoUniformSubgridYColsUniformGrid1st1st<T>,
     _v1DQSSubbNoUniformSubgridYColsUniformGrid1st2nd<T>,
     _v1DQSSubbNoUniformSubgridYColsUniformGrid2nd1st<T>,
     _v1DQSSubbNoUniformSubgridYColsUniformGrid2nd2nd<T>,
     nullptr,
     // NoUniformSubgrid YRows NoUniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid1st1st<T>,
     _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid1st2nd<T>,
     _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid2nd1st<T>,
     _v1DQSSubbNoUniformSubgridYRowsNoUniformGrid2nd2nd<T>,
     nullptr,
     // NoUniformSubgrid YRows UniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbNoUniformSubgridYRowsUniformGrid1st1st<T>,
     _v1DQSSubbNoUniformSubgridYRowsUniformGrid1st2nd<T>,
     _v1DQSSubbNoUniformSubgridYRowsUniformGrid2nd1st<T>,
     _v1DQSSubbNoUniformSubgridYRowsUniformGrid2nd2nd<T>,
     nullptr,
     // UniformSubgrid YCols NoUniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbUniformSubgridYColsNoUniformGrid1st1st<T>,
     _v1DQSSubbUniformSubgridYColsNoUniformGrid1st2nd<T>,
     _v1DQSSubbUniformSubgridYColsNoUniformGrid2nd1st<T>,
     _v1DQSSubbUniformSubgridYColsNoUniformGrid2nd2nd<T>,
     nullptr,
     // UniformSubgrid YCols UniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbUniformSubgridYColsUniformGrid1st1st<T>,
     _v1DQSSubbUniformSubgridYColsUniformGrid1st2nd<T>,
     _v1DQSSubbUniformSubgridYColsUniformGrid2nd1st<T>,
     _v1DQSSubbUniformSubgridYColsUniformGrid2nd2nd<T>,
     nullptr,
     // UniformSubgrid YRows NoUniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbUniformSubgridYRowsNoUniformGrid1st1st<T>,
     _v1DQSSubbUniformSubgridYRowsNoUniformGrid1st2nd<T>,
     _v1DQSSubbUniformSubgridYRowsNoUniformGrid2nd1st<T>,
     _v1DQSSubbUniformSubgridYRowsNoUniformGrid2nd2nd<T>,
     nullptr,
     // UniformSubgrid YRows UniformGrid
-    nullptr, nullptr,
+    nullptr,
+    nullptr,
     _v1DQSSubbUniformSubgridYRowsUniformGrid1st1st<T>,
     _v1DQSSubbUniformSubgridYRowsUniformGrid1st2nd<T>,
     _v1DQSSubbUniformSubgridYRowsUniformGrid2nd1st<T>,

@@ -81,7 +81,14 @@ struct Subbotin {
     const Scratch<T> work(8 * (static_cast<uint64_t>(n) + 1));
     if (!work) return ORK_DF_NO_MEMORY;
     const auto part = [&](int i) { return work.get() + static_cast<size_t>(i) * n; };
-    const Subbotin s{task,    n,       part(0), part(1), part(2), part(3), part(4), part(5),
+    const Subbotin s{task,
+                     n,
+                     part(0),
+                     part(1),
+                     part(2),
+                     part(3),
+                     part(4),
+                     part(5),
                      left_condition[boundary] == Condition::slope,
                      right_condition[boundary] == Condition::slope};
     s.split(x, k);

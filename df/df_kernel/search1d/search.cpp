@@ -142,13 +142,13 @@ ORK_EXPORT int ork_df_kernel_dDFSearch1D(const ork_df_task* task, int64_t, int64
                                          const double* dataHint, void* cell,
                                          ork_df_search_d* searchCallback, void* searchParams,
                                          const ork_threader* threader) {
-  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback, searchParams,
-                          threader);
+  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback,
+                               searchParams, threader);
 }
 ORK_EXPORT int ork_df_kernel_sDFSearch1D(const ork_df_task* task, int64_t, int64_t nsite,
                                          const float* site, int64_t siteHint, const float* dataHint,
                                          void* cell, ork_df_search_s* searchCallback,
                                          void* searchParams, const ork_threader* threader) {
-  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback, searchParams,
-                          threader);
+  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback,
+                               searchParams, threader);
 }

@@ -312,16 +312,16 @@ ORK_EXPORT int ork_df_kernel_dEditPPSpline1D(ork_task* task, int64_t splineOrder
                                              const double* bcValues, int64_t icType,
                                              const double* icValues, double* coeffs,
                                              int64_t coeffHint) {
-  return ork::df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
-                         coeffHint);
+  return ork::df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues,
+                              coeffs, coeffHint);
 }
 ORK_EXPORT int ork_df_kernel_sEditPPSpline1D(ork_task* task, int64_t splineOrder,
                                              int64_t splineType, int64_t bcType,
                                              const float* bcValues, int64_t icType,
                                              const float* icValues, float* coeffs,
                                              int64_t coeffHint) {
-  return ork::df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues, coeffs,
-                         coeffHint);
+  return ork::df::edit_spline(task, splineOrder, splineType, bcType, bcValues, icType, icValues,
+                              coeffs, coeffHint);
 }
 
 ORK_EXPORT int ork_df_kernel_dEditPtr(ork_task* task, int64_t code, const double* pointer) {

@@ -48,9 +48,9 @@ int simple_search(int64_t nx, const T* x, int64_t nsite, const T* site, int64_t*
                       T scale, const T*, int64_t bucketCount, const int32_t* buckets, void* cell, \
                       int32_t widthFlag, ork_df_search_##letter* searchCallback,                  \
                       void* searchParams, int32_t* flags) {                                       \
-    return ork::df::simple_search<T, ork::df::method>(nx, x, nsite, site, state, scale, bucketCount,        \
-                                            buckets, cell, widthFlag, searchCallback,             \
-                                            searchParams, flags);                                 \
+    return ork::df::simple_search<T, ork::df::method>(nx, x, nsite, site, state, scale,           \
+                                                      bucketCount, buckets, cell, widthFlag,      \
+                                                      searchCallback, searchParams, flags);       \
   }
 #define ORK_SIMPLE_SEARCHES(name, method)                                   \
   ORK_SIMPLE_SEARCH(ork_df_kernel_dDF##name##Search1D, d, double, method)   \

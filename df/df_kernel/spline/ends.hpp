@@ -9,14 +9,12 @@ namespace ork::df {
 
 enum class Condition { not_a_knot, free, slope, curvature, periodic, not_set };
 
-constexpr Condition left_condition[] = {Condition::not_a_knot, Condition::free,
-                                        Condition::slope,      Condition::slope,
-                                        Condition::curvature,  Condition::curvature,
-                                        Condition::periodic,   Condition::not_set};
-constexpr Condition right_condition[] = {Condition::not_a_knot, Condition::free,
-                                         Condition::slope,      Condition::curvature,
-                                         Condition::slope,      Condition::curvature,
-                                         Condition::periodic,   Condition::not_set};
+constexpr Condition left_condition[] = {
+    Condition::not_a_knot, Condition::free,      Condition::slope,    Condition::slope,
+    Condition::curvature,  Condition::curvature, Condition::periodic, Condition::not_set};
+constexpr Condition right_condition[] = {
+    Condition::not_a_knot, Condition::free,      Condition::slope,    Condition::curvature,
+    Condition::slope,      Condition::curvature, Condition::periodic, Condition::not_set};
 
 template <class T>
 struct End {
@@ -54,14 +52,17 @@ struct EndRow {
 template <class T>
 EndRow<T> end_row(const End<T>& e, bool uniform) {
   switch (e.condition) {
-    case Condition::slope: return {1, 0, e.value};
-    case Condition::curvature: return {2, 1, 3 * e.t0 - e.value * e.h0 / 2};
+    case Condition::slope:
+      return {1, 0, e.value};
+    case Condition::curvature:
+      return {2, 1, 3 * e.t0 - e.value * e.h0 / 2};
     case Condition::not_a_knot: {
       if (uniform) return {1, 2, (e.t1 + 5 * e.t0) / 2};
       const T H = e.h0 + e.h1;
       return {e.h1, H, (e.h0 * e.h0 * e.t1 + (e.h0 + 2 * H) * e.h1 * e.t0) / H};
     }
-    default: return {2, 1, 3 * e.t0};  // free: no curvature
+    default:
+      return {2, 1, 3 * e.t0};  // free: no curvature
   }
 }
 

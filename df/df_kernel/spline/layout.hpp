@@ -14,7 +14,9 @@ struct YRows {
     const T* y;
     T operator[](int i) const { return y[i]; }
     template <class V>
-    V lanes(int i) const { return get<V>(y + i); }
+    V lanes(int i) const {
+      return get<V>(y + i);
+    }
   };
   template <class T>
   static View<T> view(const Task* task, int f) {
@@ -57,7 +59,9 @@ struct NoUniformGrid {
     T point(int i) const { return x[i]; }
     T length(int i) const { return x[i + 1] - x[i]; }
     template <class V>
-    V lengths(int i) const { return get<V>(x + i + 1) - get<V>(x + i); }
+    V lengths(int i) const {
+      return get<V>(x + i + 1) - get<V>(x + i);
+    }
   };
 };
 
@@ -71,7 +75,9 @@ struct UniformGrid {
     T point(int i) const { return left + T(i) * step; }
     T length(int) const { return step; }
     template <class V>
-    V lengths(int) const { return all<V>(step); }
+    V lengths(int) const {
+      return all<V>(step);
+    }
   };
 };
 

@@ -12,8 +12,7 @@ namespace ork::rua {
 struct Affine {
   __m128d t, a;
 
-  Affine(double a_, double b, double step)
-      : t(_mm_set1_pd((b - a_) * step)), a(_mm_set1_pd(a_)) {}
+  Affine(double a_, double b, double step) : t(_mm_set1_pd((b - a_) * step)), a(_mm_set1_pd(a_)) {}
   __m128d operator()(__m128i z) const {
     const __m128d two52 = _mm_set1_pd(0x1p52);
     const __m128d exact = _mm_sub_pd(_mm_or_pd(_mm_castsi128_pd(z), two52), two52);
@@ -91,7 +90,8 @@ struct WordsAsUnitFloats {
   static __m128 unit(__m128i z) {
     const __m128 high = _mm_cvtepi32_ps(_mm_srli_epi32(z, 16));
     const __m128 low = _mm_cvtepi32_ps(_mm_and_si128(z, _mm_set1_epi32(0xFFFF)));
-    return _mm_add_ps(_mm_mul_ps(high, _mm_set1_ps(0x1p-16f)), _mm_mul_ps(low, _mm_set1_ps(0x1p-32f)));
+    return _mm_add_ps(_mm_mul_ps(high, _mm_set1_ps(0x1p-16f)),
+                      _mm_mul_ps(low, _mm_set1_ps(0x1p-32f)));
   }
 };
 
@@ -114,8 +114,6 @@ struct WordsAsSymmetricFloats {
 inline __m128i load4(const uint32_t* p) {
   return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
 }
-inline void store4(uint32_t* p, __m128i v) {
-  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v);
-}
+inline void store4(uint32_t* p, __m128i v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
 
 }  // namespace ork::rua

@@ -3,6 +3,7 @@
 #include <ork/threader.h>
 #include <ork/zem.h>
 #include <ork/zem_kernels.h>
+
 #include <cstdio>
 
 int main() {

@@ -5,13 +5,17 @@
 namespace ork {
 
 // x * (1 with the sign of x). A NaN keeps its sign, a signalling one is quieted.
-template <class T> struct Abs : Core<T> {
+template <class T>
+struct Abs : Core<T> {
   using vec = vec_of<T>;
   static constexpr char name[] = "";
   static constexpr Csr csr = Csr::untouched;
   static vec eval(vec x, u32x4&) {
     constexpr typename simd<T>::ivec dbAbsMask = [] {
-      if constexpr (sizeof(T) == 8) return sign_f64x2; else return sign_f32x4;
+      if constexpr (sizeof(T) == 8)
+        return sign_f64x2;
+      else
+        return sign_f32x4;
     }();
     return x * or_bits(splat(T(1)), as<typename simd<T>::ivec>(x) & dbAbsMask);
   }

@@ -1,5 +1,5 @@
-#include "base/vec.hpp"
 #include "base/export.hpp"
+#include "base/vec.hpp"
 #include "ork/zem.h"
 
 ORK_EXPORT float ork_zem_kernel__sabs_scalar(float x) { return __builtin_fabsf(x); }

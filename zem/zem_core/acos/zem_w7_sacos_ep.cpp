@@ -16,7 +16,8 @@ struct AcosEpS : Core<float> {
     const u32x4 negative = as<u32x4>((f32x4)_mm_cmplt_ps(x, splat(0.0f))) & outer;
     const f32x4 k = sasin_ep(sasin_variable(a, outer), a, outer);
     const f32x4 f = as<f32x4>(as<u32x4>(splat(-1.0f)) + (outer & 0x80800000));  // -1 or 2
-    const u32x4 base = (~outer & as<uint32_t>(1.57079637f)) | (negative & as<uint32_t>(3.14159274f));
+    const u32x4 base =
+        (~outer & as<uint32_t>(1.57079637f)) | (negative & as<uint32_t>(3.14159274f));
     return xor_bits(k * f, as<u32x4>(x) & sign_f32x4) + as<f32x4>(base);
   }
   static int special(const float* x, float* r) {

@@ -5,15 +5,19 @@
 
 namespace ork {
 
-template <bool ep> struct AcoshS : Core<float> {
+template <bool ep>
+struct AcoshS : Core<float> {
   static constexpr char name[] = "vsAcosh";
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
-    rare |= ((ep ? 0x5E7FFFFF : 0x7F7FFFFF) - as<u32x4>(x)) | (as<u32x4>(x) - 0x3F800000) | as<u32x4>(x);
+    rare |= ((ep ? 0x5E7FFFFF : 0x7F7FFFFF) - as<u32x4>(x)) | (as<u32x4>(x) - 0x3F800000) |
+            as<u32x4>(x);
     if constexpr (ep) {
       const f32x4 t = x - 1.0f;
       return log1p_s<true>(t + sqrt((t + t) + t * t));
     } else {
-      return in_double(x, [](f64x2 w) __attribute__((always_inline)) { return ln_short(w + sqrt(w * w - 1.0)); });
+      return in_double(
+          x,
+          [](f64x2 w) __attribute__((always_inline)) { return ln_short(w + sqrt(w * w - 1.0)); });
     }
   }
   static int _zemsAcosh_HA_scalar(const float* x, float* r) {

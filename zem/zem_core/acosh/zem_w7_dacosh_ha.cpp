@@ -29,7 +29,8 @@ struct AcoshHa : TwoPassCore {
 #include "acosh/near_one_d.inc"
       };
       const long double t = (long double)*x - 1.0L;
-      const long double p = t * (-0.083333333332859 + t * (c[0] + t * (c[1] + t * c[2]))), root = __builtin_sqrtl(2.0L * t);
+      const long double p = t * (-0.083333333332859 + t * (c[0] + t * (c[1] + t * c[2]))),
+                        root = __builtin_sqrtl(2.0L * t);
       *r = (double)(root + root * p);
       return 0;
     }

@@ -11,10 +11,12 @@ struct AsinhHaS : Core<float> {
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 magnitude = abs(x);
     rare |= 0x7F7FFFFF - as<u32x4>(magnitude);
-    const f32x4 y = in_double(magnitude, [](f64x2 a) __attribute__((always_inline)) {
-      const f64x2 square = a * a, small = a - a * (square * (1.0 / 6));
-      return select((f64x2)_mm_cmplt_pd(a, splat(0x1p-12)), small, ln_short(a + sqrt(square + 1.0)));
-    });
+    const f32x4 y = in_double(
+        magnitude, [](f64x2 a) __attribute__((always_inline)) {
+          const f64x2 square = a * a, small = a - a * (square * (1.0 / 6));
+          return select((f64x2)_mm_cmplt_pd(a, splat(0x1p-12)), small,
+                        ln_short(a + sqrt(square + 1.0)));
+        });
     return or_bits(y, as<u32x4>(x) & sign_f32x4);
   }
   static int _zemsAsinh_HA_scalar(const float* x, float* r) {
@@ -25,7 +27,8 @@ struct AsinhHaS : Core<float> {
 };
 
 // Rare: |x| >= 2^62, whose square would overflow; infinities and NaNs.
-template <bool ep> struct AsinhShortS : Core<float> {
+template <bool ep>
+struct AsinhShortS : Core<float> {
   static constexpr char name[] = "vsAsinh";
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x), square = a * a;
@@ -35,7 +38,8 @@ template <bool ep> struct AsinhShortS : Core<float> {
   }
   static int special(const float* x, float* r) {
     const double a = __builtin_fabs((double)*x);
-    *r = a <= __FLT_MAX__ ? (float)__builtin_copysign(ln_short(splat(a + a))[0], (double)*x) : *x + *x;
+    *r = a <= __FLT_MAX__ ? (float)__builtin_copysign(ln_short(splat(a + a))[0], (double)*x)
+                          : *x + *x;
     return 0;
   }
 };

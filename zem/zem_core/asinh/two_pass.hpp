@@ -43,12 +43,15 @@ ORK_INLINE long double ln_extended(const Extended& e) {
   const __m128i scale = _mm_slli_epi64(_mm_cvtsi32_si128(1023 - k), 52);
   const double c = row[2] * as<f64x2>(scale)[0];
   const long double r = e.y * c - 1.0L;
-  const long double p = r * (-0.4999999999999955 + r * (0.33333333331983062 + r * (-0.24999998524219055 +
-                        r * (0.19999270610222492 + r * -0.16500333306925632))));
+  const long double p =
+      r * (-0.4999999999999955 +
+           r * (0.33333333331983062 +
+                r * (-0.24999998524219055 + r * (0.19999270610222492 + r * -0.16500333306925632))));
   return (k * 0.693147180559945309417232L + row[0]) + ((r + r * p) + row[1]);
 }
 
-template <class C> ORK_INLINE void two_pass(int n, const double* a, double* r) {
+template <class C>
+ORK_INLINE void two_pass(int n, const double* a, double* r) {
   if (n <= 0) return;
   const Control<C> control;
   const C core{};

@@ -27,8 +27,9 @@ struct AtanHaS : Core<float> {
     const u32x4 m2 = above(a, 0x3EE00000), m3 = above(a, 0x3F3851EC), m4 = above(a, 0x40128F5C);
     const f32x4 c = pick(m2, 0.53125f, m3, 1.0f, u32x4{}, 1.0f);
     const f32x4 t = select(m4, splat(-1.0f), a - c) / select(m4, a, 1.0f + c * a), z = t * t;
-    const f32x4 q = -0.333333045f + z * (0.199977338f + z * (-0.142295152f +
-                    z * (0.104903415f + z * -0.0581799187f)));
+    const f32x4 q =
+        -0.333333045f +
+        z * (0.199977338f + z * (-0.142295152f + z * (0.104903415f + z * -0.0581799187f)));
     const f32x4 high = pick(m2, 0.484375f, m3, 0.75f, m4, 1.5625f);
     const f32x4 low = pick(m2, 0.00395895122f, m3, 0.03539816290140152f, m4, 0.008296326734125614f);
     return or_bits((((t * z) * q + low) + t) + high, as<u32x4>(x) & sign_f32x4);

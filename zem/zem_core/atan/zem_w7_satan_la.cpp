@@ -15,7 +15,8 @@ struct AtanLaS : Core<float> {
     rare |= as<u32x4>((f32x4)_mm_cmpeq_ps(a, splat(__builtin_inff())));
     const f32x4 y = rcp_est(a), t = select(large, y * (a * y - 2.0f), a);
     const f32x4 z = t * t, w = z * z;
-    const f32x4 odd = -0.333330721f + w * (-0.142036438f + w * (-0.0750429481f + w * -0.0160686299f));
+    const f32x4 odd =
+        -0.333330721f + w * (-0.142036438f + w * (-0.0750429481f + w * -0.0160686299f));
     const f32x4 even = 0.199926198f + w * (0.106409341f + w * (0.0426915213f + w * 0.00284988969f));
     const f32x4 p = 1.0f + (z * odd + w * even);
     return or_bits(t * p + and_bits(splat(1.57079637f), large), as<u32x4>(x) & sign_f32x4);

@@ -8,7 +8,8 @@
 
 namespace ork {
 
-template <class T> struct Octant {
+template <class T>
+struct Octant {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   vec small, large;
@@ -24,7 +25,8 @@ template <class T> struct Octant {
     constexpr bool d = sizeof(T) == 8;
     small = select(steep, ax, ay), large = select(steep, ay, ax);
     base = either(T(1.5707963267948966), T(3.141592653589793));
-    base_low = either(d ? T(6.123233995736766e-17) : T(-4.37113883e-8), d ? T(1.2246467991473532e-16) : T(-8.74227766e-8));
+    base_low = either(d ? T(6.123233995736766e-17) : T(-4.37113883e-8),
+                      d ? T(1.2246467991473532e-16) : T(-8.74227766e-8));
     flip = (steep ^ left) & as<ivec>(splat(T(-0.0)));
   }
 };
@@ -37,11 +39,13 @@ ORK_INLINE u32x4 atan2_rare(f64x2 y, f64x2 x) {
 }
 ORK_INLINE u32x4 atan2_rare(f32x4 y, f32x4 x) {
   const u32x4 ay = as<u32x4>(abs(y)), ax = as<u32x4>(abs(x));
-  return (0x7F7FFFFF - ay) | (0x7F7FFFFF - ax) | as<u32x4>((f32x4)_mm_cmpeq_ps(as<f32x4>(ay | ax), splat(0.0f)));
+  return (0x7F7FFFFF - ay) | (0x7F7FFFFF - ax) |
+         as<u32x4>((f32x4)_mm_cmpeq_ps(as<f32x4>(ay | ax), splat(0.0f)));
 }
 
 // The special values, in C99's order of cases.
-template <class T> int atan2_special(const T* y, const T* x, T* r) {
+template <class T>
+int atan2_special(const T* y, const T* x, T* r) {
   constexpr T pi = T(3.141592653589793), infinity = __builtin_inf();
   const T ay = *y < 0 ? -*y : *y, ax = *x < 0 ? -*x : *x;
   const bool left = __builtin_signbit(*x);
@@ -76,8 +80,8 @@ ORK_INLINE f64x2 atan_step(f64x2 q, f64x2& high, f64x2& low) {
   return k - shifter;
 }
 
-// Double: the roundings of q and t and the last sums are the errors that count, 2 ulp in all. The series of
-// atan t is good to 2^-59.
+// Double: the roundings of q and t and the last sums are the errors that count, 2 ulp in all. The
+// series of atan t is good to 2^-59.
 ORK_INLINE f64x2 atan2_la(f64x2 y, f64x2 x) {
   const Octant<double> o(y, x);
   const f64x2 q = o.small / o.large;
@@ -85,7 +89,8 @@ ORK_INLINE f64x2 atan2_la(f64x2 y, f64x2 x) {
   const f64x2 b = atan_step(q, high, low), t = (q - b) / (1.0 + q * b), z = t * t;
   const f64x2 series = z * (ratio<-1, 3> + z * (ratio<1, 5> + z * ratio<-1, 7>));
   const f64x2 rest = t + (low + t * series);
-  return or_bits((o.base + xor_bits(high, o.flip)) + xor_bits(rest, o.flip), as<u64x2>(y) & sign_f64x2);
+  return or_bits((o.base + xor_bits(high, o.flip)) + xor_bits(rest, o.flip),
+                 as<u64x2>(y) & sign_f64x2);
 }
 
 // atan2 of a lane by the x87's instruction, rounded once more to T.

@@ -13,7 +13,8 @@ struct Atan2LaS : Core<float, 2> {
     rare |= atan2_rare(y, x);
     const Octant<float> o(y, x);
     const f32x4 q = o.small / o.large, z = q * q, w = z * z;
-    const f32x4 odd = c[0] + w * (c[2] + w * (c[4] + w * c[6])), even = c[1] + w * (c[3] + w * (c[5] + w * c[7]));
+    const f32x4 odd = c[0] + w * (c[2] + w * (c[4] + w * c[6])),
+                even = c[1] + w * (c[3] + w * (c[5] + w * c[7]));
     const f32x4 rest = q * (z * odd + w * even);
     const f32x4 v = o.base + (xor_bits(q, o.flip) + (xor_bits(rest, o.flip) + o.base_low));
     return or_bits(v, as<u32x4>(y) & sign_f32x4);

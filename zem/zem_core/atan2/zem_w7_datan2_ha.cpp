@@ -40,7 +40,8 @@ struct Atan2Ha : Core<double, 2> {
   static constexpr unsigned x87 = x87_extended;  // the store rounds as it says
   ORK_INLINE f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
     const Octant<double> o(y, x);
-    rare |= (as<u32x4>(o.small) - ((1023 - 400) << 20)) | (((1023 + 400) << 20) - as<u32x4>(o.large));
+    rare |=
+        (as<u32x4>(o.small) - ((1023 - 400) << 20)) | (((1023 + 400) << 20) - as<u32x4>(o.large));
     f64x2 step, step_low;
     const f64x2 b = atan_step(o.small / o.large, step, step_low);
 
@@ -57,7 +58,8 @@ struct Atan2Ha : Core<double, 2> {
     const f64x2 t_low = ((left - over) - t.whole * under) * inverse;
 
     const f64x2 z = t.whole * t.whole;
-    const f64x2 series = z * ((ratio<-1, 3> + z * ratio<1, 5>) + (z * z) * (ratio<-1, 7> + z * ratio<1, 9>));
+    const f64x2 series =
+        z * ((ratio<-1, 3> + z * ratio<1, 5>)+(z * z) * (ratio<-1, 7> + z * ratio<1, 9>));
     f64x2 lost, lost_base;
     const f64x2 angle = sum(step, t.whole, lost);
     const f64x2 angle_low = lost + (step_low + (t_low + t.whole * series));
@@ -68,7 +70,9 @@ struct Atan2Ha : Core<double, 2> {
     rare |= as<u32x4>((f64x2)_mm_cmpneq_pd(r, high + (low - doubt)));
     return or_bits(r, as<u64x2>(y) & sign_f64x2);
   }
-  static int special(const double* y, const double* x, double* r) { return vdatan2_cout_rare(y, x, r); }
+  static int special(const double* y, const double* x, double* r) {
+    return vdatan2_cout_rare(y, x, r);
+  }
 };
 
 }  // namespace

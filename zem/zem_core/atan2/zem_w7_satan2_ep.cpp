@@ -18,7 +18,8 @@ struct Atan2EpS : Core<float, 2> {
     const f32x4 y0 = rcp_est(den), t = num * (y0 * (2.0f - den * y0)), z = t * t, w = z * z;
     const f32x4 p = (0.999775231f + w * 0.154571936f) + z * (-0.325505346f + w * -0.043525815f);
     const f32x4 v = t * p + and_bits(splat(1.57079637f), steep);
-    return or_bits(xor_bits(v, left & sign_f32x4) + and_bits(splat(3.14159274f), left), as<u32x4>(y) & sign_f32x4);
+    return or_bits(xor_bits(v, left & sign_f32x4) + and_bits(splat(3.14159274f), left),
+                   as<u32x4>(y) & sign_f32x4);
   }
   static int special(const float* y, const float* x, float* r) {
     fpatan(y, x, r);

@@ -4,7 +4,8 @@
 
 namespace ork {
 
-template <class T> int atanh_rare(const T* x, T* r) {
+template <class T>
+int atanh_rare(const T* x, T* r) {
   if (*x != *x) {
     *r = *x + *x;
     return 0;

@@ -2,8 +2,8 @@
 // Argument reduction of the cube roots. x = 2^(3(q - q0) + rem) m, and m = c_j (1 + r) with
 // c_j = 1 + (2j + 1)/64, |r| <= 2^-6. The biased exponent is 3q + rem; a root scales by
 // 2^(q - q0), q0 = 341 in double.
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 
 namespace ork {
 

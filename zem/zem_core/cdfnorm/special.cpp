@@ -1,6 +1,6 @@
 // CdfNorm of one element at or below the limit of the fast range.
-#include "cdfnorm/cdfnorm.hpp"
 #include "base/image.hpp"
+#include "cdfnorm/cdfnorm.hpp"
 
 namespace ork {
 namespace {

@@ -7,7 +7,8 @@
 
 namespace ork {
 
-template <class Level> struct Cosh : Core<typename Level::type> {
+template <class Level>
+struct Cosh : Core<typename Level::type> {
   using T = typename Level::type;
   using vec = vec_of<T>;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'C', 'o', 's', 'h', 0};

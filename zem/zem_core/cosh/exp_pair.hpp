@@ -19,7 +19,8 @@ alignas(16) inline constexpr float pair_split128_s[128][2] = {
 #include "cosh/split128_s.inc"
 };
 
-template <class T> struct ExpPair {
+template <class T>
+struct ExpPair {
   vec_of<T> up, down, up_low, down_low, r;
 };
 
@@ -45,8 +46,10 @@ ORK_INLINE f32x4 power128_s(u32x4 m, f32x4& low) {
   const __m128i j = (__m128i)(m & 127);
   const __m64* const rows = (const __m64*)pair_split128_s;
   const f32x4 none = {};
-  const f32x4 row01 = _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_cvtsi128_si32(j)), rows + _mm_extract_epi16(j, 2));
-  const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_extract_epi16(j, 4)), rows + _mm_extract_epi16(j, 6));
+  const f32x4 row01 =
+      _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_cvtsi128_si32(j)), rows + _mm_extract_epi16(j, 2));
+  const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_extract_epi16(j, 4)),
+                                   rows + _mm_extract_epi16(j, 6));
   const f32x4 scale = as<f32x4>(((m >> 7) + 127) << 23);
   low = (f32x4)_mm_shuffle_ps(row01, row23, 0xDD) * scale;
   return (f32x4)_mm_shuffle_ps(row01, row23, 0x88) * scale;
@@ -121,7 +124,8 @@ struct PairEpS : PairLaS {  // cosh r = 1, sinh r = r to 2^-18
   ORK_INLINE f32x4 odd(f32x4 r, f32x4) { return r; }
 };
 
-template <class Level, bool sinh> ORK_INLINE vec_of<typename Level::type> from_pair(vec_of<typename Level::type> a) {
+template <class Level, bool sinh>
+ORK_INLINE vec_of<typename Level::type> from_pair(vec_of<typename Level::type> a) {
   using T = typename Level::type;
   using vec = vec_of<T>;
   const ExpPair<T> e = Level::reduce(a);
@@ -148,13 +152,15 @@ inline double half_exp(double a) {
   const double r = a - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12, q = r * r;
   const uint32_t m = as<u32x4>(t)[0], k = m >> 6 & 0xFFFF;
   const double high = pair_split64_d[m & 63][0], low = pair_split64_d[m & 63][1];
-  const double p = r + q * (0.49999999999945266 + r * (0.16666666666653376 +
-                   r * (0.041666725157316162 + r * 0.0083333437288058629)));
+  const double p =
+      r + q * (0.49999999999945266 +
+               r * (0.16666666666653376 + r * (0.041666725157316162 + r * 0.0083333437288058629)));
   return (high + (low + (high + low) * p)) * as<double>((uint64_t)(k + 1021) << 52) * 2.0;
 }
 
 // Lanes beyond the fast range.
-template <class T, bool sinh> int pair_special(const T* x, T* r) {
+template <class T, bool sinh>
+int pair_special(const T* x, T* r) {
   constexpr T limit = sizeof(T) == 8 ? T(710.475860073944) : T(89.4159927368164);
   volatile T huge = sizeof(T) == 8 ? T(__DBL_MAX__) : T(__FLT_MAX__);
   const T a = *x < 0 ? -*x : *x;

@@ -1,7 +1,7 @@
 #pragma once
 // Division and reciprocal by the divide instruction, correctly rounded.
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -1,8 +1,8 @@
 #pragma once
 // Single-precision reciprocals from the hardware's 12-bit estimate, for division and reciprocal
 // at LA and EP.
-#include "frame/level.hpp"
 #include "base/vec.hpp"
+#include "frame/level.hpp"
 
 namespace ork {
 

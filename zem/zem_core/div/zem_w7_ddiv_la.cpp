@@ -17,7 +17,8 @@ struct DivLa : Core<double, 2> {
 };
 
 void one_element(const OperandsOf<DivLa>& o, int i) {
-  double pair[2] = {read_one(o.in[0] + i), read_one(o.in[1] + i)};  // the event is decided by the inputs, in place or not
+  double pair[2] = {read_one(o.in[0] + i),
+                    read_one(o.in[1] + i)};  // the event is decided by the inputs, in place or not
   const long double a = pair[0], b = pair[1];
   const bool regular = magnitude(pair + 1) - 1 < infinity_bits<double> - 1;
   const long double b2 = b * b;
@@ -28,7 +29,8 @@ void one_element(const OperandsOf<DivLa>& o, int i) {
 
 // False, with nothing stored, if the product of the denominators is out of range.
 ORK_INLINE bool four_elements(const double* a, const double* b, double* r) {
-  const long double b0 = read_one(b), b1 = read_one(b + 1), b2 = read_one(b + 2), b3 = read_one(b + 3);
+  const long double b0 = read_one(b), b1 = read_one(b + 1), b2 = read_one(b + 2),
+                    b3 = read_one(b + 3);
   const long double p01 = b0 * b1, p23 = b2 * b3;
   const long double p = p01 * p23;
   const uint32_t image = as<uint32_t>((float)p) << 1;

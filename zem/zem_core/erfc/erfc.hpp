@@ -120,7 +120,8 @@ struct ErfcFormulaS {
     const f64x2 square = ax * ax;
     const ErfcSteps s(square);
     const f64x2 r = (s.n * -0.0054152123630046844 - square) - s.n * -1.4880111718420063e-11;
-    const f64x2 power = as<f64x2>(as<u64x2>(gather(erfc_powers_s + s.j[0], erfc_powers_s + s.j[1])) + s.k);
+    const f64x2 power =
+        as<f64x2>(as<u64x2>(gather(erfc_powers_s + s.j[0], erfc_powers_s + s.j[1])) + s.k);
     const f64x2 v = power * (Level::exp(r) * row_polynomial<Level::columns>(p0, p1, t));
     return erfc_base(x, 2.0) + xor_bits(v, sign_of(x));
   }

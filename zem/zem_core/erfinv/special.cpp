@@ -1,6 +1,6 @@
 // ErfInv of one element outside the table: the ends of the domain, and x sqrt(pi)/2 near 0.
-#include "erfinv/erfinv.hpp"
 #include "base/image.hpp"
+#include "erfinv/erfinv.hpp"
 
 namespace ork {
 namespace {

@@ -3,9 +3,9 @@
 // k = n div N, and p = e^r - 1 a polynomial.
 // A level gives N, t and p by reduce(), 2^(j/N) (1 + p) as a sum by parts(), and combines it
 // with the scale 2^k. Fast range: |x| below 708.396 by its high word; beyond it _zemdSpecSc.
+#include "base/image.hpp"
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
-#include "base/image.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -1,8 +1,8 @@
 // Exp, single, EP: e^x = 2^n 2^f, u = x log2 e, n = round(u), f = u - n; 2^f by a cubic of
 // relative error 1.3e-4 on [-1/2, 1/2]; 2^n is added to the exponent field.
 // Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: given.
-#include "frame/chunk.hpp"
 #include "base/image.hpp"
+#include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

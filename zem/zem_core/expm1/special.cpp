@@ -1,7 +1,7 @@
 // Expm1 of one element beyond the fast range: -1 below, e^x above, where e^x - 1 rounds to it.
+#include "base/image.hpp"
 #include "exp/tables.hpp"
 #include "expm1/expm1.hpp"
-#include "base/image.hpp"
 
 namespace ork {
 namespace {

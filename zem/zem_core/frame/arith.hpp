@@ -6,7 +6,8 @@
 namespace ork {
 
 // Elements before `p` reaches a 16-byte boundary, or -1 if it never does.
-template <class T> ORK_INLINE int peel_count(const T* p) {
+template <class T>
+ORK_INLINE int peel_count(const T* p) {
   const unsigned offset = (uintptr_t)p % 16;
   return offset % sizeof(T) != 0 ? -1 : (int)((16 - offset) % 16 / sizeof(T));
 }

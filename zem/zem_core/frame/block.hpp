@@ -5,7 +5,8 @@
 
 namespace ork {
 
-template <class C> ORK_INLINE void block(int n, const OperandsOf<C>& o, const C& core = C{}) {
+template <class C>
+ORK_INLINE void block(int n, const OperandsOf<C>& o, const C& core = C{}) {
   if (n <= 0) return;
   const Control<C> control;
   constexpr int width = C::vectors * simd<typename C::type>::width;

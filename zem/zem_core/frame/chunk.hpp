@@ -5,7 +5,8 @@
 
 namespace ork {
 
-template <class C> ORK_INLINE void chunk(int n, const OperandsOf<C>& o, const C& core = C{}) {
+template <class C>
+ORK_INLINE void chunk(int n, const OperandsOf<C>& o, const C& core = C{}) {
   if (n <= 0) return;
   using T = typename C::type;
   const Control<C> control;

@@ -4,8 +4,8 @@
 #include <string.h>
 
 #include "base/export.hpp"
-#include "frame/mode.hpp"
 #include "base/vec.hpp"
+#include "frame/mode.hpp"
 #include "ork/serv.h"
 
 using ork::read_one;
@@ -29,14 +29,20 @@ int _zemCreateFuncNameStr(char* to, const char* from) {
 
 int errno_of(int status) {
   switch (status) {
-    case ZEM_STATUS_BAD_ACCESS: return EACCES;
-    case ZEM_STATUS_BAD_ARGUMENT: return EINVAL;
-    case ZEM_STATUS_NONE: return 0;
-    case ZEM_STATUS_DOMAIN: return EDOM;
+    case ZEM_STATUS_BAD_ACCESS:
+      return EACCES;
+    case ZEM_STATUS_BAD_ARGUMENT:
+      return EINVAL;
+    case ZEM_STATUS_NONE:
+      return 0;
+    case ZEM_STATUS_DOMAIN:
+      return EDOM;
     case ZEM_STATUS_SINGULARITY:
     case ZEM_STATUS_OVERFLOW:
-    case ZEM_STATUS_UNDERFLOW: return ERANGE;
-    default: return EFAULT;
+    case ZEM_STATUS_UNDERFLOW:
+      return ERANGE;
+    default:
+      return EFAULT;
   }
 }
 
@@ -45,14 +51,22 @@ void print_report(const ork_error_record& e) {
   char name[name_limit + 1] = {};
   memcpy(name, e.name, (size_t)e.name_length);
   switch (e.status) {
-    case ZEM_STATUS_BAD_ACCESS: ork_serv_print(1, 736, 1, name); return;
-    case ZEM_STATUS_BAD_ARGUMENT: ork_serv_print(1, 735, 2, name, e.index); return;
-    case ZEM_STATUS_NONE: return;
+    case ZEM_STATUS_BAD_ACCESS:
+      ork_serv_print(1, 736, 1, name);
+      return;
+    case ZEM_STATUS_BAD_ARGUMENT:
+      ork_serv_print(1, 735, 2, name, e.index);
+      return;
+    case ZEM_STATUS_NONE:
+      return;
     case ZEM_STATUS_DOMAIN:
     case ZEM_STATUS_SINGULARITY:
     case ZEM_STATUS_OVERFLOW:
-    case ZEM_STATUS_UNDERFLOW: ork_serv_print(1, 736 + e.status, 1, name); break;
-    default: ork_serv_print(1, 741, 1, name);
+    case ZEM_STATUS_UNDERFLOW:
+      ork_serv_print(1, 736 + e.status, 1, name);
+      break;
+    default:
+      ork_serv_print(1, 741, 1, name);
   }
   // A NaN is neither equal nor zero, so it counts as a second argument of its own.
   const bool two_arguments = !(e.a2 == e.a1 || e.a2 == 0.0);
@@ -73,19 +87,27 @@ void raise_exception(int status) {
   double result;
   switch (status) {
     case ZEM_STATUS_DOMAIN:
-      asm volatile("fldl %1\n\tfdivl %1\n\tfstpl %0\n\tfwait" : "=m"(result) : "m"(_zemdSpecialTab[2]));
+      asm volatile("fldl %1\n\tfdivl %1\n\tfstpl %0\n\tfwait"
+                   : "=m"(result)
+                   : "m"(_zemdSpecialTab[2]));
       break;
     case ZEM_STATUS_SINGULARITY:
       asm volatile("fldl %1\n\tfdivl %2\n\tfstpl %0\n\tfwait"
-                   : "=m"(result) : "m"(_zemdSpecialTab[3]), "m"(_zemdSpecialTab[2]));
+                   : "=m"(result)
+                   : "m"(_zemdSpecialTab[3]), "m"(_zemdSpecialTab[2]));
       break;
     case ZEM_STATUS_OVERFLOW:
-      asm volatile("fldl %1\n\tfmull %1\n\tfstpl %0\n\tfwait" : "=m"(result) : "m"(_zemdSpecialTab[1]));
+      asm volatile("fldl %1\n\tfmull %1\n\tfstpl %0\n\tfwait"
+                   : "=m"(result)
+                   : "m"(_zemdSpecialTab[1]));
       break;
     case ZEM_STATUS_UNDERFLOW:
-      asm volatile("fldl %1\n\tfmull %1\n\tfstpl %0\n\tfwait" : "=m"(result) : "m"(_zemdSpecialTab[0]));
+      asm volatile("fldl %1\n\tfmull %1\n\tfstpl %0\n\tfwait"
+                   : "=m"(result)
+                   : "m"(_zemdSpecialTab[0]));
       break;
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -114,8 +136,7 @@ void dispatch(int status, int index, const T* a, const T* b, T* r, T* r2, const 
     e.index += (int)((intptr_t)a - (intptr_t)start) >> element_shift;
   e.name_length = _zemCreateFuncNameStr(e.name, name);
 
-  const bool has_element =
-      status != ZEM_STATUS_BAD_ARGUMENT && status != ZEM_STATUS_BAD_ACCESS;
+  const bool has_element = status != ZEM_STATUS_BAD_ARGUMENT && status != ZEM_STATUS_BAD_ACCESS;
   const int i = index * parts;
   if (has_element) {
     e.a1 = read_one(a + i);

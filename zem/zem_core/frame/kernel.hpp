@@ -20,8 +20,8 @@
 // signalling NaN is not quieted on its way through an x87 register.
 #include "base/control.hpp"
 #include "base/export.hpp"
-#include "frame/mode.hpp"
 #include "base/vec.hpp"
+#include "frame/mode.hpp"
 
 namespace ork {
 
@@ -31,32 +31,37 @@ enum class Csr {
   untouched,
 };
 
-template <class T, int Inputs = 1, int Outputs = 1> struct Core {
+template <class T, int Inputs = 1, int Outputs = 1>
+struct Core {
   using type = T;
   using vec = vec_of<T>;
   static constexpr int inputs = Inputs, outputs = Outputs;
-  static constexpr int vectors = 2;         // vectors in a block
+  static constexpr int vectors = 2;  // vectors in a block
   static constexpr Csr csr = Csr::from_mode;
-  static constexpr unsigned rounding = 0;   // MXCSR rounding control
-  static constexpr unsigned x87 = 0;        // x87 control, or 0: not used
+  static constexpr unsigned rounding = 0;  // MXCSR rounding control
+  static constexpr unsigned x87 = 0;       // x87 control, or 0: not used
   // What the error report of an element takes as second input array.
   const T* second(const T* last_input, int) const { return last_input; }
 };
 
 // For Core::second: an array whose element `index`, the only one read, is *x.
-template <class T> ORK_INLINE const T* array_with(const T* x, int index) {
+template <class T>
+ORK_INLINE const T* array_with(const T* x, int index) {
   return reinterpret_cast<const T*>((uintptr_t)x - (uintptr_t)index * sizeof(T));
 }
 
 // The arrays of a call.
-template <class T, int Inputs, int Outputs> struct Operands {
+template <class T, int Inputs, int Outputs>
+struct Operands {
   const T* in[Inputs];
   T* out[Outputs];
 };
-template <class C> using OperandsOf = Operands<typename C::type, C::inputs, C::outputs>;
+template <class C>
+using OperandsOf = Operands<typename C::type, C::inputs, C::outputs>;
 
 // The processor state around a body.
-template <class C> struct Control {
+template <class C>
+struct Control {
   __attribute__((always_inline)) static unsigned wanted() {
     if constexpr (C::csr == Csr::cleared) return 0;
     return mxcsr_of_mode(_zem_static_wrapper32_GetMode()) | C::rounding;
@@ -64,15 +69,19 @@ template <class C> struct Control {
   MxcsrGuard mxcsr{wanted()};
   X87Guard<C::x87> x87;
 };
-template <class C> requires(C::csr == Csr::untouched) struct Control<C> {
+template <class C>
+requires(C::csr == Csr::untouched) struct Control<C> {
   X87Guard<C::x87> x87;
 };
 
 template <class C>
-concept has_rest = requires(const C core, typename C::vec x, u32x4 rare) { core.eval_rest(x, x, rare); };
+concept has_rest = requires(const C core, typename C::vec x, u32x4 rare) {
+  core.eval_rest(x, x, rare);
+};
 
 // One vector of every input in, one of every output out.
-template <class C> struct Lanes {
+template <class C>
+struct Lanes {
   using T = typename C::type;
   vec_of<T> in[C::inputs], out[C::outputs];
 
@@ -112,8 +121,8 @@ inline void report(const C& core, const OperandsOf<C>& o, int i, int status) {
 // One element through the scalar routine, from the lane's own copies of inputs and outputs to
 // the arrays.
 template <class C>
-inline void special_element(const C& core, const OperandsOf<C>& o, int i,
-                            const typename C::type* x, const typename C::type* x2) {
+inline void special_element(const C& core, const OperandsOf<C>& o, int i, const typename C::type* x,
+                            const typename C::type* x2) {
   typename C::type y[C::outputs];
   int status;
   if constexpr (C::inputs == 2)
@@ -185,7 +194,8 @@ ORK_INLINE bool block_is_clean(const C& core, const OperandsOf<C>& o, int i) {
     lanes[v].eval(core, rare);
   }
   if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) {
-    if constexpr (!has_rest<C>) return false;
+    if constexpr (!has_rest<C>)
+      return false;
     else {
       rare = u32x4{};
       for (int v = 0; v < C::vectors; ++v) lanes[v].eval_rest(core, rare);

@@ -13,8 +13,8 @@ struct ThreadState {
   ork_error_callback zemErrorCallBack;
   uint64_t zemMode;
 };
-extern __thread __attribute__((tls_model("initial-exec"), visibility("hidden"))) ThreadState
-    thread_state;
+extern __thread __attribute__((tls_model("initial-exec"), visibility("hidden")))
+ThreadState thread_state;
 
 // Initialises the mode word from the environment, or with the default.
 uint32_t init_mode();

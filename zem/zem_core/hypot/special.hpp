@@ -1,6 +1,6 @@
 #pragma once
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -29,15 +29,18 @@ inline constexpr LnRow ln_rows[128] = {
 // What depends on the result's type: ln(1 + r) / r for |r| <= 2^-7 and sin(pi f) / (pi f) for
 // |f| <= 1/2, as a series in f^2. What is left out of the first is below 2^-66, single 2^-37.
 // Constants in double can be memory operands.
-template <class T> struct Series;
-template <> struct Series<double> {
+template <class T>
+struct Series;
+template <>
+struct Series<double> {
   static constexpr long double ln[] = {1,         -1 / 2.0L, 1 / 3.0L,  -1 / 4.0L, 1 / 5.0L,
                                        -1 / 6.0L, 1 / 7.0L,  -1 / 8.0L, 1 / 9.0L};
   static constexpr long double sine[] = {
 #include "lgamma/sine.inc"
   };
 };
-template <> struct Series<float> {
+template <>
+struct Series<float> {
   static constexpr double ln[] = {1, -ratio<1, 2>, ratio<1, 3>, -ratio<1, 4>, ratio<1, 5>};
   static constexpr double sine[] = {
 #include "lgamma/sine_s.inc"
@@ -45,9 +48,10 @@ template <> struct Series<float> {
 };
 
 // x > 0: k ln 2 + T + ln(1 + r), x = 2^k m, r = m c - 1. Beside 1 c is 1, so that the result
-// keeps its relative accuracy; elsewhere it is within 2^-63 + 2^-64 |ln x| (double). Twice as fast as the
-// instruction, which serves where 2^k is no float.
-template <class T> ORK_INLINE long double ln_extended(long double x) {
+// keeps its relative accuracy; elsewhere it is within 2^-63 + 2^-64 |ln x| (double). Twice as fast
+// as the instruction, which serves where 2^k is no float.
+template <class T>
+ORK_INLINE long double ln_extended(long double x) {
   uint32_t mantissa;  // its high word
   uint16_t exponent;  // 16 bits alone were stored: a wider load would stall
   __builtin_memcpy(&mantissa, (const char*)&x + 4, 4);
@@ -82,6 +86,9 @@ struct Split {
 };
 
 // sin(pi f) / (pi f), |f| <= 1/2.
-template <class T> ORK_INLINE long double sine_ratio(long double f) { return polynomial(Series<T>::sine, f * f); }
+template <class T>
+ORK_INLINE long double sine_ratio(long double f) {
+  return polynomial(Series<T>::sine, f * f);
+}
 
 }  // namespace ork

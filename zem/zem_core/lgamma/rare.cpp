@@ -83,7 +83,8 @@ ORK_INLINE long double product(const Row& row, long double x) {
 
 // (x - 1/2) ln x - x + ln(2 pi)/2 + 1/(12 x) - 1/(360 x^3) + 1/(1260 x^5); what is left out is
 // below 2^-85 of the sum from 512 on.
-template <class T> ORK_INLINE long double stirling(long double x) {
+template <class T>
+ORK_INLINE long double stirling(long double x) {
   constexpr long double half_ln_2pi = 0xEB3F8E4325F5A535p-64L;
   constexpr long double c1 = 1 / 12.0L, c3 = -1 / 360.0L, c5 = 1 / 1260.0L;
   const long double v = 1 / x, v2 = v * v;

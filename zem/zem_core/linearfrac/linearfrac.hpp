@@ -59,7 +59,8 @@ struct LinearFrac : Core<T> {
                           as<i32x4>(words(exponent - 3 * one_bit - 0x80000000)));
       }
       if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) {
-        for (const int end = i + block; i < end; ++i) write_one(r + i, element<constant>(s, read_one(a + i), read_one(b + i)));
+        for (const int end = i + block; i < end; ++i)
+          write_one(r + i, element<constant>(s, read_one(a + i), read_one(b + i)));
         i -= block;
         continue;
       }

@@ -3,8 +3,8 @@
 // log x = p(u) + (k log 2 + T), p of degree 2, |u| <= 2^-9. The term left out, u^3/3, is
 // 2^-19.6 of the result next to 1, and below 2^-26 of it from |ln x| = 0.17 on.
 // Fast range: positive normal numbers.
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

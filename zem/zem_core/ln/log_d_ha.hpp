@@ -3,8 +3,8 @@
 // u_hi + u_lo = m c - c0, log x = k log 2 + T + u + p, with u_hi, k L1 + T_hi and their sum
 // exact. Off by at most 0.52 ulp.
 // Fast range: positive normal numbers. A base gives its constants and p(r).
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -5,7 +5,10 @@
 namespace ork {
 
 struct Mul {
-  template <class V> ORK_INLINE V eval(V x, V y) { return x * y; }
+  template <class V>
+  ORK_INLINE V eval(V x, V y) {
+    return x * y;
+  }
 };
 
 }  // namespace ork

@@ -3,8 +3,8 @@
 // log2 a = k + log2(L/c) + log2(1 + w/L), w = m c - L, in two doubles, off by 2^-64 of itself.
 // 2^q = 2^n 2^(j/128) 2^f, |f| <= 1/256. Polynomials: given.
 // Fast: normal a > 0, finite b, |q| < 1000. vdpow_cout_rare: the others. Within 0.6 ulp.
-#include "frame/chunk.hpp"
 #include "base/image.hpp"
+#include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"
 #include "pow/special.hpp"
 

@@ -1,8 +1,8 @@
 #pragma once
 // Exponents of Powx at HA that are another function's business, told by bits. The calls jump
 // through the HA slot of that function's table.
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

@@ -1,8 +1,8 @@
 #pragma once
 // What the rounding functions share. Adding and subtracting 2^52 (2^23 in single) drops the
 // fraction of a smaller number in the rounding mode in force. A number at or above it is whole.
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {

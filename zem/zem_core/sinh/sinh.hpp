@@ -9,33 +9,44 @@
 
 namespace ork {
 
-template <class Level> struct NearZero;
-template <> struct NearZero<PairHa> {
+template <class Level>
+struct NearZero;
+template <>
+struct NearZero<PairHa> {
   static constexpr double limit = 0.125, c[] = {
 #include "sinh/near_zero_d_ha.inc"
-  };
+                                         };
 };
-template <> struct NearZero<PairLa> {
+template <>
+struct NearZero<PairLa> {
   static constexpr double limit = 0.5, c[] = {
 #include "sinh/near_zero_d_la.inc"
-  };
+                                       };
 };
-template <> struct NearZero<PairHaS> {
+template <>
+struct NearZero<PairHaS> {
   static constexpr float limit = 0.125, c[] = {
 #include "sinh/near_zero_s_ha.inc"
-  };
+                                        };
 };
-template <> struct NearZero<PairLaS> {
+template <>
+struct NearZero<PairLaS> {
   static constexpr float limit = 0.5, c[] = {
 #include "sinh/near_zero_s_la.inc"
-  };
+                                      };
 };
-template <> struct NearZero<PairEpS> {};
+template <>
+struct NearZero<PairEpS> {};
 
-ORK_INLINE u32x4 below(f64x2 a, double limit) { return as<u32x4>((f64x2)_mm_cmplt_pd(a, splat(limit))); }
-ORK_INLINE u32x4 below(f32x4 a, float limit) { return as<u32x4>((f32x4)_mm_cmplt_ps(a, splat(limit))); }
+ORK_INLINE u32x4 below(f64x2 a, double limit) {
+  return as<u32x4>((f64x2)_mm_cmplt_pd(a, splat(limit)));
+}
+ORK_INLINE u32x4 below(f32x4 a, float limit) {
+  return as<u32x4>((f32x4)_mm_cmplt_ps(a, splat(limit)));
+}
 
-template <class Level> struct Sinh : Core<typename Level::type> {
+template <class Level>
+struct Sinh : Core<typename Level::type> {
   using T = typename Level::type;
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
@@ -53,7 +64,8 @@ template <class Level> struct Sinh : Core<typename Level::type> {
     const vec a = abs(x);
     rare |= Level::limit - as<u32x4>(a);
     vec y = from_pair<Level, true>(a);
-    if constexpr (!__is_same(Level, PairEpS)) y = select(below(a, NearZero<Level>::limit), near_zero(a), y);
+    if constexpr (!__is_same(Level, PairEpS))
+      y = select(below(a, NearZero<Level>::limit), near_zero(a), y);
     return or_bits(y, as<ivec>(x) & as<ivec>(splat(T(-0.0))));
   }
   static int special(const T* x, T* r) { return pair_special<T, true>(x, r); }

@@ -1,8 +1,8 @@
 #pragma once
 // 1 / sqrt(x) for positive normal doubles without the hardware's root and division: a 12-bit seed,
 // and the binomial series of (1 + e)^(-1/2) in e = x y0^2 - 1, |e| < 2^-10.4.
-#include "frame/level.hpp"
 #include "base/vec.hpp"
+#include "frame/level.hpp"
 
 namespace ork {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The rare elements of the square roots: zeros, negative, tiny, infinite, NaN.
-#include "frame/block.hpp"
 #include "base/image.hpp"
+#include "frame/block.hpp"
 
 namespace ork {
 

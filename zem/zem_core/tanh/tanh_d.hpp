@@ -12,7 +12,8 @@ alignas(16) inline constexpr double _dtanh_rows[60][16] = {
 #include "tanh/rows_d.inc"
 };
 
-template <bool low_word> struct TanhD : Core<double> {
+template <bool low_word>
+struct TanhD : Core<double> {
   static constexpr char name[] = "vdTanh";
 
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {

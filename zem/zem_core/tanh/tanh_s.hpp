@@ -28,7 +28,8 @@ struct TanhBaseS : Core<float> {
     return a - and_bits(as<f32x4>(centre), (u32x4)_mm_cmpgt_epi32(row, _mm_setzero_si128()));
   }
   // Four numbers of each lane's row, transposed.
-  template <int shift> static void columns(const float* rows, __m128i row, f32x4 (&c)[4]) {
+  template <int shift>
+  static void columns(const float* rows, __m128i row, f32x4 (&c)[4]) {
     const __m128i offset = _mm_slli_epi32(row, shift);
     const char* const p = (const char*)rows;
     c[0] = *(const f32x4*)(p + _mm_cvtsi128_si32(offset));
@@ -44,7 +45,8 @@ struct TanhBaseS : Core<float> {
 };
 
 // c2 is held in two parts: t times the first is exact.
-template <bool low_word> struct TanhS : TanhBaseS {
+template <bool low_word>
+struct TanhS : TanhBaseS {
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 a = abs(x);
     const __m128i row = row_of(a, rare);

@@ -1,8 +1,8 @@
 // Median and mean of the distances from the median and the mean.
-#include "rua_kernel/ss/moments/basic.hpp"
-#include "rua_kernel/ss/quantiles/quantiles.hpp"
 #include "base/scratch.hpp"
 #include "base/threads.hpp"
+#include "rua_kernel/ss/moments/basic.hpp"
+#include "rua_kernel/ss/quantiles/quantiles.hpp"
 
 namespace ork::ss {
 namespace {

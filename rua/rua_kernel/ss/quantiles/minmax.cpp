@@ -1,9 +1,9 @@
 // Minimum and maximum: the caller's arrays hold the values to start from.
 #include <string.h>
 
+#include "base/scratch.hpp"
 #include "base/vec.hpp"
 #include "rua_kernel/ss/service/task.hpp"
-#include "base/scratch.hpp"
 
 namespace ork::ss {
 namespace {

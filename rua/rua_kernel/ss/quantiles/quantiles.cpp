@@ -4,9 +4,9 @@
 
 #include <string.h>
 
-#include "rua_kernel/ss/quantiles/sorts.hpp"
 #include "base/scratch.hpp"
 #include "base/threads.hpp"
+#include "rua_kernel/ss/quantiles/sorts.hpp"
 
 namespace ork::ss {
 namespace {

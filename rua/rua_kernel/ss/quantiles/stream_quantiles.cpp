@@ -1,10 +1,10 @@
 // Quantiles of data that goes by in blocks, each off by at most epsilon n in rank.
 #include <string.h>
 
+#include "base/scratch.hpp"
 #include "rua_kernel/ss/quantiles/sorts.hpp"
 #include "rua_kernel/ss/quantiles/stream_state.hpp"
 #include "rua_kernel/ss/service/task.hpp"
-#include "base/scratch.hpp"
 
 namespace ork::ss {
 namespace {

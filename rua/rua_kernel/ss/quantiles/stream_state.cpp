@@ -2,8 +2,8 @@
 
 #include <string.h>
 
-#include "rua_sub_kernel/math/ln.hpp"
 #include "base/scratch.hpp"
+#include "rua_sub_kernel/math/ln.hpp"
 
 namespace ork::ss {
 

@@ -1,8 +1,8 @@
 // The weighted quantile: where the running sum of weights, along the sorted values, crosses the
 // order's share of the whole.
+#include "base/scratch.hpp"
 #include "rua_kernel/ss/quantiles/sorts.hpp"
 #include "rua_kernel/ss/service/task.hpp"
-#include "base/scratch.hpp"
 
 namespace ork::ss {
 namespace {
