@@ -197,13 +197,15 @@ int32_t __ruaGetNumRegBrngs(void);
 
 /* Hangs `size` bytes at `data`, from ork_serv_allocate, on the stream, which owns them
  * from then on. With a key of the shared table that is live, the chunk uses the row's
- * data instead (and `data`, unless it is the same, stays the caller's); a new key makes
- * a row while fewer than 127 exist, beyond that the chunk stays private. sharedId may be
- * null. NO_MEMORY: nothing has changed. */
+ * data and their size instead (and `data`, unless it is the same, stays the caller's); a
+ * new key makes a row while fewer than 127 exist, beyond that the chunk stays private. sharedId may
+ * be null. NO_MEMORY: nothing has changed. */
 int32_t __ruaAddChunk(RuaStream* stream, uint32_t chunkId, const uint32_t* sharedId, void* data,
                       uint32_t size);
 
-/* The payload of the newest chunk of that id, or null. */
+/* The payload of the newest chunk of that id, or null. Chunks 1 to 10 and 13 are the
+ * library's own; where one is shorter than what is kept in it, the function that reads it
+ * answers BAD_GENERATOR and draws nothing. */
 void* __ruaSearchChunk(const RuaStream* stream, uint32_t chunkId);
 
 /* The number of chunks (not a status). */
@@ -228,7 +230,8 @@ int32_t __ruaFindGlobRODataTableEntry(RuaSharedRow** row, const uint32_t* shared
  * SHARED_TABLE_FULL; NO_SHARED_ENTRY for a null or zero key. */
 int32_t __ruaCreateGlobRODataTableEntry(RuaSharedRow** row, const uint32_t* sharedId, void* data);
 
-/* Counts one more reference to the key's row and points the chunk at its data.
+/* Counts one more reference to the key's row and points the chunk at its data; the size
+ * follows where a chunk made the row.
  * NO_SHARED_ENTRY: the chunk is as it was. */
 int32_t __ruaRegisterGlobRODataReference(RuaChunk* chunk, const uint32_t* sharedId);
 
@@ -281,15 +284,16 @@ int32_t __ruasNewAbstractStream(RuaStream** stream, int32_t n, float* sbuf, floa
 int32_t __ruaSaveStreamF(const RuaStream* stream, const char* name, int32_t len);
 
 /* FILE_OPEN, FILE_READ (too short), BAD_FILE_FORMAT, BAD_FILE_VERSION, FILE_CLOSE,
- * NO_HARDWARE_RANDOM, NO_MEMORY; *stream is null after each. */
+ * NO_HARDWARE_RANDOM, NO_MEMORY; *stream is null after each. BAD_FILE_FORMAT is also the
+ * answer to a chunk of the library's own that is too short for its content. */
 int32_t __ruaLoadStreamF(RuaStream** stream, const char* name, int32_t len);
 
 /* Writes __ruaGetStreamSize(stream) bytes at memptr. */
 int32_t __ruaSaveStreamM(const RuaStream* stream, void* memptr);
 
-/* BAD_MEMORY_FORMAT (also for the version), NO_HARDWARE_RANDOM, NO_MEMORY, and FILE_READ
- * for chunks under a version byte above 1; *stream is null after each. The image must be
- * whole: its length is not passed. */
+/* BAD_MEMORY_FORMAT (also for the version and for chunks too short), NO_HARDWARE_RANDOM,
+ * NO_MEMORY, and FILE_READ for chunks under a version byte above 1; *stream is null after
+ * each. The image must be whole: its length is not passed. */
 int32_t __ruaLoadStreamM(RuaStream** stream, const void* memptr);
 
 /* Bytes of the stream's image (not a status). */

@@ -50,8 +50,9 @@ int32_t _ruasRngUniform(int32_t method, RuaStream* stream, int32_t n, float* r, 
 
 /* Mean a, standard deviation sigma (Box, Muller 1958). Half a pair that BOXMULLER2 has not
  * used stays with the stream, in chunk 2 (d) or 1 (s), and is the first output of the next
- * call, so that calls in pieces give the numbers of one long call; a copied or saved stream
- * keeps it, and a failed call leaves it. NO_MEMORY: that chunk could not be made. */
+ * call, so that calls in pieces give the numbers of one long call, to the bit; a copied or
+ * saved stream keeps it, and a failed call leaves it. NO_MEMORY: that chunk could not be made;
+ * BAD_GENERATOR: it is shorter than a pair, and nothing is drawn. */
 int32_t _ruadRngGaussian(int32_t method, RuaStream* stream, int32_t n, double* r, double a,
                          double sigma);
 int32_t _ruasRngGaussian(int32_t method, RuaStream* stream, int32_t n, float* r, float a,

@@ -4,7 +4,7 @@
 // ork_serv_allocate. Eigen sizes them by the caches, here but for the depth.
 #include <algorithm>
 
-#include "ork/serv.h"
+#include "base/scratch.hpp"
 #include "outer/dense/dense.hpp"
 
 namespace ork::dense {
@@ -31,18 +31,17 @@ class Blocks : public Eigen::internal::level3_blocking<R, R> {
     const int passes = (depth + deepest - 1) / deepest;  // about equally deep
     this->m_kc = std::min<Eigen::Index>(this->m_kc, (depth / passes + 8) & ~7);
     if (reals() > 2 * side * side) {
-      heap_ = static_cast<R*>(ork_serv_allocate(reals() * sizeof(R), 64));
-      if (heap_ == nullptr) {
+      heap_ = Scratch<R>(reals());
+      if (!heap_) {
         this->m_mc = std::min(rows, side);
         this->m_nc = std::min(cols, side);
         this->m_kc = std::min(depth, side);
       }
     }
-    this->m_blockA = heap_ != nullptr ? heap_ : near_;
+    this->m_blockA = heap_ ? heap_.get() : near_;
     this->m_blockB = this->m_blockA + size_of_a();
     room_ = !all_columns || this->m_nc == cols;
   }
-  ~Blocks() { ork_serv_deallocate(heap_); }
   Blocks(const Blocks&) = delete;
 
   explicit operator bool() const { return room_; }
@@ -52,7 +51,7 @@ class Blocks : public Eigen::internal::level3_blocking<R, R> {
   size_t size_of_a() const { return size_t(this->m_mc * this->m_kc + 15) & ~size_t(15); }
   size_t reals() const { return size_of_a() + size_t(this->m_kc) * size_t(this->m_nc); }
 
-  R* heap_ = nullptr;
+  Scratch<R> heap_;
   bool room_;
   alignas(64) R near_[2 * side * side];
 };

@@ -13,7 +13,9 @@ struct DenseMemory : Dense<R> {
       attempt();
       EXPECT_EQ(0, blocks::live());
     };
+    blocks::least_alignment();
     EXPECT_EQ(allocates, blocks::fail_each(whole) > 0);
+    EXPECT_EQ(allocates ? 128u : 0u, blocks::least_alignment());
     const blocks::None none;
     whole();
   }

@@ -174,6 +174,19 @@ TYPED_TEST(Abstract, FailedRequestLeavesTheStreamAndWhatItDelivered) {
   }
 }
 
+TYPED_TEST(Abstract, CountsBelow1LeaveTheStream) {
+  Source<TypeParam> source(5);
+  std::vector<TypeParam> r;
+  ASSERT_EQ(source.draw(4, r), 0);
+  const auto before = record(source.stream);
+  TypeParam untouched(99);
+  for (int n : {0, -1, -3, -5, INT32_MIN})
+    EXPECT_EQ(Form<TypeParam>::draw(source.stream, n, &untouched), 0);
+  EXPECT_EQ(record(source.stream), before);
+  EXPECT_EQ(untouched, TypeParam(99));
+  EXPECT_EQ(source.act.calls.size(), 1u);
+}
+
 TYPED_TEST(Abstract, NullRingComesFirst) {
   Source<TypeParam> source(3);
   std::vector<TypeParam> r;

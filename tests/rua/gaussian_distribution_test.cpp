@@ -93,6 +93,22 @@ TYPED_TEST(PendingPair, ChunkThatCannotBeMadeIsReported) {
   EXPECT_EQ(allocations, 2);  // the pair and the node
 }
 
+TYPED_TEST(PendingPair, ChunkTooSmallIsRefused) {
+  using R = TypeParam;
+  for (uint32_t words = 0; words <= 2 * sizeof(R) / 4; ++words) {
+    Stream s(RUA_BRNG_MT19937, {9});
+    s.add_chunk(Entries<R>::pending, nullptr, std::vector<uint32_t>(words, 0xBF800000));
+    const auto before = record(s);
+    R r = 99;
+    const bool whole = words * 4 == 2 * sizeof(R);
+    EXPECT_EQ(Entries<R>::gaussian(RUA_GAUSSIAN_BOXMULLER2, s, 1, &r, 0, 1),
+              whole ? 0 : RUA_STATUS_BAD_GENERATOR);
+    EXPECT_EQ(Entries<R>::lognormal(0, s, 1, &r, 0, 1, 0, 1), whole ? 0 : RUA_STATUS_BAD_GENERATOR);
+    EXPECT_EQ(record(s) == before, !whole);
+    EXPECT_EQ(r == R(99), !whole);
+  }
+}
+
 class PendingPairs : public RuaTest {};
 
 TEST_F(PendingPairs, OfBothTypesLiveSideBySide) {

@@ -37,6 +37,8 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 constexpr int32_t kUntouched = 12345;
 const uint32_t kKey[] = {0x11111111, 0x22222222, 0x33333333, 0x44444444};
+// Chunks that no reader of the library has.
+constexpr uint32_t kWords = 0x107, kEmpty = 0x108, kShared = 0x109;
 
 void append(Bytes& bytes, std::initializer_list<uint32_t> words) {
   for (uint32_t w : words)
@@ -95,9 +97,9 @@ class Image : public RuaTest {
 Stream example() {
   Stream s(RUA_BRNG_MCG31M1, {1});
   s.integers(1);
-  s.add_chunk(7, nullptr, {0xAABBCCDD, 5});
-  s.add_chunk(9, kKey, {0x01020304});
-  s.add_chunk(8, nullptr, {});
+  s.add_chunk(kWords, nullptr, {0xAABBCCDD, 5});
+  s.add_chunk(kShared, kKey, {0x01020304});
+  s.add_chunk(kEmpty, nullptr, {});
   return s;
 }
 Bytes example_head(uint16_t chunks) {
@@ -116,9 +118,9 @@ TEST_F(Image, HasTheseBytes) {
   const auto before = record(s);
   expected = example_head(3);
   append(expected, {0x43806C20, 0x43806C20});
-  append(expected, {8, 0, 0, 0, 0, 0});
-  append(expected, {9, kKey[0], kKey[1], kKey[2], kKey[3], 4, 0x01020304});
-  append(expected, {7, 0, 0, 0, 0, 8, 0xAABBCCDD, 5});
+  append(expected, {kEmpty, 0, 0, 0, 0, 0});
+  append(expected, {kShared, kKey[0], kKey[1], kKey[2], kKey[3], 4, 0x01020304});
+  append(expected, {kWords, 0, 0, 0, 0, 8, 0xAABBCCDD, 5});
   EXPECT_EQ(saved(s), expected);
   EXPECT_EQ(saved_to_file(s), expected);
   EXPECT_EQ(__ruaGetStreamSize(s), int(expected.size()));
@@ -153,17 +155,17 @@ TEST_F(Image, SharedChunksMeetTheLiveData) {
     image = saved(s);
     Stream again;
     ASSERT_EQ(__ruaLoadStreamM(again.slot(), image.data()), 0);
-    EXPECT_EQ(__ruaSearchChunk(again, 9), __ruaSearchChunk(s, 9));
-    EXPECT_NE(__ruaSearchChunk(again, 7), __ruaSearchChunk(s, 7));
+    EXPECT_EQ(__ruaSearchChunk(again, kShared), __ruaSearchChunk(s, kShared));
+    EXPECT_NE(__ruaSearchChunk(again, kWords), __ruaSearchChunk(s, kWords));
     // Chunks come back in the opposite order.
-    EXPECT_EQ(again->chunks->chunkId, 7u);
+    EXPECT_EQ(again->chunks->chunkId, kWords);
   }
   // Without live data the image makes the row, and a second load finds it.
   Stream first, second;
   ASSERT_EQ(__ruaLoadStreamM(first.slot(), image.data()), 0);
   ASSERT_EQ(__ruaLoadStreamM(second.slot(), image.data()), 0);
-  payload = static_cast<uint8_t*>(__ruaSearchChunk(first, 9));
-  EXPECT_EQ(payload, __ruaSearchChunk(second, 9));
+  payload = static_cast<uint8_t*>(__ruaSearchChunk(first, kShared));
+  EXPECT_EQ(payload, __ruaSearchChunk(second, kShared));
   EXPECT_EQ(payload[3], 1);
 }
 
@@ -211,12 +213,12 @@ TEST_F(Image, VersionsAndOrdersOfTheFirstWord) {
   Bytes old = example_head(2);
   old[0] = 0;
   append(old, {0x43806C20, 0x43806C20});
-  append(old, {9, 4, 0x01020304});
-  append(old, {7, 0});
+  append(old, {kShared, 4, 0x01020304});
+  append(old, {kWords, 0});
   Bytes modern = example_head(2);
   append(modern, {0x43806C20, 0x43806C20});
-  append(modern, {7, 0, 0, 0, 0, 0});
-  append(modern, {9, 0, 0, 0, 0, 4, 0x01020304});
+  append(modern, {kWords, 0, 0, 0, 0, 0});
+  append(modern, {kShared, 0, 0, 0, 0, 4, 0x01020304});
   expect_load(old, 0, 0, &modern);
 }
 
@@ -377,11 +379,51 @@ TEST_F(Image, FailingAllocations) {
   }
 }
 
+// A payload shorter than what the chunk's reader takes.
+TEST_F(Image, ChunkTooSmall) {
+  const struct { uint32_t id, least; } readers[] = {{1, 8}, {2, 16}};
+  for (const auto& r : readers)
+    for (uint32_t size = 0; size <= r.least + 4; size += 4) {
+      SCOPED_TRACE(testing::Message() << "chunk " << r.id << " of " << size);
+      Bytes image = example_head(1);
+      append(image, {1, 2});
+      append(image, {r.id, 0, 0, 0, 0, size});
+      image.resize(image.size() + size);
+      const bool good = size >= r.least;
+      expect_load(image, good ? 0 : RUA_STATUS_BAD_FILE_FORMAT,
+                  good ? 0 : RUA_STATUS_BAD_MEMORY_FORMAT);
+    }
+}
+
+// The live data's size stands, whatever the image or a caller says.
+TEST_F(Image, LiveDataKeepTheirSize) {
+  Stream s(RUA_BRNG_MCG31M1, {1});
+  s.add_chunk(kShared, kKey, {10, 11, 12});
+  const Bytes right = saved(s);
+  for (uint32_t size : {0, 4, 400}) {
+    Bytes image = example_head(1);
+    append(image, {1, 0x43806C20});
+    append(image, {kShared, kKey[0], kKey[1], kKey[2], kKey[3], size});
+    image.resize(image.size() + size);
+    expect_load(image, 0, 0, &right);
+  }
+  // Rows move down when one goes, and their sizes with them.
+  const uint32_t early[] = {1, 0, 0, 0}, late[] = {2, 0, 0, 0};
+  Stream first(RUA_BRNG_MCG31M1, {1}), second(RUA_BRNG_MCG31M1, {1});
+  first.add_chunk(kShared, early, {1});
+  second.add_chunk(kShared, late, {1, 2, 3, 4, 5});
+  __ruaDeleteChunks(first);
+  RuaChunk chunk = {};
+  EXPECT_EQ(__ruaRegisterGlobRODataReference(&chunk, late), 0);
+  EXPECT_EQ(chunk.size, 20u);
+  EXPECT_EQ(__ruaUnregisterGlobRODataReference(late), 0);
+}
+
 // Payloads that a 32-bit process cannot get.
 TEST_F(Image, ChunkTooLarge) {
   Bytes image = example_head(1);
   append(image, {1, 2});
-  append(image, {7, 0, 0, 0, 0, 0xFFFFFFF0});
+  append(image, {kWords, 0, 0, 0, 0, 0xFFFFFFF0});
   expect_load(image, RUA_STATUS_NO_MEMORY, RUA_STATUS_NO_MEMORY);
 }
 

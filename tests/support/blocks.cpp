@@ -5,6 +5,7 @@
 
 #include <mutex>
 #include <unordered_map>
+#include <utility>
 
 #include "ork/serv.h"
 
@@ -18,6 +19,7 @@ std::unordered_map<void*, size_t>& alive() {  // block and size
 constexpr unsigned char kFence[16] = {0xFE, 0xED, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
 int countdown;
 bool reached, none;
+size_t least;
 }  // namespace
 
 int blocks::live() {
@@ -36,6 +38,11 @@ bool blocks::failed() {
   return reached;
 }
 
+size_t blocks::least_alignment() {
+  const std::lock_guard guard(mutex);
+  return std::exchange(least, 0);
+}
+
 blocks::None::None() {
   const std::lock_guard guard(mutex);
   none = true;
@@ -47,6 +54,7 @@ blocks::None::~None() {
 
 extern "C" void* ork_serv_allocate(size_t size, size_t alignment) {
   const std::lock_guard guard(mutex);
+  if (least == 0 || alignment < least) least = alignment;
   if (none) return nullptr;
   if (countdown > 0 && --countdown == 0) {
     reached = true;

@@ -1,4 +1,6 @@
 #pragma once
+#include <stddef.h>
+
 // The service layer's memory, with an account: blocks alive, and the k-th allocation failing.
 // A program that uses this has the library call it in place of libork_outer.so.
 
@@ -13,6 +15,9 @@ void fail(int k);
 
 // Whether that allocation came.
 bool failed();
+
+// The least alignment that was asked for since the last call; 0: no allocation.
+size_t least_alignment();
 
 // While one lives, every allocation gives null.
 struct None {

@@ -23,21 +23,26 @@ struct Pending {
 template <class R>
 int32_t find_pending(RuaStream* stream, Pending<R>*& pending) {
   using P = Pending<R>;
-  pending = static_cast<P*>(__ruaSearchChunk(stream, P::kChunk));
-  if (pending) return RUA_STATUS_OK;
+  const int32_t status = find_chunk(stream, pending);
+  if (status < 0 || pending) return status;
   pending = static_cast<P*>(ork_serv_allocate(sizeof(P), kAlignment));
   if (!pending) return RUA_STATUS_NO_MEMORY;
   *pending = {{-1, -1}};
   return give_chunk(stream, P::kChunk, nullptr, pending, sizeof(P));
 }
 
-// One half of a pair; `wave` is the table of the sine or of the cosine.
-template <class R, class Table>
-inline R half(const Pending<R>& pair, const Table& wave) {
-  R radius, angle = pair.u[1] * kTwoPi<R>;
-  apply(wave, 1, &angle);
+// The two outputs of one pair, by the kernels of the blocks: a number has the same bits wherever
+// a call ends.
+template <class R>
+struct Halves {
+  R sine, cosine;
+};
+template <class R>
+inline Halves<R> halves(const Pending<R>& pair) {
+  R radius, sine = pair.u[1] * kTwoPi<R>, cosine;
+  sin_cos(1, &sine, &cosine);
   radii(1, pair.u, &radius);
-  return radius * angle;
+  return {radius * sine, radius * cosine};
 }
 
 ORK_INLINE void store_pairs(double* r, f64x2 first, f64x2 second) {
@@ -90,7 +95,7 @@ int32_t box_muller2(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
   // The pair stays pending until the whole call has succeeded.
   Pending<R> left = {{-1, -1}};
   if (pending->u[0] != -1) {
-    *r++ = half(*pending, Tables<R>::cos) * sigma + a;
+    *r++ = halves(*pending).cosine * sigma + a;
     --n;
   }
   status = whole_pairs(stream, n / 2, r, a, sigma);
@@ -98,7 +103,7 @@ int32_t box_muller2(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
   if (n % 2 != 0) {
     status = uniform(stream, 2, left.u, 0, 1);
     if (status < 0) return status;
-    r[n - 1] = half(left, Tables<R>::sin) * sigma + a;
+    r[n - 1] = halves(left).sine * sigma + a;
   }
   *pending = left;
   return RUA_STATUS_OK;

@@ -13,9 +13,8 @@ template <>
 struct Tables<double> {
   static constexpr int kSlot = 2;
   static constexpr auto &ln = ork_zem_kernel_dLn_ttab, &sqrt = ork_zem_kernel_dSqrt_ttab,
-                        &sin = ork_zem_kernel_dSin_ttab, &cos = ork_zem_kernel_dCos_ttab,
-                        &tan = ork_zem_kernel_dTan_ttab, &exp = ork_zem_kernel_dExp_ttab,
-                        &erf_inv = ork_zem_kernel_dErfInv_ttab;
+                        &sin = ork_zem_kernel_dSin_ttab, &tan = ork_zem_kernel_dTan_ttab,
+                        &exp = ork_zem_kernel_dExp_ttab, &erf_inv = ork_zem_kernel_dErfInv_ttab;
   static constexpr auto& sin_cos = ork_zem_kernel_dSinCos_ttab;
   static constexpr auto& powx = ork_zem_kernel_dPowx_ttab;
 };
@@ -23,9 +22,8 @@ template <>
 struct Tables<float> {
   static constexpr int kSlot = 0;
   static constexpr auto &ln = ork_zem_kernel_sLn_ttab, &sqrt = ork_zem_kernel_sSqrt_ttab,
-                        &sin = ork_zem_kernel_sSin_ttab, &cos = ork_zem_kernel_sCos_ttab,
-                        &tan = ork_zem_kernel_sTan_ttab, &exp = ork_zem_kernel_sExp_ttab,
-                        &erf_inv = ork_zem_kernel_sErfInv_ttab;
+                        &sin = ork_zem_kernel_sSin_ttab, &tan = ork_zem_kernel_sTan_ttab,
+                        &exp = ork_zem_kernel_sExp_ttab, &erf_inv = ork_zem_kernel_sErfInv_ttab;
   static constexpr auto& sin_cos = ork_zem_kernel_sSinCos_ttab;
   static constexpr auto& powx = ork_zem_kernel_sPowx_ttab;
 };

@@ -37,6 +37,7 @@ template <class T, class Map>
 int32_t deliver(RuaStream* stream, int32_t n, T* r, Map map) {
   Ring<T>& ring = state<Ring<T>>(stream);
   if (!ring.buffer) return RUA_STATUS_NULL_POINTER;
+  if (n < 1) return RUA_STATUS_OK;  // below 0 it would make delivered numbers count as new
   const int32_t size = ring.size;
   T* const buffer = ring.buffer;
   int32_t read = ring.read;

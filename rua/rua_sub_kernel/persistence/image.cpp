@@ -106,6 +106,7 @@ int32_t read_chunk(Source& get, RuaStream* stream, uint8_t version) {
   if (version > kVersion || !get(&id, sizeof id) || (version == 1 && !get(key, sizeof key)) ||
       !get(&size, sizeof size))
     return RUA_STATUS_FILE_READ;
+  if (size < least_chunk_size(id)) return Source::kBadFormat;
   void* data = ork_serv_allocate(size, kAlignment);
   if (!data) return RUA_STATUS_NO_MEMORY;
   if (!get(data, size)) {

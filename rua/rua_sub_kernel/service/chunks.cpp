@@ -24,6 +24,12 @@ void release_payload(RuaChunk* chunk) {
     ork_serv_deallocate(chunk->data);
 }
 
+const RuaChunk* newest(const RuaStream* stream, uint32_t id) {
+  const RuaChunk* c = stream->chunks;
+  while (c && c->chunkId != id) c = c->next;
+  return c;
+}
+
 // Adds a copy of one chunk to the target.
 int32_t copy_chunk(RuaStream* target, const RuaChunk* chunk) {
   if (!chunk->data || is_shared(chunk))
@@ -43,6 +49,12 @@ int32_t ork::rua::give_chunk(RuaStream* stream, uint32_t chunkId, const uint32_t
   return status;
 }
 
+int32_t ork::rua::find_chunk(const RuaStream* stream, uint32_t id, uint32_t size, void** payload) {
+  const RuaChunk* chunk = newest(stream, id);
+  *payload = chunk ? chunk->data : nullptr;
+  return *payload && chunk->size < size ? RUA_STATUS_BAD_GENERATOR : RUA_STATUS_OK;
+}
+
 ORK_EXPORT int32_t __ruaAddChunk(RuaStream* stream, uint32_t chunkId, const uint32_t* sharedId,
                                  void* data, uint32_t size) {
   auto* chunk = static_cast<RuaChunk*>(ork_serv_allocate(sizeof(RuaChunk), kAlignment));
@@ -57,9 +69,8 @@ ORK_EXPORT int32_t __ruaAddChunk(RuaStream* stream, uint32_t chunkId, const uint
 }
 
 ORK_EXPORT void* __ruaSearchChunk(const RuaStream* stream, uint32_t chunkId) {
-  for (const RuaChunk* c = stream->chunks; c; c = c->next)
-    if (c->chunkId == chunkId) return c->data;
-  return nullptr;
+  const RuaChunk* chunk = newest(stream, chunkId);
+  return chunk ? chunk->data : nullptr;
 }
 
 ORK_EXPORT int32_t __ruaGetNumChunks(const RuaStream* stream) {

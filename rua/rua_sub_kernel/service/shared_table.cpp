@@ -14,7 +14,9 @@ using namespace ork::rua;
 namespace {
 
 constexpr uint32_t kRows = 128;
+constexpr uint32_t kUnknown = 0xFFFFFFFF;
 RuaSharedRow rows[kRows];  // the first `count` are in use
+uint32_t sizes[kRows];     // of their data, as far as known
 uint32_t count;
 int locker;  // 0 free, 1 held
 
@@ -41,7 +43,8 @@ RuaSharedRow* find(const uint32_t* key) {
   return nullptr;
 }
 
-RuaSharedRow* append(const uint32_t* key, void* data) {
+RuaSharedRow* append(const uint32_t* key, void* data, uint32_t size) {
+  sizes[count] = size;
   RuaSharedRow* row = &rows[count++];
   memcpy(row->sharedId, key, sizeof row->sharedId);
   row->refCount = 1;
@@ -52,6 +55,8 @@ RuaSharedRow* append(const uint32_t* key, void* data) {
 void refer(RuaChunk* chunk, RuaSharedRow* row) {
   ++row->refCount;
   chunk->data = row->data;
+  const uint32_t size = sizes[row - rows];
+  if (size != kUnknown) chunk->size = size;
 }
 
 }  // namespace
@@ -62,7 +67,7 @@ void ork::rua::share(RuaChunk* chunk) {
   if (RuaSharedRow* row = find(chunk->sharedId))
     refer(chunk, row);
   else if (count < kSharedRowsForChunks)
-    append(chunk->sharedId, chunk->data);
+    append(chunk->sharedId, chunk->data, chunk->size);
   else
     memset(chunk->sharedId, 0, sizeof chunk->sharedId);
 }
@@ -80,7 +85,7 @@ ORK_EXPORT int32_t __ruaCreateGlobRODataTableEntry(RuaSharedRow** row, const uin
   if (!names_a_row(sharedId)) return RUA_STATUS_NO_SHARED_ENTRY;
   const Hold hold;
   if (count == kRows) return RUA_STATUS_SHARED_TABLE_FULL;
-  *row = append(sharedId, data);
+  *row = append(sharedId, data, kUnknown);
   return RUA_STATUS_OK;
 }
 
@@ -100,6 +105,7 @@ ORK_EXPORT int32_t __ruaUnregisterGlobRODataReference(const uint32_t* sharedId) 
     if (row && --row->refCount == 0) {
       released = row->data;
       *row = rows[--count];
+      sizes[row - rows] = sizes[count];
     }
   }
   // Outside the lock: the allocator has locks of its own.

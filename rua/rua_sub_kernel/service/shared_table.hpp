@@ -7,8 +7,8 @@ namespace ork::rua {
 constexpr uint32_t kSharedRowsForChunks = 127;
 
 // Ties a chunk to the shared table by its key, in one hold of the lock: a live row gets one
-// more reference and lends its data, a new key gets a row. With the table full, or a key of
-// zeros, the chunk is private and its key zero.
+// more reference and lends its data, with their size, a new key gets a row. With the table full, or
+// a key of zeros, the chunk is private and its key zero.
 void share(RuaChunk* chunk);
 
 }  // namespace ork::rua
