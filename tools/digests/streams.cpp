@@ -1,0 +1,116 @@
+// Generators in every form, with skips and leaps, and the distributions drawn from one of them.
+#include "digests/digests.hpp"
+#include "ork/rua_distributions.h"
+
+namespace {
+
+class Stream {
+ public:
+  explicit Stream(int32_t brng) {
+    const uint32_t seed[] = {20, 304, 5, 77777, 12, 1};
+    const bool family = brng != RUA_BRNG_SOBOL && brng != RUA_BRNG_NIEDERR;
+    const uint32_t dimension = 7;
+    status_ = family ? __ruaNewStreamEx(&stream_, brng, 6, seed)
+                     : __ruaNewStreamEx(&stream_, brng, 1, &dimension);
+  }
+  ~Stream() { __ruaDeleteStream(&stream_); }
+  Stream(const Stream&) = delete;
+  int status() const { return status_; }
+  operator RuaStream*() { return stream_; }
+
+ private:
+  RuaStream* stream_ = nullptr;
+  int status_;
+};
+
+constexpr int kCount = 1237;
+
+template <class T, class Draw>
+void add(Digest& digest, int n, Draw draw) {
+  std::vector<T> r(static_cast<size_t>(n), T(-1));
+  digest.add(draw(n, r.data()));
+  digest.add(r);
+}
+
+// `prepare` puts the stream where the numbers begin.
+template <class Prepare>
+void digest_generator(const std::string& name, int32_t brng, Prepare prepare) {
+  if (!wanted(name)) return;
+  Digest digest;
+  for (int form = 0; form < 3; ++form) {
+    Stream stream(brng);
+    digest.add(stream.status());
+    if (stream.status() != 0) break;
+    digest.add(prepare(stream));
+    RuaBrngProperties row{};
+    __ruaGetBrngProperties(brng, &row);
+    for (const int n : {1, 7, kCount, 3}) {
+      if (form == 0)
+        add<double>(digest, n,
+                    [&](int k, double* r) { return row.dGenerate(stream, k, r, -1, 3); });
+      if (form == 1)
+        add<float>(digest, n, [&](int k, float* r) { return row.sGenerate(stream, k, r, -1, 3); });
+      if (form == 2)
+        add<uint32_t>(digest, n * row.wordSize / 4, [&](int k, uint32_t* r) {
+          return row.iGenerate(stream, k * 4 / row.wordSize, r);
+        });
+    }
+  }
+  print(name, digest);
+}
+
+struct Generator {
+  const char* name;
+  int32_t brng;
+};
+constexpr Generator kGenerators[] = {
+    {"MCG31M1", RUA_BRNG_MCG31M1},      {"R250", RUA_BRNG_R250},
+    {"MRG32K3A", RUA_BRNG_MRG32K3A},    {"MCG59", RUA_BRNG_MCG59},
+    {"WH", RUA_BRNG_WH + 100},          {"Sobol", RUA_BRNG_SOBOL},
+    {"Niederr", RUA_BRNG_NIEDERR},      {"MT19937", RUA_BRNG_MT19937},
+    {"MT2203", RUA_BRNG_MT2203 + 3001}, {"SFMT19937", RUA_BRNG_SFMT19937},
+};
+
+// d and s forms of a distribution; `more` are the parameters after r.
+template <class D, class S, class... More>
+void digest_distribution(const std::string& name, int method, D* d, S* s, More... more) {
+  if (!wanted(name)) return;
+  Digest digest;
+  for (const int32_t brng : {RUA_BRNG_MCG59, RUA_BRNG_MT19937}) {
+    Stream stream(brng);
+    for (const int n : {3, 4 * kCount, 1, kCount}) {
+      add<double>(digest, n, [&](int k, double* r) { return d(method, stream, k, r, more...); });
+      add<float>(digest, n,
+                 [&](int k, float* r) { return s(method, stream, k, r, float(more)...); });
+    }
+  }
+  print(name, digest);
+}
+
+}  // namespace
+
+void digest_streams() {
+  for (const Generator& g : kGenerators) {
+    const std::string name = std::string("stream ") + g.name;
+    digest_generator(name, g.brng, [](RuaStream*) { return 0; });
+    digest_generator(name + " skip", g.brng,
+                     [](RuaStream* s) { return __ruaSkipAheadStream(s, 987654321012345); });
+    digest_generator(name + " leap", g.brng,
+                     [](RuaStream* s) { return __ruaLeapfrogStream(s, 2, 5); });
+  }
+#define ORK_BOTH(name) _ruadRng##name, _ruasRng##name
+  digest_distribution("draws Uniform", 0, ORK_BOTH(Uniform), -2.5, 7.25);
+  digest_distribution("draws Uniform accurate", RUA_METHOD_ACCURATE, ORK_BOTH(Uniform), -2.5, 7.25);
+  digest_distribution("draws Gaussian BoxMuller", 0, ORK_BOTH(Gaussian), 1.5, 0.5);
+  digest_distribution("draws Gaussian BoxMuller2", 1, ORK_BOTH(Gaussian), 1.5, 0.5);
+  digest_distribution("draws Gaussian ICDF", 2, ORK_BOTH(Gaussian), 1.5, 0.5);
+  digest_distribution("draws Exponential", 0, ORK_BOTH(Exponential), 1.5, 0.5);
+  digest_distribution("draws Laplace", 0, ORK_BOTH(Laplace), 1.5, 0.5);
+  digest_distribution("draws Cauchy", 0, ORK_BOTH(Cauchy), 1.5, 0.5);
+  digest_distribution("draws Rayleigh", 0, ORK_BOTH(Rayleigh), 1.5, 0.5);
+  digest_distribution("draws Lognormal BoxMuller2", 0, ORK_BOTH(Lognormal), 1.5, 0.5, -1, 2);
+  digest_distribution("draws Lognormal ICDF", 1, ORK_BOTH(Lognormal), 1.5, 0.5, -1, 2);
+  digest_distribution("draws Weibull", 0, ORK_BOTH(Weibull), 1.5, 0.5, 2);
+  digest_distribution("draws Gumbel", 0, ORK_BOTH(Gumbel), 1.5, 0.5);
+#undef ORK_BOTH
+}
