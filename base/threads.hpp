@@ -1,5 +1,8 @@
+// Launches through the caller's threader table. The work is a function object: it runs here where
+// one thread does, and through a body that fits the table's stack where more do.
 #pragma once
-// Launches through the caller's threader table.
+#include <stdint.h>
+
 #include "ork/threader.h"
 
 namespace ork {
@@ -12,22 +15,69 @@ inline int thread_limit(const ork_threader* threader, int items = 0x7FFFFFFF) {
   return limit < 1 ? 1 : limit;
 }
 
-// Runs all items: on `threads` threads, or here in their order where that is 1.
-inline void run_items(const ork_threader* threader, int items, int threads, void* context,
-                      ork_threader_body body) {
+// The table may run a body on any stack.
+#define ORK_BODY __attribute__((force_align_arg_pointer))
+
+// f(item, thread) for all items: on `threads` threads, or here in their order where that is 1.
+template <class F>
+inline void run_items(const ork_threader* threader, int items, int threads, F f) {
   if (threads > 1)
-    threader->parallel_for(items, threads, context, body);
+    threader->parallel_for(items, threads, &f,
+                           [](int item, int thread, int, void* context)
+                               ORK_BODY { (*static_cast<F*>(context))(item, thread); });
   else
-    for (int item = 0; item < items; ++item) body(item, 0, 0, context);
+    for (int item = 0; item < items; ++item) f(item, 0);
 }
 
-// Runs the body once a thread: body(k, k, threads, context).
-inline void run_team(const ork_threader* threader, int threads, void* context,
-                     ork_threader_body body) {
+// f(k, threads) once for each thread k.
+template <class F>
+inline void run_team(const ork_threader* threader, int threads, F f) {
   if (threads > 1)
-    threader->parallel(threads, context, body);
+    threader->parallel(threads, &f, [](int k, int, int count, void* context) ORK_BODY {
+      (*static_cast<F*>(context))(k, count);
+    });
   else
-    body(0, 0, 1, context);
+    f(0, 1);
 }
+
+// f(item, thread) as run_items() does; after it, and after those of all lower items,
+// in_order(item, thread).
+template <class F, class G>
+inline void run_in_order(const ork_threader* threader, int items, int threads, F f, G in_order) {
+  struct Context {
+    const ork_threader* threader;
+    F& f;
+    G& in_order;
+  } context{threader, f, in_order};
+  if (threads > 1)
+    threader->ordered_for(
+        items, threads, &context, [](int item, int thread, int third, void* words) ORK_BODY {
+          const Context& c = *static_cast<Context*>(words);
+          c.f(item, thread);
+          c.threader->ordered(item, thread, third, words,
+                              [](int own_item, int own_thread, int, void* same) ORK_BODY {
+                                static_cast<Context*>(same)->in_order(own_item, own_thread);
+                              });
+        });
+  else
+    for (int item = 0; item < items; ++item) {
+      f(item, 0);
+      in_order(item, 0);
+    }
+}
+
+#undef ORK_BODY
+
+// What bodies on several threads report: one of their failures, or 0.
+class SharedStatus {
+ public:
+  void put(int32_t status) {
+    if (status != 0) __atomic_store_n(&status_, status, __ATOMIC_RELAXED);
+  }
+  int32_t get() const { return __atomic_load_n(&status_, __ATOMIC_RELAXED); }
+
+ private:
+  int32_t status_ = 0;
+};
 
 }  // namespace ork

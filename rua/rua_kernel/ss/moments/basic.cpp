@@ -17,7 +17,6 @@ template <class R>
 struct Work {
   Data<R> data;
   Kernel<R> kernel;
-  bool rows;
   bool by_products;  // cross-products by the dense layer, not by the kernel
   Share<R>* shares;  // of the threads
 };
@@ -49,14 +48,14 @@ void take_products(const Work<R>& work, Share<R>& share, int first, int last) {
   for (int at = first; at < last; at += length) {
     const int count = last - at < length ? last - at : length;
     work.kernel(data, at, at + count, share.weight, share.orders, nullptr, nullptr);
-    const R* x = data.x + (work.rows ? size_t(at) : size_t(at) * p);
-    const int& ld = work.rows ? n : p;
+    const R* x = data.x + (data.rows ? size_t(at) : size_t(at) * p);
+    const int& ld = data.rows ? n : p;
     if (!data.w) {
-      D::syrk("U", work.rows ? "T" : "N", &p, &count, &one, x, &ld, &one, share.s, &p);
+      D::syrk("U", data.rows ? "T" : "N", &p, &count, &one, x, &ld, &one, share.s, &p);
       continue;
     }
     const R* w = data.w + at;
-    if (work.rows) {
+    if (data.rows) {
       for (int j = 0; j < p; ++j)
         for (int i = 0; i < count; ++i) scaled[size_t(j) * count + i] = w[i] * x[size_t(j) * n + i];
       D::gemm("T", "N", &p, &p, &count, &one, scaled, &count, x, &n, &one, share.s, &p);
@@ -69,11 +68,9 @@ void take_products(const Work<R>& work, Share<R>& share, int first, int last) {
   shift(minus);
 }
 
-// The observations of thread `index`. The caller's table may run it on any stack.
+// The observations of thread `index`.
 template <class R>
-__attribute__((force_align_arg_pointer)) void take_share(int index, int, int threads,
-                                                         void* context) {
-  Work<R>& work = *static_cast<Work<R>*>(context);
+void take_share(const Work<R>& work, int index, int threads) {
   Share<R>& share = work.shares[index];
   const int each = work.data.n / threads, first = index * each;
   const int last = index == threads - 1 ? work.data.n : first + each;
@@ -210,12 +207,12 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
   if (q.status != ORK_SS_OK) return q.status;
   if (q.method == Method::kFromSums) return from_sums(t, q);
 
-  const int p = t.p(), n = t.n(), threads = threads_for(n, threader);
+  const Data<R> data = data_of(t);
+  const int p = data.p, n = data.n, threads = threads_for(n, threader);
   const bool given_mean = q.method == Method::kTwoPass, matrix = q.asks_matrix();
-  const bool rows = t.rows() || p == 1, one_pass = q.method == Method::kOnePass;
-  const Choice<R> choice = choose<R>(q, rows, t.weights != nullptr);
-  Work<R> work{
-      {n, p, t.observations, t.weights}, choice.kernel, rows, matrix && !one_pass, nullptr};
+  const bool one_pass = q.method == Method::kOnePass;
+  const Choice<R> choice = choose<R>(q, data.rows, data.w != nullptr);
+  Work<R> work{data, choice.kernel, matrix && !one_pass, nullptr};
 
   Weight<R> sum{0, 0};
   if (t.accumulatedWeight) sum = {t.accumulatedWeight[0], t.accumulatedWeight[1]};
@@ -285,7 +282,7 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
     if (scratch_size) memset(share.scratch, 0, size_t(scratch_size) * sizeof(R));
   }
 
-  run_team(threader, threads, &work, take_share<R>);
+  run_team(threader, threads, [&](int index, int team) { take_share(work, index, team); });
 
   Share<R>& total = work.shares[0];
   for (int k = 1; k < threads; ++k) merge(p, total, work.shares[k], given_mean);

@@ -1,5 +1,6 @@
 // Working forms become estimates.
 #pragma once
+#include "rua_kernel/ss/moments/kernel.hpp"
 #include "rua_kernel/ss/moments/matrix.hpp"
 #include "rua_kernel/ss/moments/request.hpp"
 
@@ -9,12 +10,6 @@ namespace ork::ss {
 template <class R>
 inline R central_divisor(Order order, const Weight<R>& sum) {
   return order == kCentral2 ? (sum.w * sum.w - sum.w2) / sum.w : sum.w;
-}
-
-// A storage code; null counts as full.
-template <class R>
-inline int code_of(const Task<R>& t, Integers storage) {
-  return storage ? int(t.integer(storage)) : ORK_SS_FULL;
 }
 
 // In this order, so that a matrix that is s itself comes last.

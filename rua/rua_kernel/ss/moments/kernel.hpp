@@ -17,7 +17,7 @@
 #pragma once
 #include "base/vec.hpp"
 #include "rua_kernel/ss/moments/cross.hpp"
-#include "rua_kernel/ss/service/task.hpp"
+#include "rua_kernel/ss/service/data.hpp"
 
 namespace ork::ss {
 
@@ -25,12 +25,6 @@ namespace ork::ss {
 template <class R>
 struct Weight {
   R w, w2;
-};
-
-template <class R>
-struct Data {
-  int n, p;
-  const R *x, *w;  // w null: all 1
 };
 
 // Takes in observations [first, last). orders: the working arrays, of which a kernel uses those

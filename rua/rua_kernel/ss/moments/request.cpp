@@ -99,7 +99,7 @@ Request request(const Task<R>& t, uint64_t estimates, uint64_t method) {
     q.status = ORK_SS_NULL_OBSERVATIONS;
   } else if (!t.storageFormat) {
     q.status = ORK_SS_NULL_STORAGE;
-  } else if (!(t.integer(t.storageFormat) & (ORK_SS_ROWS | ORK_SS_COLUMNS))) {
+  } else if (!(t.integer(t.storageFormat) & kLayouts)) {
     q.status = ORK_SS_BAD_STORAGE;
   }
   return q;

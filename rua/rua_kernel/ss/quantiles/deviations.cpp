@@ -3,92 +3,47 @@
 #include "base/threads.hpp"
 #include "rua_kernel/ss/moments/basic.hpp"
 #include "rua_kernel/ss/quantiles/quantiles.hpp"
+#include "rua_kernel/ss/service/data.hpp"
+#include "rua_kernel/ss/service/private_task.hpp"
 
 namespace ork::ss {
 namespace {
 
 template <class R>
-struct Work {
-  const Task<R>& task;
-  int p, n;
-  bool rows;
-  bool given_mean;
-  R* scratch;  // n reals for each thread
-  const ork_threader* threader;
-  int32_t status;
-};
+int32_t mean(const R* x, int n, R* to, const ork_threader* threader) {
+  PrivateTask<R> task(1, n, ORK_SS_ROWS, x);
+  task->moments[kMean] = to;
+  return basic(*task, ORK_SS_MEAN, ORK_SS_FAST, threader);
+}
 
-// One variable: its centre, then the centre of the distances from it. centre(record, result)
-// computes it for a record of one variable.
+// For each selected variable the centre of the distances from its centre, or from the one in
+// `around`. centre(x, n, result, threader) computes it.
 template <class R, class Centre>
-int32_t deviation(const Work<R>& work, int variable, int thread, R* result, bool given_centre,
-                  R around, Centre centre) {
-  const int n = work.n;
-  const int32_t one = 1, rows = ORK_SS_ROWS;
-  R* const scratch = work.scratch + size_t(thread) * n;
-  const R* x = work.task.observations + (work.rows ? size_t(variable) * n : size_t(variable));
-  if (!work.rows) {
-    for (int i = 0; i < n; ++i) scratch[i] = x[size_t(i) * work.p];
-    x = scratch;
-  }
-  Task<R> record{};
-  record.taskKind = kTaskKind;
-  record.isDouble = sizeof(R) == sizeof(double);
-  record.dimension = &one;
-  record.observationCount = &n;
-  record.storageFormat = &rows;
-  record.observations = x;
-  if (!given_centre)
-    if (const int32_t status = centre(record, &around)) return status;
-  for (int i = 0; i < n; ++i) {
-    const R d = x[i] - around;
-    scratch[i] = d < 0 ? -d : d;
-  }
-  record.observations = scratch;
-  return centre(record, result);
-}
-
-template <class R>
-__attribute__((force_align_arg_pointer)) void median_of_variable(int item, int thread, int,
-                                                                 void* context) {
-  Work<R>& work = *static_cast<Work<R>*>(context);
-  if (!work.task.selected(item)) return;
-  const int32_t status = deviation(
-      work, item, thread, work.task.medianAbsDev + item, false, R(0), [&](Task<R>& record, R* to) {
-        const R half = R(0.5);
-        const int32_t one = 1;
-        record.quantileCount = &one;
-        record.quantileOrders = &half;
-        record.quantiles = to;
-        return quantiles(record, ORK_SS_QUANTILES, ORK_SS_FAST, work.threader);
-      });
-  if (status != ORK_SS_OK) __atomic_store_n(&work.status, status, __ATOMIC_RELAXED);
-}
-
-template <class R>
-__attribute__((force_align_arg_pointer)) void mean_of_variable(int item, int thread, int,
-                                                               void* context) {
-  Work<R>& work = *static_cast<Work<R>*>(context);
-  if (!work.task.selected(item)) return;
-  const R mean = work.given_mean ? work.task.mean()[item] : R(0);
-  const int32_t status = deviation(work, item, thread, work.task.meanAbsDev + item, work.given_mean,
-                                   mean, [&](Task<R>& record, R* to) {
-                                     record.moments[kMean] = to;
-                                     return basic(record, ORK_SS_MEAN, ORK_SS_FAST, work.threader);
-                                   });
-  if (status != ORK_SS_OK) __atomic_store_n(&work.status, status, __ATOMIC_RELAXED);
-}
-
-template <class R>
-int32_t estimate(const Task<R>& t, bool given_mean, const ork_threader* threader,
-                 ork_threader_body body) {
-  const int p = t.p(), n = t.n();
-  const int threads = thread_limit(threader, p);
+int32_t estimate(const Task<R>& t, const R* around, R* results, const ork_threader* threader,
+                 Centre centre) {
+  const Data<R> data = data_of(t);
+  const int n = data.n, threads = thread_limit(threader, data.p);
   const Scratch<R> scratch(uint64_t(n) * threads);
   if (!scratch) return ORK_SS_NO_MEMORY;
-  Work<R> work{t, p, n, t.rows() || p == 1, given_mean, scratch.get(), threader, ORK_SS_OK};
-  run_items(threader, p, threads, &work, body);
-  return work.status;
+  SharedStatus status;
+  run_items(threader, data.p, threads, [&](int variable, int thread) {
+    if (!t.selected(variable)) return;
+    R* const distances = scratch.get() + size_t(thread) * n;
+    const R* x = data.variable(variable).x;
+    if (!data.rows) {
+      data.variable(variable).copy(0, n, distances);
+      x = distances;
+    }
+    R from = around ? around[variable] : R(0);
+    if (!around)
+      if (const int32_t failure = centre(x, n, &from, threader)) return status.put(failure);
+    for (int i = 0; i < n; ++i) {
+      const R d = x[i] - from;
+      distances[i] = d < 0 ? -d : d;
+    }
+    status.put(centre(distances, n, results + variable, threader));
+  });
+  return status.get();
 }
 
 template <class R>
@@ -99,21 +54,22 @@ int32_t deviations(const Task<R>& t, uint64_t estimates, uint64_t method,
   if (!t.storageFormat) return ORK_SS_NULL_STORAGE;
   const int64_t layout = t.integer(t.storageFormat);
   if (layout != ORK_SS_ROWS && layout != ORK_SS_COLUMNS) return ORK_SS_BAD_STORAGE;
-  const bool median = estimates & ORK_SS_MEDIAN_ABS_DEV, mean = estimates & ORK_SS_MEAN_ABS_DEV;
-  const bool given_mean = method & ORK_SS_TWO_PASS;
-  if (median) {
+  const bool medians = estimates & ORK_SS_MEDIAN_ABS_DEV, means = estimates & ORK_SS_MEAN_ABS_DEV;
+  const bool supplied_mean = method & ORK_SS_TWO_PASS;
+  if (medians) {
     if (!t.medianAbsDev) return ORK_SS_NULL_MEDIAN_ABS_DEV;
     if (!(method & ORK_SS_FAST)) return ORK_SS_BAD_METHOD;
   }
-  if (mean) {
+  if (means) {
     if (!t.meanAbsDev) return ORK_SS_NULL_MEAN_ABS_DEV;
     if (!(method & (ORK_SS_FAST | ORK_SS_TWO_PASS))) return ORK_SS_BAD_METHOD;
-    if (given_mean && !t.mean()) return ORK_SS_NULL_MEAN;
+    if (supplied_mean && !t.mean()) return ORK_SS_NULL_MEAN;
   }
   int32_t first = ORK_SS_OK;
-  if (median) first = estimate(t, false, threader, median_of_variable<R>);
-  if (mean) {
-    const int32_t second = estimate(t, given_mean, threader, mean_of_variable<R>);
+  if (medians) first = estimate<R>(t, nullptr, t.medianAbsDev, threader, median<R>);
+  if (means) {
+    const R* around = supplied_mean ? t.mean() : nullptr;
+    const int32_t second = estimate(t, around, t.meanAbsDev, threader, mean<R>);
     if (first == ORK_SS_OK) first = second;
   }
   return first;

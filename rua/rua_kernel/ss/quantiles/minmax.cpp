@@ -86,7 +86,7 @@ void run(const Task<R>& t, R* now, R* copy) {
 template <class R>
 int32_t minmax(const Task<R>& t, uint64_t estimates, uint64_t method) {
   const bool min = estimates & ORK_SS_MIN, max = estimates & ORK_SS_MAX;
-  if (!(t.integer(t.storageFormat) & (ORK_SS_ROWS | ORK_SS_COLUMNS))) return ORK_SS_BAD_STORAGE;
+  if (!(t.integer(t.storageFormat) & kLayouts)) return ORK_SS_BAD_STORAGE;
   if (min && !t.min) return ORK_SS_NULL_MIN;
   if (max && !t.max) return ORK_SS_NULL_MAX;
   if (!(method & (ORK_SS_FAST | ORK_SS_ONE_PASS))) return ORK_SS_BAD_METHOD;

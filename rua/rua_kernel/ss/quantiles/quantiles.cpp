@@ -2,16 +2,14 @@
 // when they are not.
 #include "rua_kernel/ss/quantiles/quantiles.hpp"
 
-#include <string.h>
-
 #include "base/scratch.hpp"
 #include "base/threads.hpp"
-#include "rua_kernel/ss/quantiles/sorts.hpp"
+#include "rua_kernel/ss/service/data.hpp"
+#include "rua_kernel/ss/service/math.hpp"
+#include "rua_kernel/ss/service/private_task.hpp"
 
 namespace ork::ss {
 namespace {
-
-constexpr int kLayouts = ORK_SS_ROWS | ORK_SS_COLUMNS;
 
 template <class R>
 int32_t check(const Task<R>& t, uint64_t estimates, uint64_t method) {
@@ -34,8 +32,8 @@ int32_t check(const Task<R>& t, uint64_t estimates, uint64_t method) {
 template <class R>
 struct Work {
   const Task<R>& task;
-  int p, n, count;  // count: quantile orders
-  bool rows;        // of the observations
+  Data<R> data;
+  int count;  // quantile orders
   bool quantiles, sorted;
   bool sorted_rows;
   const int* variables;  // selected
@@ -45,13 +43,14 @@ struct Work {
 // Linear between the values of two neighbouring ranks: value(k), then next(k + 1).
 template <class R, class Value, class Next>
 void put_quantiles(const Work<R>& work, R* to, Value value, Next next) {
+  const int last = work.data.n - 1;
   for (int i = 0; i < work.count; ++i) {
-    const R place = work.task.quantileOrders[i] * R(work.n - 1);
+    const R place = work.task.quantileOrders[i] * R(last);
     int k = int(place);
-    if (k < 0) k = 0;                    // from NaN
-    if (k > work.n - 1) k = work.n - 1;  // n - 1 was rounded up
+    if (k < 0) k = 0;        // from NaN
+    if (k > last) k = last;  // n - 1 was rounded up
     const R f = place - R(k);
-    const R below = value(k), above = k + 1 < work.n ? next(k + 1) : below;
+    const R below = value(k), above = k < last ? next(k + 1) : below;
     to[i] = (1 - f) * below + f * above;
   }
 }
@@ -70,36 +69,29 @@ R least(const R* x, int n) {
 }
 
 template <class R>
-__attribute__((force_align_arg_pointer)) void take_variable(int item, int thread, int,
-                                                            void* context) {
-  const Work<R>& work = *static_cast<const Work<R>*>(context);
+void take_variable(const Work<R>& work, int item, int thread) {
   const Task<R>& t = work.task;
-  const int n = work.n, p = work.p, variable = work.variables[item];
-  const R* x = t.observations + (work.rows ? size_t(variable) * n : size_t(variable));
-  const size_t step = work.rows ? 1 : p;
-  const auto copy = [&](R* to, size_t to_step) {
-    if (step == 1 && to_step == 1)
-      memcpy(to, x, size_t(n) * sizeof(R));
-    else
-      for (int i = 0; i < n; ++i) to[i * to_step] = x[i * step];
-  };
+  const int n = work.data.n, p = work.data.p;
+  const Series<R> x = work.data.variable(work.variables[item]);
   R* const scratch = work.scratch + size_t(thread) * n;
   R* const quantiles = work.quantiles ? t.quantiles + size_t(item) * work.count : nullptr;
   if (work.sorted) {
     const size_t stride = work.sorted_rows ? 1 : p;
     R* place = t.orderStatistics + (work.sorted_rows ? size_t(item) * n : size_t(item));
-    copy(place, stride);
-    if (stride == 1)
-      Sort<R>::radix(place, scratch, n);
-    else
-      Sort<R>::strided(n, place, int(stride));
+    if (stride == 1) {
+      x.copy(0, n, place);
+      Math<R>::sort_radix(place, scratch, n);
+    } else {
+      for (int i = 0; i < n; ++i) place[i * stride] = x[i];
+      Math<R>::sort_strided(n, place, int(stride));
+    }
     const auto value = [&](int k) { return place[k * stride]; };
     if (quantiles) put_quantiles(work, quantiles, value, value);
   } else if (quantiles) {
-    copy(scratch, 1);
-    // Behind the element selected nothing is below it: the next rank is the least of those.
+    x.copy(0, n, scratch);
+    // After the element selected nothing is below it: the next rank is the least of those.
     put_quantiles(
-        work, quantiles, [&](int k) { return Sort<R>::select(n, scratch, k); },
+        work, quantiles, [&](int k) { return Math<R>::select(n, scratch, k); },
         [&](int k) { return least(scratch + k, n - k); });
   }
 }
@@ -109,8 +101,9 @@ __attribute__((force_align_arg_pointer)) void take_variable(int item, int thread
 template <class R>
 int32_t quantiles(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threader* threader) {
   if (const int32_t status = check(t, estimates, method)) return status;
-  const int p = t.p(), n = t.n();
-  Work<R> work{t, p, n, 0, t.rows(), false, false, false, nullptr, nullptr};
+  const Data<R> data = data_of(t);
+  const int p = data.p, n = data.n;
+  Work<R> work{t, data, 0, false, false, false, nullptr, nullptr};
   if (estimates & ORK_SS_QUANTILES) {
     work.count = int(t.integer(t.quantileCount));
     work.quantiles = true;
@@ -134,10 +127,24 @@ int32_t quantiles(Task<R>& t, uint64_t estimates, uint64_t method, const ork_thr
     if (t.selected(j)) variables[selected++] = j;
   work.scratch = scratch.get();
   work.variables = variables.get();
-  run_items(threader, selected, threads, &work, take_variable<R>);
+  run_items(threader, selected, threads,
+            [&](int item, int thread) { take_variable(work, item, thread); });
   return ORK_SS_OK;
 }
 
+template <class R>
+int32_t median(const R* x, int n, R* to, const ork_threader* threader) {
+  const int32_t one = 1;
+  const R half = R(0.5);
+  PrivateTask<R> task(1, n, ORK_SS_ROWS, x);
+  task->quantileCount = &one;
+  task->quantileOrders = &half;
+  task->quantiles = to;
+  return quantiles(*task, ORK_SS_QUANTILES, ORK_SS_FAST, threader);
+}
+
+template int32_t median(const double*, int, double*, const ork_threader*);
+template int32_t median(const float*, int, float*, const ork_threader*);
 template int32_t quantiles(Task<double>&, uint64_t, uint64_t, const ork_threader*);
 template int32_t quantiles(Task<float>&, uint64_t, uint64_t, const ork_threader*);
 

@@ -2,9 +2,11 @@
 #include <string.h>
 
 #include "base/scratch.hpp"
-#include "rua_kernel/ss/quantiles/sorts.hpp"
+#include "base/threads.hpp"
+#include "rua_kernel/ss/quantiles/quantiles.hpp"
 #include "rua_kernel/ss/quantiles/stream_state.hpp"
-#include "rua_kernel/ss/service/task.hpp"
+#include "rua_kernel/ss/service/data.hpp"
+#include "rua_kernel/ss/service/math.hpp"
 
 namespace ork::ss {
 namespace {
@@ -15,7 +17,7 @@ int32_t check(const Task<R>& t, uint64_t method) {
   if (t.n() > 0) {
     if (!t.observations) return ORK_SS_NULL_OBSERVATIONS;
     if (!t.storageFormat) return ORK_SS_NULL_STORAGE;
-    if (!(t.integer(t.storageFormat) & (ORK_SS_ROWS | ORK_SS_COLUMNS))) return ORK_SS_BAD_STORAGE;
+    if (!(t.integer(t.storageFormat) & kLayouts)) return ORK_SS_BAD_STORAGE;
   }
   if (!t.streamQuantiles) return ORK_SS_NULL_STREAM_QUANTILES;
   if (!t.streamOrders) return ORK_SS_NULL_STREAM_ORDERS;
@@ -51,11 +53,9 @@ class Room {
 
 template <class R>
 struct Work {
-  const Task<R>& task;
+  Data<R> data;
   Variable* state;
   int offset, count;  // observations of this run
-  bool rows;
-  int32_t status;
 };
 
 // Level 0 is full: it moves up as a summary, merging with what is in its way.
@@ -79,35 +79,29 @@ void carry(Epoch& epoch, Summary<R>& moving) {
 }
 
 template <class R>
-__attribute__((force_align_arg_pointer)) void add_data(int item, int, int, void* context) {
-  Work<R>& work = *static_cast<Work<R>*>(context);
+int32_t add_data(const Work<R>& work, int item) {
   Variable& variable = work.state[item];
-  if (!variable.active) return;
+  if (!variable.active) return ORK_SS_OK;
   Epoch& epoch = variable.epochs[variable.currentEpoch];
   const Scratch<R> sorting(epoch.blockSize);
   Room<R> moving(epoch.half());
-  if (!sorting || !moving) {
-    __atomic_store_n(&work.status, ORK_SS_NO_MEMORY, __ATOMIC_RELAXED);
-    return;
-  }
-  const int n = work.task.n(), p = work.task.p();
-  const size_t step = work.rows ? 1 : p;
-  const R* x = work.task.observations + (work.rows ? size_t(item) * n : size_t(item)) +
-               size_t(work.offset) * step;
-  for (int left = work.count; left > 0;) {
-    const int room = epoch.blockSize - epoch.bufferCount, taken = room < left ? room : left;
+  if (!sorting || !moving) return ORK_SS_NO_MEMORY;
+  const Series<R> x = work.data.variable(item);
+  for (int at = work.offset, end = at + work.count; at < end;) {
+    const int room = epoch.blockSize - epoch.bufferCount, taken = room < end - at ? room : end - at;
     const Summary<R> buffer = epoch.level<R>(0, 0);
-    for (int i = 0; i < taken; ++i, x += step) buffer.value[epoch.bufferCount + i] = *x;
+    x.copy(at, taken, buffer.value + epoch.bufferCount);
     epoch.bufferCount += taken;
     epoch.consumed += taken;
-    left -= taken;
-    Sort<R>::radix(buffer.value, sorting.get(), epoch.bufferCount);
+    at += taken;
+    Math<R>::sort_radix(buffer.value, sorting.get(), epoch.bufferCount);
     for (int i = 0; i < epoch.bufferCount; ++i) buffer.least[i] = buffer.greatest[i] = i + 1;
     if (epoch.bufferCount == epoch.blockSize) {
       carry(epoch, *moving);
       epoch.bufferCount = 0;
     }
   }
+  return ORK_SS_OK;
 }
 
 // The first observation makes the state.
@@ -139,7 +133,8 @@ int32_t add(Task<R>& t, const ork_threader* threader) {
   }
   if (!last) return known ? ORK_SS_BAD_MASK : ORK_SS_OK;
 
-  Work<R> work{t, state, 0, 0, n > 0 && t.rows(), ORK_SS_OK};
+  if (n == 0) return ORK_SS_OK;  // and the layout need not be there
+  Work<R> work{data_of(t), state, 0, 0};
   const double epsilon = t.streamParams[0];
   while (work.offset < n) {
     int room = 0;
@@ -154,11 +149,10 @@ int32_t add(Task<R>& t, const ork_threader* threader) {
       room = size.observations;
     }
     work.count = n - work.offset < room ? n - work.offset : room;
-    if (threader)
-      threader->parallel_for(p, 0, &work, add_data<R>);
-    else
-      for (int j = 0; j < p; ++j) add_data<R>(j, 0, 0, &work);
-    if (work.status != ORK_SS_OK) return work.status;
+    SharedStatus status;
+    run_items(threader, p, thread_limit(threader, p),
+              [&](int item, int) { status.put(add_data(work, item)); });
+    if (status.get() != ORK_SS_OK) return status.get();
     work.offset += work.count;
   }
   return ORK_SS_OK;

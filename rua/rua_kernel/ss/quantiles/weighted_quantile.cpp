@@ -1,8 +1,9 @@
 // The weighted quantile: where the running sum of weights, along the sorted values, crosses the
 // order's share of the whole.
 #include "base/scratch.hpp"
-#include "rua_kernel/ss/quantiles/sorts.hpp"
-#include "rua_kernel/ss/service/task.hpp"
+#include "rua_kernel/ss/quantiles/quantiles.hpp"
+#include "rua_kernel/ss/service/data.hpp"
+#include "rua_kernel/ss/service/math.hpp"
 
 namespace ork::ss {
 namespace {
@@ -33,28 +34,28 @@ R weighted_quantile(const R* v, const R* w, int n, R total, R q) {
   return (x + v[next]) * R(0.5);
 }
 
+}  // namespace
+
 template <class R>
 int32_t weighted_quantiles(const Task<R>& t) {
-  const int p = t.p(), n = t.n();
+  const Data<R> data = data_of(t);
+  const int n = data.n;
   const Scratch<R> scratch(2 * uint64_t(n));
   if (!scratch) return ORK_SS_NO_MEMORY;
   R *values = scratch.get(), *weights = values + n;
   R total = 0;
-  for (int i = 0; i < n; ++i) total += t.weights[i];
-  for (int j = 0; j < p; ++j) {
-    const R* x = t.observations + (t.rows() ? size_t(j) * n : size_t(j));
-    const size_t step = t.rows() ? 1 : p;
-    for (int i = 0; i < n; ++i) {
-      values[i] = x[i * step];
-      weights[i] = t.weights[i];
-    }
-    Sort<R>::pairs(n, values, weights);
+  for (int i = 0; i < n; ++i) total += data.w[i];
+  for (int j = 0; j < data.p; ++j) {
+    data.variable(j).copy(0, n, values);
+    Series<R>{data.w, 1}.copy(0, n, weights);
+    Math<R>::sort_pairs(n, values, weights);
     t.quantiles[j] = weighted_quantile(values, weights, n, total, t.quantileOrders[0]);
   }
   return ORK_SS_OK;
 }
 
-}  // namespace
+template int32_t weighted_quantiles(const Task<double>&);
+template int32_t weighted_quantiles(const Task<float>&);
 
 ORK_EXPORT int32_t _ruadSSWMedian(ork_ss_task* task) {
   return weighted_quantiles(record_of<double>(task));

@@ -16,6 +16,9 @@ enum Order { kMean, kRaw2, kRaw3, kRaw4, kCentral2, kCentral3, kCentral4, kOrder
 // through Task::integer, which knows the width.
 typedef const int32_t* Integers;
 
+// Bits of a storage format, one of which has to be there.
+constexpr int kLayouts = ORK_SS_ROWS | ORK_SS_COLUMNS;
+
 // Field order and widths are part of the interface; every pointer but streamState is
 // borrowed. A zeroed record is a valid empty one: code that computes on data of its own fills
 // such a record on its stack.
