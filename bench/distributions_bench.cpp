@@ -1,18 +1,19 @@
-// Cycles a number of the continuous distributions on MT19937, 1000 numbers a call, beside the
-// standard library and GSL in the same run. A form over its bound is marked.
+// Cycles a number of the distributions on MT19937, 1000 numbers a call, beside the standard library
+// and GSL in the same run. A form over its bound is marked. distributions_bench NAME: one of them.
 #include <dlfcn.h>
 
+#include <functional>
 #include <random>
 
 #include "ork/rua_distributions.h"
 #include "ork/zem_kernels.h"
+#include "registry/distributions.hpp"
 #include "support.hpp"
 
 namespace {
 
 constexpr int kNumbers = 1000;
-alignas(64) double r[kNumbers];
-alignas(64) float rf[kNumbers];
+alignas(64) double numbers[kNumbers];
 
 template <class Call>
 double cycles(Call call) {
@@ -24,11 +25,11 @@ template <class Distribution>
 double standard(Distribution d) {
   std::mt19937 engine;
   return cycles([&] {
-    for (double& x : r) x = d(engine);
+    for (double& x : numbers) x = d(engine);
   });
 }
 
-// GSL's functions of (rng, one or two parameters) on its mt19937; 0 without the library.
+// GSL's functions of (rng, parameters) on its mt19937; 0 without the library.
 class Gsl {
  public:
   Gsl() {
@@ -39,12 +40,12 @@ class Gsl {
     if (alloc && type) rng_ = alloc(*type);
   }
   explicit operator bool() const { return rng_; }
-  template <class... Parameters>
-  double operator()(const char* name, Parameters... parameters) const {
+  template <class Result, class... Parameters>
+  double run(const char* name, Parameters... parameters) const {
     if (!rng_) return 0;
-    const auto f = reinterpret_cast<double (*)(void*, Parameters...)>(dlsym(library_, name));
+    const auto f = reinterpret_cast<Result (*)(void*, Parameters...)>(dlsym(library_, name));
     return f ? cycles([&] {
-      for (double& x : r) x = f(rng_, parameters...);
+      for (double& x : numbers) x = f(rng_, parameters...);
     })
              : 0;
   }
@@ -96,63 +97,59 @@ void stages(Report& report, RuaStream* s, const char* type) {
 }
 
 struct Row {
-  const char* name;
-  double bound;  // cycles a number of the double form; 0: none
-  int32_t (*d)(RuaStream*);
-  int32_t (*s)(RuaStream*);
-  double standard, gsl;
+  char type;
+  const char *name, *label;
+  double bound;  // cycles a number, 0 for none
+  int32_t (*draw)(RuaStream*, void*);
+  std::function<double()> standard, gsl;
 };
 
 }  // namespace
 
-#define FORMS(NAME, METHOD, ...)                                                    \
-  [](RuaStream* s) { return _ruadRng##NAME(METHOD, s, kNumbers, r, __VA_ARGS__); }, \
-      [](RuaStream* s) { return _ruasRng##NAME(METHOD, s, kNumbers, rf, __VA_ARGS__); }
-
 int main(int argc, char** argv) {
   Report report("distributions", argc, argv);
   const Gsl gsl;
-  const double normal = standard(std::normal_distribution<>()),
-               ziggurat = gsl("gsl_ran_gaussian_ziggurat", 2.0);
   const Row rows[] = {
-      {"Uniform", 0, FORMS(Uniform, 0, 0, 2), standard(std::uniform_real_distribution<>(0, 2)),
-       gsl("gsl_ran_flat", 0.0, 2.0)},
-      {"Gaussian BoxMuller", 0, FORMS(Gaussian, RUA_GAUSSIAN_BOXMULLER, 1, 2), normal, ziggurat},
-      {"Gaussian BoxMuller2", 14, FORMS(Gaussian, RUA_GAUSSIAN_BOXMULLER2, 1, 2), normal, ziggurat},
-      {"Gaussian ICDF", 14, FORMS(Gaussian, RUA_GAUSSIAN_ICDF, 1, 2), normal, ziggurat},
-      {"Exponential", 10, FORMS(Exponential, 0, 1, 2), standard(std::exponential_distribution<>()),
-       gsl("gsl_ran_exponential", 2.0)},
-      {"Laplace", 0, FORMS(Laplace, 0, 1, 2), 0, gsl("gsl_ran_laplace", 2.0)},
-      {"Cauchy", 0, FORMS(Cauchy, 0, 1, 2), standard(std::cauchy_distribution<>()),
-       gsl("gsl_ran_cauchy", 2.0)},
-      {"Rayleigh", 0, FORMS(Rayleigh, 0, 1, 2), 0, gsl("gsl_ran_rayleigh", 2.0)},
-      {"Lognormal ICDF", 0, FORMS(Lognormal, 1, 1, 0.5, 2, 3),
-       standard(std::lognormal_distribution<>(1, 0.5)), gsl("gsl_ran_lognormal", 1.0, 0.5)},
-      {"Weibull", 0, FORMS(Weibull, 0, 2.5, 1, 2), standard(std::weibull_distribution<>(2.5, 2)),
-       gsl("gsl_ran_weibull", 2.0, 2.5)},
-      {"Gumbel", 0, FORMS(Gumbel, 0, 1, 2), standard(std::extreme_value_distribution<>()),
-       gsl("gsl_ran_gumbel1", 1.0, 2.0)},
+#define BENCH(type, element, name, label, bound, arguments, std_, gsl_) \
+  {#type[0],                                                            \
+   #name,                                                               \
+   label,                                                               \
+   bound,                                                               \
+   [](RuaStream* s, void* out) {                                        \
+     constexpr int32_t n = kNumbers;                                    \
+     auto* r = static_cast<element*>(out);                              \
+     return _rua##type##Rng##name arguments;                            \
+   },                                                                   \
+   [&]() -> double { return std_; },                                    \
+   [&]() -> double { return gsl_; }},
+#include "registry/distribution_benches.inc"
+#undef BENCH
   };
   report.line(
-      "# MT19937, 1000 numbers a call, cycles a number; ratios of the peers to the double form;");
-  report.line("# the bound of the single form is half of that of the double form");
-  report.line(format("%-20s %8s %8s %8s %8s %8s", "distribution", "double", "bound", "single",
-                     "std/ork", "GSL/ork"));
+      "# MT19937, 1000 numbers a call, cycles a number; peers in double, as multiples of the");
+  report.line("# double form");
+  report.line(
+      format("%-26s %8s %8s %8s %8s", "distribution", "cycles", "bound", "std/ork", "GSL/ork"));
   const uint32_t seed = 777;
+  alignas(64) static char r[8 * kNumbers];
   for (const Row& row : rows) {
+    if (!report.wants(row.name)) continue;
     RuaStream* s;
     if (__ruaNewStreamEx(&s, RUA_BRNG_MT19937, 1, &seed) != 0) return 1;
-    const double d = cycles([&] { row.d(s); }), f = cycles([&] { row.s(s); });
-    const bool late = row.bound != 0 && (d > row.bound || f > row.bound / 2);
-    report.line(format("%-20s %8.2f %8.1f %8.2f %8.1f %8.1f%s", row.name, d, row.bound, f,
-                       row.standard / d, row.gsl / d, late ? "  over" : ""));
+    const double own = cycles([&] { row.draw(s, r); });
+    std::string line = format("%-24s %c %8.2f", row.label, row.type, own);
+    for (const double value : {row.bound, row.standard() / own, row.gsl() / own})
+      line += value != 0 ? format(" %8.1f", value) : std::string(9, ' ');
+    report.line(line + (row.bound != 0 && own > row.bound ? "  over" : ""));
     __ruaDeleteStream(&s);
   }
-  report.line("# stages, cycles a number of 1024");
-  RuaStream* s;
-  if (__ruaNewStreamEx(&s, RUA_BRNG_MT19937, 1, &seed) != 0) return 1;
-  stages<double>(report, s, "double");
-  stages<float>(report, s, "single");
-  __ruaDeleteStream(&s);
+  if (report.wants_all()) {
+    report.line("# stages, cycles a number of 1024");
+    RuaStream* s;
+    if (__ruaNewStreamEx(&s, RUA_BRNG_MT19937, 1, &seed) != 0) return 1;
+    stages<double>(report, s, "double");
+    stages<float>(report, s, "single");
+    __ruaDeleteStream(&s);
+  }
   if (!gsl) report.line("GSL: libgsl.so.27 is not there, skipped");
 }

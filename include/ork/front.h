@@ -10,6 +10,7 @@
 #include <stdint.h>
 
 #include "ork/df.h"
+#include "ork/front_distributions.h"
 #include "ork/front_elementwise.h"
 #include "ork/rua_distributions.h"
 #include "ork/ss.h"
@@ -91,31 +92,7 @@ int ork_stream_skip(RuaStream* stream, int64_t n);
 int ork_stream_save(const RuaStream* stream, const char* file);
 int ork_stream_load(RuaStream** stream, const char* file);
 
-/* n numbers of a distribution, with the methods and parameters of rua_distributions.h. Checked,
- * in this order: stream null -5; method unknown -2; n below 0, a scale or shape not above 0
- * (Uniform: a not below b), a parameter not finite -3; r null -5. n = 0 draws nothing. */
-int ork_dRngUniform(int method, RuaStream* stream, int n, double* r, double a, double b);
-int ork_sRngUniform(int method, RuaStream* stream, int n, float* r, float a, float b);
-int ork_dRngGaussian(int method, RuaStream* stream, int n, double* r, double a, double sigma);
-int ork_sRngGaussian(int method, RuaStream* stream, int n, float* r, float a, float sigma);
-int ork_dRngExponential(int method, RuaStream* stream, int n, double* r, double a, double beta);
-int ork_sRngExponential(int method, RuaStream* stream, int n, float* r, float a, float beta);
-int ork_dRngLaplace(int method, RuaStream* stream, int n, double* r, double a, double beta);
-int ork_sRngLaplace(int method, RuaStream* stream, int n, float* r, float a, float beta);
-int ork_dRngCauchy(int method, RuaStream* stream, int n, double* r, double a, double beta);
-int ork_sRngCauchy(int method, RuaStream* stream, int n, float* r, float a, float beta);
-int ork_dRngRayleigh(int method, RuaStream* stream, int n, double* r, double a, double beta);
-int ork_sRngRayleigh(int method, RuaStream* stream, int n, float* r, float a, float beta);
-int ork_dRngLognormal(int method, RuaStream* stream, int n, double* r, double a, double sigma,
-                      double b, double beta);
-int ork_sRngLognormal(int method, RuaStream* stream, int n, float* r, float a, float sigma, float b,
-                      float beta);
-int ork_dRngWeibull(int method, RuaStream* stream, int n, double* r, double alpha, double a,
-                    double beta);
-int ork_sRngWeibull(int method, RuaStream* stream, int n, float* r, float alpha, float a,
-                    float beta);
-int ork_dRngGumbel(int method, RuaStream* stream, int n, double* r, double a, double beta);
-int ork_sRngGumbel(int method, RuaStream* stream, int n, float* r, float a, float beta);
+/* Distributions: ork_dRngGaussian and the others of front_distributions.h. */
 
 /* ---- Statistics ---------------------------------------------------------------------------
  *

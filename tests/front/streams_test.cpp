@@ -1,8 +1,7 @@
 // Streams and distributions through the public layer: bad arguments, and the same numbers as the
 // kernels behind it.
-#include <algorithm>
-
 #include "ork/front.h"
+#include "registry/distributions.hpp"
 #include "status_rows.hpp"
 #include "support/blocks.hpp"
 
@@ -90,84 +89,75 @@ TEST(FrontStreams, NothingIsLeftWhenTheGeneratorRefusesTheSeed) {
   EXPECT_EQ(blocks::live(), before);
 }
 
-// A distribution by both letters and by the kernel behind it. p and q have to be valid, and
-// `bad` to name the places of parameters that must be above 0.
-struct Distribution {
-  const char* name;
-  int methods;
-  std::function<int(int, RuaStream*, int, double*, const double*)> front, kernel;
-  std::function<int(int, RuaStream*, int, float*, const double*)> single, single_kernel;
-  std::vector<double> parameters;
-  std::vector<int> positive;
+// A distribution behind the checks, in the order of the registry's rows.
+using Front = int(int method, RuaStream* stream, int n, void* r, const Values& p);
+Front* const fronts[] = {
+#define DISTRIBUTION(type, element, name, methods, values, chunk, arguments, parameters, sample) \
+  [](int m, RuaStream* s, int n, void* out, const Values& p) {                                   \
+    auto* r = static_cast<element*>(out);                                                        \
+    return ork_##type##Rng##name arguments;                                                      \
+  },
+#include "registry/distributions.inc"
+#undef DISTRIBUTION
 };
 
-#define ARGUMENTS2 m, s, n, r, p[0], p[1]
-#define ARGUMENTS3 ARGUMENTS2, p[2]
-#define ARGUMENTS4 ARGUMENTS3, p[3]
-#define CALL(F, T, count) \
-  [](int m, RuaStream* s, int n, T* r, const double* p) { return F(ARGUMENTS##count); }
-#define DISTRIBUTION(name, methods, count, ...)                                               \
-  {                                                                                           \
-#name, methods, CALL(ork_dRng##name, double, count), CALL(_ruadRng##name, double, count), \
-        CALL(ork_sRng##name, float, count), CALL(_ruasRng##name, float, count), __VA_ARGS__   \
+// Values of a number that break one of its conditions, and nothing else.
+std::vector<double> breaking(const Distribution& d, const Parameter& p) {
+  std::vector<double> bad;
+  for (const Condition& c : p.conditions) {
+    const double bound = c.parameter < 0 ? c.bound : double(d.sample[c.parameter]);
+    const double outwards = c.relation[0] == '>' ? -1 : 1;
+    bad.push_back(bound + outwards);
+    if (c.relation[1] == 0) bad.push_back(bound);
   }
+  if (p.kind != Kind::integer) bad.insert(bad.end(), {NAN, INFINITY, -INFINITY});
+  return bad;
+}
 
-const Distribution distributions[] = {
-    DISTRIBUTION(Uniform, 1, 2, {-1, 2}, {}),
-    DISTRIBUTION(Gaussian, 3, 2, {1, 2}, {1}),
-    DISTRIBUTION(Exponential, 1, 2, {1, 2}, {1}),
-    DISTRIBUTION(Laplace, 1, 2, {1, 2}, {1}),
-    DISTRIBUTION(Cauchy, 1, 2, {1, 2}, {1}),
-    DISTRIBUTION(Rayleigh, 1, 2, {1, 2}, {1}),
-    DISTRIBUTION(Lognormal, 2, 4, {0, 1, -1, 2}, {1, 3}),
-    DISTRIBUTION(Weibull, 1, 3, {0.5, 1, 2}, {0, 2}),
-    DISTRIBUTION(Gumbel, 1, 2, {1, 2}, {1}),
-};
-
-template <class T, class F, class K>
-void check_draws(const Distribution& d, const F& front, const K& kernel) {
+void check_draws(const Distribution& d, Front* front) {
   constexpr int n = 33;
+  SCOPED_TRACE(d.full_name());
   Stream s, twin;
-  T r[n] = {7}, expected[n];
-  const double* p = d.parameters.data();
-  const auto expect = [&](int status, int m, RuaStream* stream, int count, T* out, const double* q,
-                          const char* what) {
-    EXPECT_EQ(front(m, stream, count, out, q), status) << d.name << ", " << what;
-    EXPECT_EQ(r[0], 7) << d.name << ", " << what;
+  std::vector<char> r(d.bytes(n), 7), expected(d.bytes(n));
+  const auto expect = [&](int status, int m, RuaStream* stream, int count, void* out,
+                          const Values& p, const std::string& what) {
+    EXPECT_EQ(front(m, stream, count, out, p), status) << what;
+    EXPECT_EQ(r[0], 7) << what;
   };
-  expect(-5, 0, nullptr, n, r, p, "null stream");
-  expect(-5, 0, s, n, nullptr, p, "null array");
-  expect(-3, 0, s, -1, r, p, "negative count");
-  expect(0, 0, s, 0, nullptr, p, "count 0");
-  expect(-2, -1, s, n, r, p, "method -1");
-  expect(-2, d.methods, s, n, r, p, "method too large");
-  expect(-2, d.methods | RUA_METHOD_ACCURATE, s, n, r, p, "method too large, accurate");
-  for (size_t k = 0; k < d.parameters.size(); ++k)
-    for (const double bad : {double(NAN), double(INFINITY), -double(INFINITY), 0.0, -1.0}) {
-      if (bad == 0 || bad == -1)
-        if (std::count(d.positive.begin(), d.positive.end(), int(k)) == 0) continue;
-      std::vector<double> q = d.parameters;
-      q[k] = bad;
-      expect(-3, 0, s, n, r, q.data(), "bad parameter");
+  expect(-5, 0, nullptr, n, r.data(), d.sample, "null stream");
+  expect(-5, 0, s, n, nullptr, d.sample, "null array");
+  expect(-3, 0, s, -1, r.data(), d.sample, "negative count");
+  expect(0, 0, s, 0, nullptr, d.sample, "count 0");
+  expect(-2, -1, s, n, r.data(), d.sample, "method -1");
+  expect(-2, d.methods, s, n, r.data(), d.sample, "method too large");
+  expect(-2, d.methods | RUA_METHOD_ACCURATE, s, n, r.data(), d.sample,
+         "method too large, accurate");
+  for (size_t k = 0; k < d.parameters.size(); ++k) {
+    const Parameter& p = d.parameters[k];
+    Values v = d.sample;
+    if (p.kind == Kind::array) {
+      v[k] = nullptr;
+      expect(-5, 0, s, n, r.data(), v, std::string("null ") + p.name);
     }
+    if (p.kind != Kind::array || p.counted)
+      for (const double bad : breaking(d, p)) {
+        v[k] = d.sample[k];
+        v[k].set(v[k].size() - 1, bad);
+        expect(-3, 0, s, n, r.data(), v, p.name + (" = " + std::to_string(bad)));
+      }
+  }
+  if (d.values >= 0) expect(-3, 0, s, INT32_MAX, r.data(), d.sample, "more values than int32_t");
   for (int m = 0; m < d.methods; ++m)
     for (const int flag : {0, RUA_METHOD_ACCURATE}) {  // more than one method: it says nothing
-      EXPECT_EQ(front(m | flag, s, n, r, p), 0) << d.name;
-      EXPECT_EQ(kernel(d.methods > 1 ? m : m | flag, twin, n, expected, p), 0);
-      EXPECT_EQ(memcmp(r, expected, sizeof r), 0) << d.name << " " << m << " " << flag;
+      EXPECT_EQ(front(m | flag, s, n, r.data(), d.sample), 0);
+      EXPECT_EQ(d.kernel(d.methods > 1 ? m : m | flag, twin, n, expected.data(), d.sample), 0);
+      EXPECT_EQ(r, expected) << m << " " << flag;
     }
 }
 
 TEST(FrontStreams, DistributionsCheckAndDrawAsTheirKernels) {
-  for (const Distribution& d : distributions) {
-    check_draws<double>(d, d.front, d.kernel);
-    check_draws<float>(d, d.single, d.single_kernel);
-  }
-  Stream s;
-  double r = 7;
-  EXPECT_EQ(ork_dRngUniform(0, s, 1, &r, 1, 1), -3) << "empty interval";
-  EXPECT_EQ(ork_dRngUniform(0, s, 1, &r, 2, 1), -3);
-  EXPECT_EQ(r, 7);
+  ASSERT_EQ(std::size(fronts), distributions.size());
+  for (size_t i = 0; i < distributions.size(); ++i) check_draws(distributions[i], fronts[i]);
 }
 
 }  // namespace

@@ -2,9 +2,8 @@
 // streams, thread state, and the laws themselves.
 #include <algorithm>
 
-#include "ork/zem.h"
 #include "rua/continuous_cases.hpp"
-#include "support/stack.hpp"
+#include "rua/player.hpp"
 
 namespace {
 
@@ -79,47 +78,6 @@ TYPED_TEST(Continuous, PiecesMakeTheWhole) {
   });
 }
 
-// A registered generator that plays a list of numbers from 0 to 1 over and over, and fails in
-// one of its calls.
-struct Player {
-  std::vector<double> list;
-  size_t next = 0;
-  int calls = 0, failing = -1;
-};
-Player player;
-constexpr int32_t kFailure = -77;
-
-template <class R>
-int32_t play(RuaStream*, int32_t n, R* r, R a, R b) {
-  if (player.calls++ == player.failing) return kFailure;
-  for (int i = 0; i < n; ++i)
-    r[i] = a + (b - a) * R(player.list[player.next++ % player.list.size()]);
-  return 0;
-}
-
-Stream player_stream(std::vector<double> list, int failing = -1) {
-  static const int32_t id = [] {
-    RuaBrngProperties row = {};
-    row.stateSize = 32, row.seedWords = 1, row.wordSize = 4, row.bitCount = 32;
-    row.initStream = [](int32_t, RuaStream*, int32_t, const uint32_t*) { return 0; };
-    row.sGenerate = play<float>, row.dGenerate = play<double>;
-    row.iGenerate = [](RuaStream*, int32_t, void*) { return 0; };
-    return __ruaRegisterBrng(&row);
-  }();
-  player = {std::move(list), 0, 0, failing};
-  return Stream(id, {1});
-}
-
-// The thread's mode, callback and last status, put back at the end.
-struct ThreadState {
-  uint32_t mode = ork_zem_kernel_GetMode();
-  ork_error_callback callback = ork_zem_kernel_GetErrorCallBack();
-  ~ThreadState() {
-    ork_zem_kernel_SetErrorCallBack(callback);
-    ork_zem_kernel_SetMode(mode);
-    ork_zem_kernel_ClearErrStatus();
-  }
-};
 int events;
 int32_t count_event(ork_error_record*) { return ++events, 0; }
 
@@ -220,42 +178,6 @@ TYPED_TEST(Continuous, AccurateUniformKeepsItsBounds) {
     EXPECT_EQ(uniform(RUA_METHOD_ACCURATE, n, b, b, r), 0);
     for (R x : r) EXPECT_EQ(x, b);
     EXPECT_EQ(uniform(RUA_METHOD_ACCURATE, n, a, b, r, 0), kFailure);
-  }
-}
-
-// Callers may bring a stack that is aligned to 4 bytes only.
-TYPED_TEST(Continuous, StackMayBeMisaligned) {
-  using R = TypeParam;
-  using E = Entries<R>;
-  const std::function<int32_t(int, RuaStream*, R*)> entries[] = {
-#define ROW(entry, ...)                                             \
-  [](int shift, RuaStream* s, R* r) {                               \
-    return call_shifted(shift, E::entry, 0, s, 99, r, __VA_ARGS__); \
-  }
-      ROW(uniform, -2, 5),
-      ROW(exponential, -1, 2.5),
-      ROW(laplace, -1, 2.5),
-      ROW(cauchy, 0.5, 1.5),
-      ROW(rayleigh, 1, 2),
-      ROW(lognormal, 1, 0.5, 2, 3),
-      ROW(weibull, 3, -1, 2),
-      ROW(gumbel, -1, 2),
-#undef ROW
-      [](int shift, RuaStream* s, R* r) {
-        int32_t status = 0;
-        for (const int method : {0, 1, 2})
-          status |= call_shifted(shift, E::gaussian, method, s, 33, r + 33 * method, 3, 2);
-        return status;
-      }};
-  for (const auto& entry : entries) {
-    R want[99], r[99];
-    for (const int shift : {0, 4, 8, 12}) {
-      Stream s(RUA_BRNG_MT19937, {3});
-      ASSERT_EQ(entry(shift, s, shift ? r : want), 0);
-      if (shift) {
-        ASSERT_EQ(memcmp(r, want, sizeof r), 0) << &entry - entries << ' ' << shift;
-      }
-    }
   }
 }
 

@@ -74,25 +74,6 @@ TYPED_TEST(PendingPair, SurvivesCopyAndImage) {
   EXPECT_EQ(this->draw(loaded, 1500), want);
 }
 
-TYPED_TEST(PendingPair, ChunkThatCannotBeMadeIsReported) {
-  using R = TypeParam;
-  Stream s(RUA_BRNG_MT19937, {9}), other(RUA_BRNG_MT19937, {9});
-  const auto want = this->draw(other, 5);
-  const auto before = record(s);
-  const int allocations = blocks::fail_each([&] {
-    std::vector<R> r(5);
-    const int32_t status = Entries<R>::gaussian(RUA_GAUSSIAN_BOXMULLER2, s, 5, r.data(), 0, 1);
-    if (blocks::failed()) {
-      EXPECT_EQ(status, RUA_STATUS_NO_MEMORY);
-      EXPECT_EQ(record(s), before);
-    } else {
-      EXPECT_EQ(status, 0);
-      EXPECT_EQ(r, want);
-    }
-  });
-  EXPECT_EQ(allocations, 2);  // the pair and the node
-}
-
 TYPED_TEST(PendingPair, ChunkTooSmallIsRefused) {
   using R = TypeParam;
   for (uint32_t words = 0; words <= 2 * sizeof(R) / 4; ++words) {

@@ -1,8 +1,8 @@
 // Gaussian numbers from the sine of G. E. P. Box, M. E. Muller, "A note on the generation of
 // random normal deviates", 1958: two uniform numbers each, the cosine is not used.
-#include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/gaussian.hpp"
-#include "rua_kernel/continuous/uniform.hpp"
+#include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/uniform.hpp"
 
 namespace ork::rua {
 

@@ -2,9 +2,9 @@
 // the count is odd, the last pair of uniform numbers waits in a chunk of the stream, and its
 // cosine is the first output of the next call.
 #include "ork/serv.h"
-#include "rua_kernel/continuous/elementwise.hpp"
 #include "rua_kernel/continuous/gaussian.hpp"
-#include "rua_kernel/continuous/uniform.hpp"
+#include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/uniform.hpp"
 #include "rua_sub_kernel/service/chunks.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 

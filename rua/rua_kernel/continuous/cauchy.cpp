@@ -1,7 +1,7 @@
 // Cauchy: a + beta tan(u), u uniform from -pi/2 to pi/2.
 #include "base/export.hpp"
-#include "rua_kernel/continuous/elementwise.hpp"
-#include "rua_kernel/continuous/uniform.hpp"
+#include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/uniform.hpp"
 
 using namespace ork::rua;
 

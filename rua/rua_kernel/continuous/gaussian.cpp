@@ -2,9 +2,9 @@
 #include "rua_kernel/continuous/gaussian.hpp"
 
 #include "base/export.hpp"
-#include "rua_kernel/continuous/elementwise.hpp"
-#include "rua_kernel/continuous/guard.hpp"
-#include "rua_kernel/continuous/uniform.hpp"
+#include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/guard.hpp"
+#include "rua_kernel/service/uniform.hpp"
 
 using namespace ork::rua;
 

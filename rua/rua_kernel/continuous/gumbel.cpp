@@ -1,8 +1,8 @@
 // Gumbel: a + beta ln(e), e exponential.
 #include "base/export.hpp"
 #include "ork/rua_distributions.h"
-#include "rua_kernel/continuous/elementwise.hpp"
-#include "rua_kernel/continuous/guard.hpp"
+#include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/guard.hpp"
 
 using namespace ork::rua;
 

@@ -1,9 +1,9 @@
 // Laplace: a +- beta ln(u), the sign from a second uniform number. Pairs are drawn by blocks:
 // the magnitude first, the selector second.
 #include "base/export.hpp"
-#include "rua_kernel/continuous/elementwise.hpp"
-#include "rua_kernel/continuous/guard.hpp"
-#include "rua_kernel/continuous/uniform.hpp"
+#include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/guard.hpp"
+#include "rua_kernel/service/uniform.hpp"
 
 using namespace ork::rua;
 

@@ -1,7 +1,7 @@
 // Lognormal: b + beta exp(g), g Gaussian.
 #include "base/export.hpp"
 #include "ork/rua_distributions.h"
-#include "rua_kernel/continuous/elementwise.hpp"
+#include "rua_kernel/service/elementwise.hpp"
 
 using namespace ork::rua;
 

@@ -1,7 +1,7 @@
 // Uniform numbers: the generator's own, on request kept within the bounds.
 #include "base/export.hpp"
 #include "ork/rua_distributions.h"
-#include "rua_kernel/continuous/elementwise.hpp"
+#include "rua_kernel/service/elementwise.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 
 using namespace ork::rua;

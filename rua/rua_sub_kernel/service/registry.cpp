@@ -60,20 +60,26 @@ constinit Table current = [] {
 struct SmallTable {
   static constexpr int32_t kFirstWh = 4, kLastWh = 276, kRows = 279;
   Row row[kRows];
+
+  static constexpr int32_t built_in(int32_t i) {
+    return i < kFirstWh ? i : i <= kLastWh ? kFirstWh : kFirstWh + i - kLastWh;
+  }
 };
 constinit SmallTable small = [] {
-  using S = SmallTable;
-  S t{};
-  for (int32_t i = 0; i < S::kRows; ++i)
-    t.row[i] = built_in[i < S::kFirstWh   ? i
-                        : i <= S::kLastWh ? S::kFirstWh
-                                          : S::kFirstWh + i - S::kLastWh];
+  SmallTable t{};
+  for (int32_t i = 0; i < SmallTable::kRows; ++i) t.row[i] = built_in[SmallTable::built_in(i)];
   return t;
 }();
 
 bool below(int32_t i, int32_t limit) { return i >= 0 && i < limit; }
 
 }  // namespace
+
+int32_t ork::rua::built_in_row(const RuaStream* stream) {
+  int32_t row, offset;
+  const Row* table = __ruaGetBrngBaseOffset(stream->brng, &row, &offset);
+  return table == small.row ? SmallTable::built_in(row) : row;
+}
 
 ORK_EXPORT RuaBrngProperties* __ruaGetBrngBaseOffset(int32_t brng, int32_t* row, int32_t* offset) {
   if (brng >= kIdStep) {

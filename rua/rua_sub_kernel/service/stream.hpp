@@ -39,6 +39,10 @@ inline const RuaBrngProperties& properties(const RuaStream* stream) {
   return table[row];
 }
 
+// The generator of a stream as its row among the built-in ones, from 0 for MCG31M1 to 13 for the
+// non-deterministic one, whichever of its ids the stream has; 14 or more: a registered one.
+int32_t built_in_row(const RuaStream* stream);
+
 // Bytes of the generator's words. A registered row may claim less than the head.
 inline uint32_t state_bytes(const RuaBrngProperties& row) {
   constexpr int32_t head = sizeof(RuaStream);

@@ -1,5 +1,5 @@
 // Passes over arrays: loops in the vector registers, and the vector kernels the distributions
-// call. Double work takes the EP slot, single work the LA slot.
+// call.
 #pragma once
 #include "base/vec.hpp"
 #include "ork/zem_kernels.h"
@@ -9,46 +9,59 @@ namespace ork::rua {
 
 template <class R>
 struct Tables;
-template <>
-struct Tables<double> {
-  static constexpr int kSlot = 2;
-  static constexpr auto &ln = ork_zem_kernel_dLn_ttab, &sqrt = ork_zem_kernel_dSqrt_ttab,
-                        &sin = ork_zem_kernel_dSin_ttab, &tan = ork_zem_kernel_dTan_ttab,
-                        &exp = ork_zem_kernel_dExp_ttab, &erf_inv = ork_zem_kernel_dErfInv_ttab;
-  static constexpr auto& sin_cos = ork_zem_kernel_dSinCos_ttab;
-  static constexpr auto& powx = ork_zem_kernel_dPowx_ttab;
-};
-template <>
-struct Tables<float> {
-  static constexpr int kSlot = 0;
-  static constexpr auto &ln = ork_zem_kernel_sLn_ttab, &sqrt = ork_zem_kernel_sSqrt_ttab,
-                        &sin = ork_zem_kernel_sSin_ttab, &tan = ork_zem_kernel_sTan_ttab,
-                        &exp = ork_zem_kernel_sExp_ttab, &erf_inv = ork_zem_kernel_sErfInv_ttab;
-  static constexpr auto& sin_cos = ork_zem_kernel_sSinCos_ttab;
-  static constexpr auto& powx = ork_zem_kernel_sPowx_ttab;
-};
+#define ORK_TABLES(t, R)                                                                          \
+  template <>                                                                                     \
+  struct Tables<R> {                                                                              \
+    static constexpr auto &ln = ork_zem_kernel_##t##Ln_ttab, &exp = ork_zem_kernel_##t##Exp_ttab, \
+                          &sqrt = ork_zem_kernel_##t##Sqrt_ttab,                                  \
+                          &inv = ork_zem_kernel_##t##Inv_ttab,                                    \
+                          &sin = ork_zem_kernel_##t##Sin_ttab,                                    \
+                          &cos = ork_zem_kernel_##t##Cos_ttab,                                    \
+                          &tan = ork_zem_kernel_##t##Tan_ttab,                                    \
+                          &erf = ork_zem_kernel_##t##Erf_ttab,                                    \
+                          &erf_inv = ork_zem_kernel_##t##ErfInv_ttab;                             \
+    static constexpr auto& sin_cos = ork_zem_kernel_##t##SinCos_ttab;                             \
+    static constexpr auto& pow = ork_zem_kernel_##t##Pow_ttab;                                    \
+    static constexpr auto& powx = ork_zem_kernel_##t##Powx_ttab;                                  \
+  };
+ORK_TABLES(d, double)
+ORK_TABLES(s, float)
+#undef ORK_TABLES
+
+// The slots of the tables: blocks of numbers go through EP in double and LA in single, the
+// constants of a method through HA in both.
+template <class R>
+inline constexpr int kBlocks = sizeof(R) == 8 ? 2 : 0;
+inline constexpr int kConstants = 1;
 
 // r <- f(a) by the kernel of a table.
 template <class R, class Table>
-inline void apply(const Table& table, int32_t n, const R* a, R* r) {
+inline void apply(const Table& table, int32_t n, const R* a, R* r, int slot = kBlocks<R>) {
   const VectorMode mode;
-  table[Tables<R>::kSlot](n, a, r);
+  table[slot](n, a, r);
 }
 template <class R, class Table>
-inline void apply(const Table& table, int32_t n, R* r) {
-  apply(table, n, r, r);
+inline void apply(const Table& table, int32_t n, R* r, int slot = kBlocks<R>) {
+  apply(table, n, r, r, slot);
+}
+
+// f of one number.
+template <class R, class Table>
+inline R value(const Table& table, R x, int slot = kConstants) {
+  apply(table, 1, &x, slot);
+  return x;
 }
 
 template <class R>
 inline void sin_cos(int32_t n, R* angle_to_sine, R* cosine) {
   const VectorMode mode;
-  Tables<R>::sin_cos[Tables<R>::kSlot](n, angle_to_sine, angle_to_sine, cosine);
+  Tables<R>::sin_cos[kBlocks<R>](n, angle_to_sine, angle_to_sine, cosine);
 }
 
 template <class R>
-inline void power(int32_t n, R* r, R exponent) {
+inline void power(int32_t n, R* r, R exponent, int slot = kBlocks<R>) {
   const VectorMode mode;
-  Tables<R>::powx[Tables<R>::kSlot](n, r, exponent, r);
+  Tables<R>::powx[slot](n, r, exponent, r);
 }
 
 // r <- f(r), eight values at a time. f takes a vector or a value.

@@ -1,0 +1,67 @@
+// Generated from rua/rua_kernel/service/distributions.txt by ./dev tables distributions; edit that.
+#include "ork/front_distributions.h"
+
+#include "ork/rua_distributions.h"
+#include "outer/export.hpp"
+#include "outer/front/distributions.hpp"
+
+using namespace ork::front;
+
+ORK_OUTER int ork_dRngUniform(int method, RuaStream* stream, int n, double* r, double a, double b) {
+  return draw(_ruadRngUniform, 1, b > a, true, method, stream, n, r, a, b);
+}
+ORK_OUTER int ork_sRngUniform(int method, RuaStream* stream, int n, float* r, float a, float b) {
+  return draw(_ruasRngUniform, 1, b > a, true, method, stream, n, r, a, b);
+}
+ORK_OUTER int ork_dRngGaussian(int method, RuaStream* stream, int n, double* r, double a, double sigma) {
+  return draw(_ruadRngGaussian, 3, sigma > 0, true, method, stream, n, r, a, sigma);
+}
+ORK_OUTER int ork_sRngGaussian(int method, RuaStream* stream, int n, float* r, float a, float sigma) {
+  return draw(_ruasRngGaussian, 3, sigma > 0, true, method, stream, n, r, a, sigma);
+}
+ORK_OUTER int ork_dRngExponential(int method, RuaStream* stream, int n, double* r, double a, double beta) {
+  return draw(_ruadRngExponential, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_sRngExponential(int method, RuaStream* stream, int n, float* r, float a, float beta) {
+  return draw(_ruasRngExponential, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_dRngLaplace(int method, RuaStream* stream, int n, double* r, double a, double beta) {
+  return draw(_ruadRngLaplace, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_sRngLaplace(int method, RuaStream* stream, int n, float* r, float a, float beta) {
+  return draw(_ruasRngLaplace, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_dRngCauchy(int method, RuaStream* stream, int n, double* r, double a, double beta) {
+  return draw(_ruadRngCauchy, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_sRngCauchy(int method, RuaStream* stream, int n, float* r, float a, float beta) {
+  return draw(_ruasRngCauchy, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_dRngRayleigh(int method, RuaStream* stream, int n, double* r, double a, double beta) {
+  return draw(_ruadRngRayleigh, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_sRngRayleigh(int method, RuaStream* stream, int n, float* r, float a, float beta) {
+  return draw(_ruasRngRayleigh, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_dRngLognormal(int method, RuaStream* stream, int n, double* r, double a, double sigma,
+                      double b, double beta) {
+  return draw(_ruadRngLognormal, 2, sigma > 0 && beta > 0, true, method, stream, n, r, a, sigma, b, beta);
+}
+ORK_OUTER int ork_sRngLognormal(int method, RuaStream* stream, int n, float* r, float a, float sigma, float b,
+                      float beta) {
+  return draw(_ruasRngLognormal, 2, sigma > 0 && beta > 0, true, method, stream, n, r, a, sigma, b, beta);
+}
+ORK_OUTER int ork_dRngWeibull(int method, RuaStream* stream, int n, double* r, double alpha, double a,
+                    double beta) {
+  return draw(_ruadRngWeibull, 1, alpha > 0 && beta > 0, true, method, stream, n, r, alpha, a, beta);
+}
+ORK_OUTER int ork_sRngWeibull(int method, RuaStream* stream, int n, float* r, float alpha, float a,
+                    float beta) {
+  return draw(_ruasRngWeibull, 1, alpha > 0 && beta > 0, true, method, stream, n, r, alpha, a, beta);
+}
+ORK_OUTER int ork_dRngGumbel(int method, RuaStream* stream, int n, double* r, double a, double beta) {
+  return draw(_ruadRngGumbel, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
+ORK_OUTER int ork_sRngGumbel(int method, RuaStream* stream, int n, float* r, float a, float beta) {
+  return draw(_ruasRngGumbel, 1, beta > 0, true, method, stream, n, r, a, beta);
+}
