@@ -6,7 +6,7 @@
 #ifndef ORK_FRONT_ELEMENTWISE_H
 #define ORK_FRONT_ELEMENTWISE_H
 
-#include <stdint.h>
+#include "ork/zem.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -126,15 +126,69 @@ int ork_sTrunc(int n, const float* a, float* r);
 int ork_sUnpackI(int n, const float* a, float* y, int32_t stride);
 int ork_sUnpackM(int n, const float* a, float* y, const int32_t* mask);
 int ork_sUnpackV(int n, const float* a, float* y, const int32_t* index);
+int ork_cAbs(int n, const float* a, float* r);
+int ork_cAcos(int n, const float* a, float* r);
+int ork_cAcosh(int n, const float* a, float* r);
+int ork_cAdd(int n, const float* a, const float* b, float* r);
+int ork_cArg(int n, const float* a, float* r);
+int ork_cAsin(int n, const float* a, float* r);
+int ork_cAsinh(int n, const float* a, float* r);
+int ork_cAtan(int n, const float* a, float* r);
+int ork_cAtanh(int n, const float* a, float* r);
+int ork_cCIS(int n, const float* a, float* r);
+int ork_cConj(int n, const float* a, float* r);
+int ork_cCos(int n, const float* a, float* r);
+int ork_cCosh(int n, const float* a, float* r);
+int ork_cDiv(int n, const float* a, const float* b, float* r);
+int ork_cExp(int n, const float* a, float* r);
+int ork_cLn(int n, const float* a, float* r);
+int ork_cLog10(int n, const float* a, float* r);
+int ork_cMul(int n, const float* a, const float* b, float* r);
+int ork_cMulByConj(int n, const float* a, const float* b, float* r);
 int ork_cPackI(int n, const float* a, int32_t stride, float* y);
 int ork_cPackM(int n, const float* a, const int32_t* mask, float* y);
 int ork_cPackV(int n, const float* a, const int32_t* index, float* y);
+int ork_cPow(int n, const float* a, const float* b, float* r);
+int ork_cPowx(int n, const float* a, ork_c b, float* r);
+int ork_cSin(int n, const float* a, float* r);
+int ork_cSinh(int n, const float* a, float* r);
+int ork_cSqrt(int n, const float* a, float* r);
+int ork_cSub(int n, const float* a, const float* b, float* r);
+int ork_cTan(int n, const float* a, float* r);
+int ork_cTanh(int n, const float* a, float* r);
 int ork_cUnpackI(int n, const float* a, float* y, int32_t stride);
 int ork_cUnpackM(int n, const float* a, float* y, const int32_t* mask);
 int ork_cUnpackV(int n, const float* a, float* y, const int32_t* index);
+int ork_zAbs(int n, const double* a, double* r);
+int ork_zAcos(int n, const double* a, double* r);
+int ork_zAcosh(int n, const double* a, double* r);
+int ork_zAdd(int n, const double* a, const double* b, double* r);
+int ork_zArg(int n, const double* a, double* r);
+int ork_zAsin(int n, const double* a, double* r);
+int ork_zAsinh(int n, const double* a, double* r);
+int ork_zAtan(int n, const double* a, double* r);
+int ork_zAtanh(int n, const double* a, double* r);
+int ork_zCIS(int n, const double* a, double* r);
+int ork_zConj(int n, const double* a, double* r);
+int ork_zCos(int n, const double* a, double* r);
+int ork_zCosh(int n, const double* a, double* r);
+int ork_zDiv(int n, const double* a, const double* b, double* r);
+int ork_zExp(int n, const double* a, double* r);
+int ork_zLn(int n, const double* a, double* r);
+int ork_zLog10(int n, const double* a, double* r);
+int ork_zMul(int n, const double* a, const double* b, double* r);
+int ork_zMulByConj(int n, const double* a, const double* b, double* r);
 int ork_zPackI(int n, const double* a, int32_t stride, double* y);
 int ork_zPackM(int n, const double* a, const int32_t* mask, double* y);
 int ork_zPackV(int n, const double* a, const int32_t* index, double* y);
+int ork_zPow(int n, const double* a, const double* b, double* r);
+int ork_zPowx(int n, const double* a, ork_z b, double* r);
+int ork_zSin(int n, const double* a, double* r);
+int ork_zSinh(int n, const double* a, double* r);
+int ork_zSqrt(int n, const double* a, double* r);
+int ork_zSub(int n, const double* a, const double* b, double* r);
+int ork_zTan(int n, const double* a, double* r);
+int ork_zTanh(int n, const double* a, double* r);
 int ork_zUnpackI(int n, const double* a, double* y, int32_t stride);
 int ork_zUnpackM(int n, const double* a, double* y, const int32_t* mask);
 int ork_zUnpackV(int n, const double* a, double* y, const int32_t* index);

@@ -12,6 +12,15 @@
 extern "C" {
 #endif
 
+/* One complex number, where one is passed by value. On the stack it lies as std::complex and
+ * _Complex do. */
+typedef struct ork_c {
+  float re, im;
+} ork_c;
+typedef struct ork_z {
+  double re, im;
+} ork_z;
+
 /* ---- Mode word --------------------------------------------------------------------------
  *
  * Four fields. A thread's word comes into being at its first use, from the environment

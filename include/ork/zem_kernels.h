@@ -12,11 +12,16 @@
  * an input array itself; arrays that overlap in part are not supported. Kernels have no result:
  * special elements are reported through the error dispatch of zem.h. Every kernel leaves
  * MXCSR and the x87 control word as it found them, and runs in round-to-nearest but for Rint
- * and NearbyInt. Complex elements are pairs, real part first.
+ * and NearbyInt.
+ *
+ * Complex elements (c, z) are pairs of float or double, real part first, and n counts pairs. So
+ * do std::complex in C++ and _Complex in C lie in memory: their arrays may be passed as they are,
+ * with a cast of the pointer. Abs and Arg of c and z write one real number for an element, CIS
+ * (cos x + i sin x) reads one.
  *
  * Forms: (n, a, r); (n, a, b, r), with b one value in Powx; SinCos and Modf (n, a, r, r2): sine
  * and cosine, integer part and fraction; LinearFrac:
- * r = (scale_a * a + shift_a) / (scale_b * b + shift_b).
+ * r = (scale_a * a + shift_a) / (scale_b * b + shift_b). MulByConj is a times the conjugate of b.
  * Pack gathers, unpack scatters, by stride (I), mask (M) or index (V). With width = 1 the count
  * is n_low and strides, masks and indices are 32 bits wide; otherwise all are 64 bits wide.
  * The stubs of pack and unpack set width to 1 whatever was passed. */
@@ -51,15 +56,25 @@ typedef void (*ork_s_scalar)(int n, const float* a, float b, float* r);
 typedef void (*ork_s_unpack_i)(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
 typedef void (*ork_s_unpack_m)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
 typedef void (*ork_s_unpack_v)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+typedef void (*ork_c_to_real)(int n, const float* a, float* r);
+typedef void (*ork_c_unary)(int n, const float* a, float* r);
+typedef void (*ork_c_binary)(int n, const float* a, const float* b, float* r);
+typedef void (*ork_c_from_real)(int n, const float* a, float* r);
 typedef void (*ork_c_pack_i)(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
 typedef void (*ork_c_pack_m)(int32_t n_low, int32_t n_high, const float* a, const void* mask, float* y, int width);
 typedef void (*ork_c_pack_v)(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+typedef void (*ork_c_scalar)(int n, const float* a, ork_c b, float* r);
 typedef void (*ork_c_unpack_i)(int32_t n_low, int32_t n_high, const float* a, float* y, int32_t stride_low, int32_t stride_high, int width);
 typedef void (*ork_c_unpack_m)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* mask, int width);
 typedef void (*ork_c_unpack_v)(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
+typedef void (*ork_z_to_real)(int n, const double* a, double* r);
+typedef void (*ork_z_unary)(int n, const double* a, double* r);
+typedef void (*ork_z_binary)(int n, const double* a, const double* b, double* r);
+typedef void (*ork_z_from_real)(int n, const double* a, double* r);
 typedef void (*ork_z_pack_i)(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
 typedef void (*ork_z_pack_m)(int32_t n_low, int32_t n_high, const double* a, const void* mask, double* y, int width);
 typedef void (*ork_z_pack_v)(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+typedef void (*ork_z_scalar)(int n, const double* a, ork_z b, double* r);
 typedef void (*ork_z_unpack_i)(int32_t n_low, int32_t n_high, const double* a, double* y, int32_t stride_low, int32_t stride_high, int width);
 typedef void (*ork_z_unpack_m)(int32_t n_low, int32_t n_high, const double* a, double* y, const void* mask, int width);
 typedef void (*ork_z_unpack_v)(int32_t n_low, int32_t n_high, const double* a, double* y, const void* index, int width);
@@ -1098,6 +1113,171 @@ void _zemsUnpackV_HA(int32_t n_low, int32_t n_high, const float* a, float* y, co
 void _zemsUnpackV(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
 void _zemsUnpackV_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
 
+extern const ork_c_to_real ork_zem_kernel_cAbs_ttab[3];
+extern const float ork_zem_kernel_cAbs_ctab[3];
+void ork_zem_kernel_cAbs_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cAbs_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cAbs_V8EPnnn(int n, const float* a, float* r);
+void _zemcAbs_21(int n, const float* a, float* r);
+void _zemcAbs_HA(int n, const float* a, float* r);
+void _zemcAbs(int n, const float* a, float* r);
+void _zemcAbs_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cAcos_ttab[3];
+extern const float ork_zem_kernel_cAcos_ctab[3];
+void ork_zem_kernel_cAcos_PXHAynn(int n, const float* a, float* r);
+void _zemcAcos_21(int n, const float* a, float* r);
+void _zemcAcos_HA(int n, const float* a, float* r);
+void _zemcAcos(int n, const float* a, float* r);
+void _zemcAcos_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cAcosh_ttab[3];
+extern const float ork_zem_kernel_cAcosh_ctab[3];
+void ork_zem_kernel_cAcosh_PXHAynn(int n, const float* a, float* r);
+void _zemcAcosh_21(int n, const float* a, float* r);
+void _zemcAcosh_HA(int n, const float* a, float* r);
+void _zemcAcosh(int n, const float* a, float* r);
+void _zemcAcosh_11(int n, const float* a, float* r);
+
+extern const ork_c_binary ork_zem_kernel_cAdd_ttab[3];
+extern const float ork_zem_kernel_cAdd_ctab[3];
+void ork_zem_kernel_cAdd_V8HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_cAdd_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemcAdd_21(int n, const float* a, const float* b, float* r);
+void _zemcAdd_HA(int n, const float* a, const float* b, float* r);
+void _zemcAdd(int n, const float* a, const float* b, float* r);
+void _zemcAdd_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_c_to_real ork_zem_kernel_cArg_ttab[3];
+extern const float ork_zem_kernel_cArg_ctab[3];
+void ork_zem_kernel_cArg_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cArg_V8HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cArg_V8EPnnn(int n, const float* a, float* r);
+void _zemcArg_21(int n, const float* a, float* r);
+void _zemcArg_HA(int n, const float* a, float* r);
+void _zemcArg(int n, const float* a, float* r);
+void _zemcArg_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cAsin_ttab[3];
+extern const float ork_zem_kernel_cAsin_ctab[3];
+void ork_zem_kernel_cAsin_PXHAynn(int n, const float* a, float* r);
+void _zemcAsin_21(int n, const float* a, float* r);
+void _zemcAsin_HA(int n, const float* a, float* r);
+void _zemcAsin(int n, const float* a, float* r);
+void _zemcAsin_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cAsinh_ttab[3];
+extern const float ork_zem_kernel_cAsinh_ctab[3];
+void ork_zem_kernel_cAsinh_PXHAynn(int n, const float* a, float* r);
+void _zemcAsinh_21(int n, const float* a, float* r);
+void _zemcAsinh_HA(int n, const float* a, float* r);
+void _zemcAsinh(int n, const float* a, float* r);
+void _zemcAsinh_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cAtan_ttab[3];
+extern const float ork_zem_kernel_cAtan_ctab[3];
+void ork_zem_kernel_cAtan_PXHAynn(int n, const float* a, float* r);
+void _zemcAtan_21(int n, const float* a, float* r);
+void _zemcAtan_HA(int n, const float* a, float* r);
+void _zemcAtan(int n, const float* a, float* r);
+void _zemcAtan_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cAtanh_ttab[3];
+extern const float ork_zem_kernel_cAtanh_ctab[3];
+void ork_zem_kernel_cAtanh_PXHAynn(int n, const float* a, float* r);
+void _zemcAtanh_21(int n, const float* a, float* r);
+void _zemcAtanh_HA(int n, const float* a, float* r);
+void _zemcAtanh(int n, const float* a, float* r);
+void _zemcAtanh_11(int n, const float* a, float* r);
+
+extern const ork_c_from_real ork_zem_kernel_cCIS_ttab[3];
+extern const float ork_zem_kernel_cCIS_ctab[3];
+void ork_zem_kernel_cCIS_V8LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cCIS_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cCIS_V8EPnnn(int n, const float* a, float* r);
+void _zemcCIS_21(int n, const float* a, float* r);
+void _zemcCIS_HA(int n, const float* a, float* r);
+void _zemcCIS(int n, const float* a, float* r);
+void _zemcCIS_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cConj_ttab[3];
+extern const float ork_zem_kernel_cConj_ctab[3];
+void ork_zem_kernel_cConj_W7HAynn(int n, const float* a, float* r);
+void _zemcConj_21(int n, const float* a, float* r);
+void _zemcConj_HA(int n, const float* a, float* r);
+void _zemcConj(int n, const float* a, float* r);
+void _zemcConj_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cCos_ttab[3];
+extern const float ork_zem_kernel_cCos_ctab[3];
+void ork_zem_kernel_cCos_PXHAynn(int n, const float* a, float* r);
+void _zemcCos_21(int n, const float* a, float* r);
+void _zemcCos_HA(int n, const float* a, float* r);
+void _zemcCos(int n, const float* a, float* r);
+void _zemcCos_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cCosh_ttab[3];
+extern const float ork_zem_kernel_cCosh_ctab[3];
+void ork_zem_kernel_cCosh_PXHAynn(int n, const float* a, float* r);
+void _zemcCosh_21(int n, const float* a, float* r);
+void _zemcCosh_HA(int n, const float* a, float* r);
+void _zemcCosh(int n, const float* a, float* r);
+void _zemcCosh_11(int n, const float* a, float* r);
+
+extern const ork_c_binary ork_zem_kernel_cDiv_ttab[3];
+extern const float ork_zem_kernel_cDiv_ctab[3];
+void ork_zem_kernel_cDiv_V8HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_cDiv_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemcDiv_21(int n, const float* a, const float* b, float* r);
+void _zemcDiv_HA(int n, const float* a, const float* b, float* r);
+void _zemcDiv(int n, const float* a, const float* b, float* r);
+void _zemcDiv_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cExp_ttab[3];
+extern const float ork_zem_kernel_cExp_ctab[3];
+void ork_zem_kernel_cExp_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cExp_W7HAynn(int n, const float* a, float* r);
+void _zemcExp_21(int n, const float* a, float* r);
+void _zemcExp_HA(int n, const float* a, float* r);
+void _zemcExp(int n, const float* a, float* r);
+void _zemcExp_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cLn_ttab[3];
+extern const float ork_zem_kernel_cLn_ctab[3];
+void ork_zem_kernel_cLn_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cLn_W7HAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cLn_W7EPnnn(int n, const float* a, float* r);
+void _zemcLn_21(int n, const float* a, float* r);
+void _zemcLn_HA(int n, const float* a, float* r);
+void _zemcLn(int n, const float* a, float* r);
+void _zemcLn_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cLog10_ttab[3];
+extern const float ork_zem_kernel_cLog10_ctab[3];
+void ork_zem_kernel_cLog10_PXHAynn(int n, const float* a, float* r);
+void _zemcLog10_21(int n, const float* a, float* r);
+void _zemcLog10_HA(int n, const float* a, float* r);
+void _zemcLog10(int n, const float* a, float* r);
+void _zemcLog10_11(int n, const float* a, float* r);
+
+extern const ork_c_binary ork_zem_kernel_cMul_ttab[3];
+extern const float ork_zem_kernel_cMul_ctab[3];
+void ork_zem_kernel_cMul_V8HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_cMul_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemcMul_21(int n, const float* a, const float* b, float* r);
+void _zemcMul_HA(int n, const float* a, const float* b, float* r);
+void _zemcMul(int n, const float* a, const float* b, float* r);
+void _zemcMul_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_c_binary ork_zem_kernel_cMulByConj_ttab[3];
+extern const float ork_zem_kernel_cMulByConj_ctab[3];
+void ork_zem_kernel_cMulByConj_V8HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_cMulByConj_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemcMulByConj_21(int n, const float* a, const float* b, float* r);
+void _zemcMulByConj_HA(int n, const float* a, const float* b, float* r);
+void _zemcMulByConj(int n, const float* a, const float* b, float* r);
+void _zemcMulByConj_11(int n, const float* a, const float* b, float* r);
+
 extern const ork_c_pack_i ork_zem_kernel_cPackI_ttab[3];
 extern const float ork_zem_kernel_cPackI_ctab[3];
 void ork_zem_kernel_cPackI_PXHAynn(int32_t n_low, int32_t n_high, const float* a, int32_t stride_low, int32_t stride_high, float* y, int width);
@@ -1121,6 +1301,72 @@ void _zemcPackV_21(int32_t n_low, int32_t n_high, const float* a, const void* in
 void _zemcPackV_HA(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
 void _zemcPackV(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
 void _zemcPackV_11(int32_t n_low, int32_t n_high, const float* a, const void* index, float* y, int width);
+
+extern const ork_c_binary ork_zem_kernel_cPow_ttab[3];
+extern const float ork_zem_kernel_cPow_ctab[3];
+void ork_zem_kernel_cPow_PXHAynn(int n, const float* a, const float* b, float* r);
+void _zemcPow_21(int n, const float* a, const float* b, float* r);
+void _zemcPow_HA(int n, const float* a, const float* b, float* r);
+void _zemcPow(int n, const float* a, const float* b, float* r);
+void _zemcPow_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_c_scalar ork_zem_kernel_cPowx_ttab[3];
+extern const float ork_zem_kernel_cPowx_ctab[3];
+void ork_zem_kernel_cPowx_PXHAynn(int n, const float* a, ork_c b, float* r);
+void _zemcPowx_21(int n, const float* a, ork_c b, float* r);
+void _zemcPowx_HA(int n, const float* a, ork_c b, float* r);
+void _zemcPowx(int n, const float* a, ork_c b, float* r);
+void _zemcPowx_11(int n, const float* a, ork_c b, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cSin_ttab[3];
+extern const float ork_zem_kernel_cSin_ctab[3];
+void ork_zem_kernel_cSin_PXHAynn(int n, const float* a, float* r);
+void _zemcSin_21(int n, const float* a, float* r);
+void _zemcSin_HA(int n, const float* a, float* r);
+void _zemcSin(int n, const float* a, float* r);
+void _zemcSin_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cSinh_ttab[3];
+extern const float ork_zem_kernel_cSinh_ctab[3];
+void ork_zem_kernel_cSinh_PXHAynn(int n, const float* a, float* r);
+void _zemcSinh_21(int n, const float* a, float* r);
+void _zemcSinh_HA(int n, const float* a, float* r);
+void _zemcSinh(int n, const float* a, float* r);
+void _zemcSinh_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cSqrt_ttab[3];
+extern const float ork_zem_kernel_cSqrt_ctab[3];
+void ork_zem_kernel_cSqrt_W7LAynn(int n, const float* a, float* r);
+void ork_zem_kernel_cSqrt_W7HAynn(int n, const float* a, float* r);
+void _zemcSqrt_21(int n, const float* a, float* r);
+void _zemcSqrt_HA(int n, const float* a, float* r);
+void _zemcSqrt(int n, const float* a, float* r);
+void _zemcSqrt_11(int n, const float* a, float* r);
+
+extern const ork_c_binary ork_zem_kernel_cSub_ttab[3];
+extern const float ork_zem_kernel_cSub_ctab[3];
+void ork_zem_kernel_cSub_V8HAynn(int n, const float* a, const float* b, float* r);
+void ork_zem_kernel_cSub_V8EPnnn(int n, const float* a, const float* b, float* r);
+void _zemcSub_21(int n, const float* a, const float* b, float* r);
+void _zemcSub_HA(int n, const float* a, const float* b, float* r);
+void _zemcSub(int n, const float* a, const float* b, float* r);
+void _zemcSub_11(int n, const float* a, const float* b, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cTan_ttab[3];
+extern const float ork_zem_kernel_cTan_ctab[3];
+void ork_zem_kernel_cTan_PXHAynn(int n, const float* a, float* r);
+void _zemcTan_21(int n, const float* a, float* r);
+void _zemcTan_HA(int n, const float* a, float* r);
+void _zemcTan(int n, const float* a, float* r);
+void _zemcTan_11(int n, const float* a, float* r);
+
+extern const ork_c_unary ork_zem_kernel_cTanh_ttab[3];
+extern const float ork_zem_kernel_cTanh_ctab[3];
+void ork_zem_kernel_cTanh_PXHAynn(int n, const float* a, float* r);
+void _zemcTanh_21(int n, const float* a, float* r);
+void _zemcTanh_HA(int n, const float* a, float* r);
+void _zemcTanh(int n, const float* a, float* r);
+void _zemcTanh_11(int n, const float* a, float* r);
 
 extern const ork_c_unpack_i ork_zem_kernel_cUnpackI_ttab[3];
 extern const float ork_zem_kernel_cUnpackI_ctab[3];
@@ -1146,6 +1392,171 @@ void _zemcUnpackV_HA(int32_t n_low, int32_t n_high, const float* a, float* y, co
 void _zemcUnpackV(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
 void _zemcUnpackV_11(int32_t n_low, int32_t n_high, const float* a, float* y, const void* index, int width);
 
+extern const ork_z_to_real ork_zem_kernel_zAbs_ttab[3];
+extern const float ork_zem_kernel_zAbs_ctab[3];
+void ork_zem_kernel_zAbs_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zAbs_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zAbs_V8EPnnn(int n, const double* a, double* r);
+void _zemzAbs_50(int n, const double* a, double* r);
+void _zemzAbs_HA(int n, const double* a, double* r);
+void _zemzAbs(int n, const double* a, double* r);
+void _zemzAbs_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zAcos_ttab[3];
+extern const float ork_zem_kernel_zAcos_ctab[3];
+void ork_zem_kernel_zAcos_PXHAynn(int n, const double* a, double* r);
+void _zemzAcos_50(int n, const double* a, double* r);
+void _zemzAcos_HA(int n, const double* a, double* r);
+void _zemzAcos(int n, const double* a, double* r);
+void _zemzAcos_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zAcosh_ttab[3];
+extern const float ork_zem_kernel_zAcosh_ctab[3];
+void ork_zem_kernel_zAcosh_PXHAynn(int n, const double* a, double* r);
+void _zemzAcosh_50(int n, const double* a, double* r);
+void _zemzAcosh_HA(int n, const double* a, double* r);
+void _zemzAcosh(int n, const double* a, double* r);
+void _zemzAcosh_26(int n, const double* a, double* r);
+
+extern const ork_z_binary ork_zem_kernel_zAdd_ttab[3];
+extern const float ork_zem_kernel_zAdd_ctab[3];
+void ork_zem_kernel_zAdd_V8HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_zAdd_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemzAdd_50(int n, const double* a, const double* b, double* r);
+void _zemzAdd_HA(int n, const double* a, const double* b, double* r);
+void _zemzAdd(int n, const double* a, const double* b, double* r);
+void _zemzAdd_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_z_to_real ork_zem_kernel_zArg_ttab[3];
+extern const float ork_zem_kernel_zArg_ctab[3];
+void ork_zem_kernel_zArg_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zArg_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zArg_V8EPnnn(int n, const double* a, double* r);
+void _zemzArg_50(int n, const double* a, double* r);
+void _zemzArg_HA(int n, const double* a, double* r);
+void _zemzArg(int n, const double* a, double* r);
+void _zemzArg_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zAsin_ttab[3];
+extern const float ork_zem_kernel_zAsin_ctab[3];
+void ork_zem_kernel_zAsin_PXHAynn(int n, const double* a, double* r);
+void _zemzAsin_50(int n, const double* a, double* r);
+void _zemzAsin_HA(int n, const double* a, double* r);
+void _zemzAsin(int n, const double* a, double* r);
+void _zemzAsin_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zAsinh_ttab[3];
+extern const float ork_zem_kernel_zAsinh_ctab[3];
+void ork_zem_kernel_zAsinh_PXHAynn(int n, const double* a, double* r);
+void _zemzAsinh_50(int n, const double* a, double* r);
+void _zemzAsinh_HA(int n, const double* a, double* r);
+void _zemzAsinh(int n, const double* a, double* r);
+void _zemzAsinh_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zAtan_ttab[3];
+extern const float ork_zem_kernel_zAtan_ctab[3];
+void ork_zem_kernel_zAtan_PXHAynn(int n, const double* a, double* r);
+void _zemzAtan_50(int n, const double* a, double* r);
+void _zemzAtan_HA(int n, const double* a, double* r);
+void _zemzAtan(int n, const double* a, double* r);
+void _zemzAtan_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zAtanh_ttab[3];
+extern const float ork_zem_kernel_zAtanh_ctab[3];
+void ork_zem_kernel_zAtanh_PXHAynn(int n, const double* a, double* r);
+void _zemzAtanh_50(int n, const double* a, double* r);
+void _zemzAtanh_HA(int n, const double* a, double* r);
+void _zemzAtanh(int n, const double* a, double* r);
+void _zemzAtanh_26(int n, const double* a, double* r);
+
+extern const ork_z_from_real ork_zem_kernel_zCIS_ttab[3];
+extern const float ork_zem_kernel_zCIS_ctab[3];
+void ork_zem_kernel_zCIS_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zCIS_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zCIS_V8EPnnn(int n, const double* a, double* r);
+void _zemzCIS_50(int n, const double* a, double* r);
+void _zemzCIS_HA(int n, const double* a, double* r);
+void _zemzCIS(int n, const double* a, double* r);
+void _zemzCIS_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zConj_ttab[3];
+extern const float ork_zem_kernel_zConj_ctab[3];
+void ork_zem_kernel_zConj_W7HAynn(int n, const double* a, double* r);
+void _zemzConj_50(int n, const double* a, double* r);
+void _zemzConj_HA(int n, const double* a, double* r);
+void _zemzConj(int n, const double* a, double* r);
+void _zemzConj_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zCos_ttab[3];
+extern const float ork_zem_kernel_zCos_ctab[3];
+void ork_zem_kernel_zCos_PXHAynn(int n, const double* a, double* r);
+void _zemzCos_50(int n, const double* a, double* r);
+void _zemzCos_HA(int n, const double* a, double* r);
+void _zemzCos(int n, const double* a, double* r);
+void _zemzCos_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zCosh_ttab[3];
+extern const float ork_zem_kernel_zCosh_ctab[3];
+void ork_zem_kernel_zCosh_PXHAynn(int n, const double* a, double* r);
+void _zemzCosh_50(int n, const double* a, double* r);
+void _zemzCosh_HA(int n, const double* a, double* r);
+void _zemzCosh(int n, const double* a, double* r);
+void _zemzCosh_26(int n, const double* a, double* r);
+
+extern const ork_z_binary ork_zem_kernel_zDiv_ttab[3];
+extern const float ork_zem_kernel_zDiv_ctab[3];
+void ork_zem_kernel_zDiv_V8HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_zDiv_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemzDiv_50(int n, const double* a, const double* b, double* r);
+void _zemzDiv_HA(int n, const double* a, const double* b, double* r);
+void _zemzDiv(int n, const double* a, const double* b, double* r);
+void _zemzDiv_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zExp_ttab[3];
+extern const float ork_zem_kernel_zExp_ctab[3];
+void ork_zem_kernel_zExp_V8LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zExp_W7HAynn(int n, const double* a, double* r);
+void _zemzExp_50(int n, const double* a, double* r);
+void _zemzExp_HA(int n, const double* a, double* r);
+void _zemzExp(int n, const double* a, double* r);
+void _zemzExp_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zLn_ttab[3];
+extern const float ork_zem_kernel_zLn_ctab[3];
+void ork_zem_kernel_zLn_W7LAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zLn_V8HAynn(int n, const double* a, double* r);
+void ork_zem_kernel_zLn_W7EPnnn(int n, const double* a, double* r);
+void _zemzLn_50(int n, const double* a, double* r);
+void _zemzLn_HA(int n, const double* a, double* r);
+void _zemzLn(int n, const double* a, double* r);
+void _zemzLn_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zLog10_ttab[3];
+extern const float ork_zem_kernel_zLog10_ctab[3];
+void ork_zem_kernel_zLog10_PXHAynn(int n, const double* a, double* r);
+void _zemzLog10_50(int n, const double* a, double* r);
+void _zemzLog10_HA(int n, const double* a, double* r);
+void _zemzLog10(int n, const double* a, double* r);
+void _zemzLog10_26(int n, const double* a, double* r);
+
+extern const ork_z_binary ork_zem_kernel_zMul_ttab[3];
+extern const float ork_zem_kernel_zMul_ctab[3];
+void ork_zem_kernel_zMul_V8HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_zMul_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemzMul_50(int n, const double* a, const double* b, double* r);
+void _zemzMul_HA(int n, const double* a, const double* b, double* r);
+void _zemzMul(int n, const double* a, const double* b, double* r);
+void _zemzMul_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_z_binary ork_zem_kernel_zMulByConj_ttab[3];
+extern const float ork_zem_kernel_zMulByConj_ctab[3];
+void ork_zem_kernel_zMulByConj_V8HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_zMulByConj_W7EPnnn(int n, const double* a, const double* b, double* r);
+void _zemzMulByConj_50(int n, const double* a, const double* b, double* r);
+void _zemzMulByConj_HA(int n, const double* a, const double* b, double* r);
+void _zemzMulByConj(int n, const double* a, const double* b, double* r);
+void _zemzMulByConj_26(int n, const double* a, const double* b, double* r);
+
 extern const ork_z_pack_i ork_zem_kernel_zPackI_ttab[3];
 extern const float ork_zem_kernel_zPackI_ctab[3];
 void ork_zem_kernel_zPackI_PXHAynn(int32_t n_low, int32_t n_high, const double* a, int32_t stride_low, int32_t stride_high, double* y, int width);
@@ -1169,6 +1580,71 @@ void _zemzPackV_50(int32_t n_low, int32_t n_high, const double* a, const void* i
 void _zemzPackV_HA(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
 void _zemzPackV(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
 void _zemzPackV_26(int32_t n_low, int32_t n_high, const double* a, const void* index, double* y, int width);
+
+extern const ork_z_binary ork_zem_kernel_zPow_ttab[3];
+extern const float ork_zem_kernel_zPow_ctab[3];
+void ork_zem_kernel_zPow_PXHAynn(int n, const double* a, const double* b, double* r);
+void _zemzPow_50(int n, const double* a, const double* b, double* r);
+void _zemzPow_HA(int n, const double* a, const double* b, double* r);
+void _zemzPow(int n, const double* a, const double* b, double* r);
+void _zemzPow_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_z_scalar ork_zem_kernel_zPowx_ttab[3];
+extern const float ork_zem_kernel_zPowx_ctab[3];
+void ork_zem_kernel_zPowx_PXHAynn(int n, const double* a, ork_z b, double* r);
+void _zemzPowx_50(int n, const double* a, ork_z b, double* r);
+void _zemzPowx_HA(int n, const double* a, ork_z b, double* r);
+void _zemzPowx(int n, const double* a, ork_z b, double* r);
+void _zemzPowx_26(int n, const double* a, ork_z b, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zSin_ttab[3];
+extern const float ork_zem_kernel_zSin_ctab[3];
+void ork_zem_kernel_zSin_PXHAynn(int n, const double* a, double* r);
+void _zemzSin_50(int n, const double* a, double* r);
+void _zemzSin_HA(int n, const double* a, double* r);
+void _zemzSin(int n, const double* a, double* r);
+void _zemzSin_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zSinh_ttab[3];
+extern const float ork_zem_kernel_zSinh_ctab[3];
+void ork_zem_kernel_zSinh_PXHAynn(int n, const double* a, double* r);
+void _zemzSinh_50(int n, const double* a, double* r);
+void _zemzSinh_HA(int n, const double* a, double* r);
+void _zemzSinh(int n, const double* a, double* r);
+void _zemzSinh_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zSqrt_ttab[3];
+extern const float ork_zem_kernel_zSqrt_ctab[3];
+void ork_zem_kernel_zSqrt_V8HAynn(int n, const double* a, double* r);
+void _zemzSqrt_50(int n, const double* a, double* r);
+void _zemzSqrt_HA(int n, const double* a, double* r);
+void _zemzSqrt(int n, const double* a, double* r);
+void _zemzSqrt_26(int n, const double* a, double* r);
+
+extern const ork_z_binary ork_zem_kernel_zSub_ttab[3];
+extern const float ork_zem_kernel_zSub_ctab[3];
+void ork_zem_kernel_zSub_V8HAynn(int n, const double* a, const double* b, double* r);
+void ork_zem_kernel_zSub_V8EPnnn(int n, const double* a, const double* b, double* r);
+void _zemzSub_50(int n, const double* a, const double* b, double* r);
+void _zemzSub_HA(int n, const double* a, const double* b, double* r);
+void _zemzSub(int n, const double* a, const double* b, double* r);
+void _zemzSub_26(int n, const double* a, const double* b, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zTan_ttab[3];
+extern const float ork_zem_kernel_zTan_ctab[3];
+void ork_zem_kernel_zTan_PXHAynn(int n, const double* a, double* r);
+void _zemzTan_50(int n, const double* a, double* r);
+void _zemzTan_HA(int n, const double* a, double* r);
+void _zemzTan(int n, const double* a, double* r);
+void _zemzTan_26(int n, const double* a, double* r);
+
+extern const ork_z_unary ork_zem_kernel_zTanh_ttab[3];
+extern const float ork_zem_kernel_zTanh_ctab[3];
+void ork_zem_kernel_zTanh_PXHAynn(int n, const double* a, double* r);
+void _zemzTanh_50(int n, const double* a, double* r);
+void _zemzTanh_HA(int n, const double* a, double* r);
+void _zemzTanh(int n, const double* a, double* r);
+void _zemzTanh_26(int n, const double* a, double* r);
 
 extern const ork_z_unpack_i ork_zem_kernel_zUnpackI_ttab[3];
 extern const float ork_zem_kernel_zUnpackI_ctab[3];

@@ -36,6 +36,8 @@ bool is_null(T value) {
     return false;
 }
 
+// The argument for a slice that begins `by` numbers into its array; an argument of the whole
+// call stays.
 template <class T>
 T advanced(T value, int by) {
   if constexpr (std::is_pointer_v<T>)
@@ -57,20 +59,23 @@ A first(A a, Rest...) {
   return a;
 }
 
-// A function whose arrays all step by one element of their type: `divisible`; others run whole.
-template <bool divisible, class... A>
+// steps: numbers per element in each argument's array (2 for complex ones), 0 for an argument
+// that is no array.
+template <int... steps, class... A>
 int call(const char* name, void (*const* table)(int, A...), const float* costs, int n,
          std::type_identity_t<A>... arguments) {
   if (const int status = check(name, n, arguments...); status != 0 || n == 0) return status;
   const int level = slot();
   const auto kernel = table[level];
-  const auto run = [&](int begin, int count) { kernel(count, advanced(arguments, begin)...); };
+  const auto run = [&](int begin, int count) {
+    kernel(count, advanced(arguments, begin * steps)...);
+  };
   const Bound bound = {&run,
                        [](const void* call, int begin, int count) {
                          (*static_cast<decltype(run)*>(call))(begin, count);
                        },
                        first(arguments...)};
-  return divisible ? run_divided(bound, n, costs[level]) : run_whole(bound, n);
+  return run_divided(bound, n, costs[level]);
 }
 
 }  // namespace ork::front

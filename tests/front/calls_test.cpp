@@ -44,8 +44,8 @@ TYPED_TEST(BadArguments, AreReportedAndNothingIsWritten) {
   // A pointer left from a caller's own slicing must not shift the argument's number.
   for_each_function<T>([&](const Slot& row, const Call<T>& front) {
     const std::string name = std::string("v") + row.type + row.function;
-    const T a[4] = {0.5, 0.5, 0.5, 0.5};
-    T r[4] = {7, 7, 7, 7}, r2[4] = {8, 8, 8, 8};
+    T a[8], r[8], r2[8];  // complex functions take pairs
+    for (int i = 0; i < 8; ++i) a[i] = 0.5, r[i] = 7, r2[i] = 8;
     for (const int n : {-1, INT32_MIN}) {
       ork_zem_kernel_SetInterfInputVectorPointer(a);
       front(n, a, a, r, r2);
@@ -65,7 +65,7 @@ TYPED_TEST(BadArguments, AreReportedAndNothingIsWritten) {
       front(4, a, a, r, nullptr);
       this->expect_rejected(-2, name, "r2");
     }
-    for (int i = 0; i < 4; ++i) EXPECT_TRUE(r[i] == 7 && r2[i] == 8) << name;
+    for (int i = 0; i < 8; ++i) EXPECT_TRUE(r[i] == 7 && r2[i] == 8) << name;
     front(0, nullptr, a, nullptr, nullptr);
     EXPECT_EQ(events, 0) << name << ": n = 0 is fine";
   });

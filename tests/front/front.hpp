@@ -43,14 +43,12 @@ struct FrontSlot {
   FrontSlot(const FrontSlot&) = delete;
 };
 
-template <class T>
-constexpr char type_letter = sizeof(T) == 8 ? 'd' : 's';
-
-// Every row of a type with an elementwise form.
+// Every row with an elementwise form, real or complex, of arrays of T.
 template <class T, class F>
 void for_each_function(F f) {
   for (const Slot& row : slots) {
-    if (row.type != type_letter<T> || row.form >= Form::pack_i) continue;
+    const bool wide = row.type == 'd' || row.type == 'z';
+    if (wide != (sizeof(T) == 8) || row.form >= Form::pack_i || !row.exists(0)) continue;
     const FrontSlot front(row);
     ASSERT_NE(front.functions[0], nullptr) << row.type << row.function;
     f(row, Call<T>{&front.slot, 1});

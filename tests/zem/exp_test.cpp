@@ -101,7 +101,7 @@ TEST(Exp, FlushedToZero) {
   const StateGuard guard;
   ork_zem_kernel_SetMode(ORK_ZEM_ERRMODE_IGNORE | ORK_ZEM_DENORMAL_ZERO);
   for (const Slot& slot : slots) {
-    if (std::string(slot.function) != "Exp") continue;
+    if (std::string(slot.function) != "Exp" || (slot.type != 'd' && slot.type != 's')) continue;
     for (int level = 0; level < 3; ++level) {
       if (slot.type == 'd') {
         const double x[2] = {-710, smallest_denormal<double>};

@@ -13,6 +13,8 @@ enum class Form {
   scalar,
   two,
   linear,
+  to_real,    // complex in, real out
+  from_real,  // the reverse
   pack_i,
   pack_m,
   pack_v,
@@ -37,18 +39,24 @@ struct Slot {
 extern const std::vector<Slot> slots;
 
 // A kernel with the arguments that its form takes out of these. Powx takes b[0]; LinearFrac
-// scales and shifts that keep its denominator away from 0.
+// scales and shifts that keep its denominator away from 0. Complex elements are pairs of T.
 template <class T>
 struct Call {
   const Slot* slot;
   int level;
 
+  bool complex() const { return slot->type == 'c' || slot->type == 'z'; }
   int inputs() const { return slot->form == Form::binary || slot->form == Form::linear ? 2 : 1; }
   int outputs() const { return slot->form == Form::two ? 2 : 1; }
+  // Numbers in an element.
+  int in_parts() const { return complex() && slot->form != Form::from_real ? 2 : 1; }
+  int out_parts() const { return complex() && slot->form != Form::to_real ? 2 : 1; }
   void operator()(int n, const T* a, const T* b, T* r, T* r2) const;
 };
 
-// Every existing kernel of an element type with an elementwise form (pack and unpack apart),
-// each once.
+// Every existing kernel of a real type with an elementwise form (pack and unpack apart), each
+// once; and those of the complex type of these parts.
 template <class T>
 std::vector<Call<T>> elementwise_kernels();
+template <class T>
+std::vector<Call<T>> complex_kernels();

@@ -8,16 +8,19 @@ made_by = f"Generated from {source} by ./dev tables slots; edit that."
 
 Row = collections.namedtuple("Row", "type function form kernels costs")
 element = {"s": "float", "d": "double", "c": "float", "z": "double"}
+value = {"s": "float", "d": "double", "c": "ork_c", "z": "ork_z"}  # one element by value
 level_name = ["LA", "HA", "EP"]
 suffix = {"d": ("_50", "_26"), "z": ("_50", "_26"), "s": ("_21", "_11"), "c": ("_21", "_11")}
 
-# Parameters of a kernel by form; E is the element type. Pack and unpack also say which
+# Parameters of a kernel by form; E is the type of an element's parts, V an element. Pack and unpack also say which
 # argument is the width flag that their stubs force to 1, counted from 1.
 parameters = {
     "unary": "int n, const E* a, E* r",
     "binary": "int n, const E* a, const E* b, E* r",
-    "scalar": "int n, const E* a, E b, E* r",
+    "scalar": "int n, const E* a, V b, E* r",
     "two": "int n, const E* a, E* r, E* r2",
+    "to_real": "int n, const E* a, E* r",
+    "from_real": "int n, const E* a, E* r",
     "linear": "int n, const E* a, const E* b, E scale_a, E shift_a, E scale_b, E shift_b, E* r",
     "pack_i": "int32_t n_low, int32_t n_high, const E* a, int32_t stride_low, "
               "int32_t stride_high, E* y, int width",
@@ -32,6 +35,21 @@ parameters = {
 
 def flag_argument(form):
     return parameters[form].count(",") + 1 if "pack" in form else 0
+
+
+def typed(text, t):
+    """Parameters with the types of type letter t."""
+    return text.replace("E", element[t]).replace("V", value[t])
+
+
+# Numbers per element in each array of an elementwise form, in the order of its parameters; 0: no
+# array.
+pairs = {"unary": (2, 2), "binary": (2, 2, 2), "scalar": (2, 0, 2), "to_real": (2, 1), "from_real": (1, 2)}
+reals = {"unary": (1, 1), "binary": (1, 1, 1), "scalar": (1, 0, 1), "two": (1, 1, 1), "linear": (1, 1, 0, 0, 0, 0, 1)}
+
+
+def steps(row):
+    return (pairs if row.type in "cz" else reals)[row.form]
 
 
 def read():
@@ -85,11 +103,16 @@ def header(rows):
  * an input array itself; arrays that overlap in part are not supported. Kernels have no result:
  * special elements are reported through the error dispatch of zem.h. Every kernel leaves
  * MXCSR and the x87 control word as it found them, and runs in round-to-nearest but for Rint
- * and NearbyInt. Complex elements are pairs, real part first.
+ * and NearbyInt.
+ *
+ * Complex elements (c, z) are pairs of float or double, real part first, and n counts pairs. So
+ * do std::complex in C++ and _Complex in C lie in memory: their arrays may be passed as they are,
+ * with a cast of the pointer. Abs and Arg of c and z write one real number for an element, CIS
+ * (cos x + i sin x) reads one.
  *
  * Forms: (n, a, r); (n, a, b, r), with b one value in Powx; SinCos and Modf (n, a, r, r2): sine
  * and cosine, integer part and fraction; LinearFrac:
- * r = (scale_a * a + shift_a) / (scale_b * b + shift_b).
+ * r = (scale_a * a + shift_a) / (scale_b * b + shift_b). MulByConj is a times the conjugate of b.
  * Pack gathers, unpack scatters, by stride (I), mask (M) or index (V). With width = 1 the count
  * is n_low and strides, masks and indices are 32 bits wide; otherwise all are 64 bits wide.
  * The stubs of pack and unpack set width to 1 whatever was passed. */""",
@@ -97,10 +120,10 @@ def header(rows):
            "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
     for t in unique(r.type for r in rows):
         for form in unique(r.form for r in rows if r.type == t):
-            out.append(f"typedef void (*ork_{t}_{form})({parameters[form].replace('E', element[t])});")
+            out.append(f"typedef void (*ork_{t}_{form})({typed(parameters[form], t)});")
     out.append("")
     for row in rows:
-        p = parameters[row.form].replace("E", element[row.type])
+        p = typed(parameters[row.form], row.type)
         name = row.type + row.function
         out.append(f"extern const ork_{row.type}_{row.form} ork_zem_kernel_{name}_ttab[3];")
         out.append(f"extern const float ork_zem_kernel_{name}_ctab[3];")
@@ -160,7 +183,7 @@ def exports(rows):
 
 
 def front_signature(row):
-    p = front_parameters.get(row.form, parameters[row.form]).replace("E", element[row.type])
+    p = typed(front_parameters.get(row.form, parameters[row.form]), row.type)
     return f"int ork_{row.type}{row.function}({p})"
 
 
@@ -174,15 +197,14 @@ def front_header(rows):
  * c and z (pairs of them, real part first; n counts pairs). What they return, check and do is
  * told in front.h, which includes this file. */""",
            "#ifndef ORK_FRONT_ELEMENTWISE_H", "#define ORK_FRONT_ELEMENTWISE_H", "",
-           "#include <stdint.h>", "", "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
+           '#include "ork/zem.h"', "", "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
     out += [front_signature(row) + ";" for row in rows]
     out += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
     return "\n".join(out)
 
 
 def front_code(rows):
-    """Pack and unpack move elements by their stubs. Of the others, real ones may be divided
-    among threads; complex ones run whole: their arrays need not all step alike."""
+    """Pack and unpack move elements by their stubs; the others may be divided among threads."""
     out = [f"// {made_by}",
            '#include "ork/front.h"', '#include "ork/zem_kernels.h"', '#include "outer/export.hpp"',
            '#include "outer/front/elementwise.hpp"', "",
@@ -201,9 +223,9 @@ def front_code(rows):
             out.append("  return status;")
         else:
             names = argument_names(parameters[row.form])
-            divisible = "true" if row.type in "sd" else "false"
+            each = ", ".join(str(n) for n in steps(row))
             base = f"ork_zem_kernel_{name}"
-            out.append(f'  return call<{divisible}>("v{name}", {base}_ttab, {base}_ctab, {", ".join(names)});')
+            out.append(f'  return call<{each}>("v{name}", {base}_ttab, {base}_ctab, {", ".join(names)});')
         out.append("}")
     return "\n".join(out) + "\n"
 

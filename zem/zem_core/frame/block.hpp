@@ -9,7 +9,7 @@ template <class C>
 ORK_INLINE void block(int n, const OperandsOf<C>& o, const C& core = C{}) {
   if (n <= 0) return;
   const Control<C> control;
-  constexpr int width = C::vectors * simd<typename C::type>::width;
+  constexpr int width = C::vectors * lanes_of<C>;
   int i = 0;
   for (; i <= n - width; i += width)
     if (__builtin_expect(!block_is_clean(core, o, i), 0)) finish<C, false>(core, o, i, width);

@@ -10,7 +10,7 @@ ORK_INLINE void chunk(int n, const OperandsOf<C>& o, const C& core = C{}) {
   if (n <= 0) return;
   using T = typename C::type;
   const Control<C> control;
-  constexpr int width = C::vectors * simd<T>::width;
+  constexpr int width = C::vectors * lanes_of<C>;
   int i = (int)(-(uintptr_t)o.in[0] % 16 / sizeof(T));
   if (i > n) i = n;
   if (i != 0) finish<C, true>(core, o, 0, i);

@@ -18,9 +18,14 @@
 // rare), special(x, r, r2). Scalars of a call are members of the core. Lanes are independent:
 // the bits of an element do not depend on its place. `special` takes pointers so that a
 // signalling NaN is not quieted on its way through an x87 register.
+//
+// Elements are float, double, or Complex of them, whose vectors are Planes (complex.hpp). Inputs
+// may be complex and outputs real, or the reverse; such a core has no statuses, and its `special`
+// returns nothing. A core with `total` has no rare lanes and no `special`.
 #include "base/control.hpp"
 #include "base/export.hpp"
 #include "base/vec.hpp"
+#include "frame/complex.hpp"
 #include "frame/mode.hpp"
 
 namespace ork {
@@ -31,18 +36,29 @@ enum class Csr {
   untouched,
 };
 
-template <class T, int Inputs = 1, int Outputs = 1>
+// In, Out: the types of an input's and an output's elements.
+template <class In, int Inputs = 1, int Outputs = 1, class Out = In>
 struct Core {
-  using type = T;
-  using vec = vec_of<T>;
+  using type = In;
+  using result = Out;
+  using real = typename Element<In>::real;
+  using vec = typename Element<In>::vec;
+  using result_vec = typename Element<Out>::vec;
   static constexpr int inputs = Inputs, outputs = Outputs;
   static constexpr int vectors = 2;  // vectors in a block
+  static constexpr bool total = false;
   static constexpr Csr csr = Csr::from_mode;
   static constexpr unsigned rounding = 0;  // MXCSR rounding control
   static constexpr unsigned x87 = 0;       // x87 control, or 0: not used
   // What the error report of an element takes as second input array.
-  const T* second(const T* last_input, int) const { return last_input; }
+  const In* second(const In* last_input, int) const { return last_input; }
 };
+
+// Elements in a vector of a core, and whether it has statuses.
+template <class C>
+inline constexpr int lanes_of = simd<typename C::real>::width;
+template <class C>
+inline constexpr bool has_statuses = __is_same(typename C::type, typename C::result);
 
 // For Core::second: an array whose element `index`, the only one read, is *x.
 template <class T>
@@ -51,13 +67,23 @@ ORK_INLINE const T* array_with(const T* x, int index) {
 }
 
 // The arrays of a call.
-template <class T, int Inputs, int Outputs>
+template <class In, int Inputs, class Out, int Outputs>
 struct Operands {
-  const T* in[Inputs];
-  T* out[Outputs];
+  const In* in[Inputs];
+  Out* out[Outputs];
 };
 template <class C>
-using OperandsOf = Operands<typename C::type, C::inputs, C::outputs>;
+using OperandsOf = Operands<typename C::type, C::inputs, typename C::result, C::outputs>;
+
+// The pairs of an exported entry's array.
+template <class R>
+ORK_INLINE const Complex<R>* pairs(const R* p) {
+  return reinterpret_cast<const Complex<R>*>(p);
+}
+template <class R>
+ORK_INLINE Complex<R>* pairs(R* p) {
+  return reinterpret_cast<Complex<R>*>(p);
+}
 
 // The processor state around a body.
 template <class C>
@@ -75,15 +101,15 @@ requires(C::csr == Csr::untouched) struct Control<C> {
 };
 
 template <class C>
-concept has_rest = requires(const C core, typename C::vec x, u32x4 rare) {
-  core.eval_rest(x, x, rare);
+concept has_rest = requires(const C core, typename C::vec x, typename C::result_vec r, u32x4 rare) {
+  core.eval_rest(x, r, rare);
 };
 
 // One vector of every input in, one of every output out.
 template <class C>
 struct Lanes {
-  using T = typename C::type;
-  vec_of<T> in[C::inputs], out[C::outputs];
+  typename C::vec in[C::inputs];
+  typename C::result_vec out[C::outputs];
 
   __attribute__((always_inline)) void load(const OperandsOf<C>& o, int i) {
     for (int k = 0; k < C::inputs; ++k) in[k] = ork::load(o.in[k] + i);
@@ -108,14 +134,34 @@ struct Lanes {
   }
 };
 
+// The dispatch of an element type.
+ORK_INLINE void raise(int status, int i, const float* a, const float* b, float* r, float* r2,
+                      const char* name) {
+  ork_zem_kernel_sError(status, i, a, b, r, r2, name);
+}
+ORK_INLINE void raise(int status, int i, const double* a, const double* b, double* r, double* r2,
+                      const char* name) {
+  ork_zem_kernel_dError(status, i, a, b, r, r2, name);
+}
+template <class R>
+ORK_INLINE void raise(int status, int i, const Complex<R>* a, const Complex<R>* b, Complex<R>* r,
+                      Complex<R>* r2, const char* name) {
+  constexpr auto dispatch = [] {
+    if constexpr (sizeof(R) == 8)
+      return ork_zem_kernel_zError;
+    else
+      return ork_zem_kernel_cError;
+  }();
+  const auto in = [](const Complex<R>* p) { return reinterpret_cast<const R*>(p); };
+  const auto out = [](Complex<R>* p) { return reinterpret_cast<R*>(p); };
+  dispatch(status, i, in(a), in(b), out(r), out(r2), name);
+}
+
 // Raises an element's event. Its result stands in the outputs before and after.
 template <class C>
 inline void report(const C& core, const OperandsOf<C>& o, int i, int status) {
-  const auto* b = core.second(o.in[C::inputs - 1], i);
-  if constexpr (sizeof(typename C::type) == 8)
-    ork_zem_kernel_dError(status, i, o.in[0], b, o.out[0], o.out[C::outputs - 1], C::name);
-  else
-    ork_zem_kernel_sError(status, i, o.in[0], b, o.out[0], o.out[C::outputs - 1], C::name);
+  raise(status, i, o.in[0], core.second(o.in[C::inputs - 1], i), o.out[0], o.out[C::outputs - 1],
+        C::name);
 }
 
 // One element through the scalar routine, from the lane's own copies of inputs and outputs to
@@ -123,16 +169,19 @@ inline void report(const C& core, const OperandsOf<C>& o, int i, int status) {
 template <class C>
 inline void special_element(const C& core, const OperandsOf<C>& o, int i, const typename C::type* x,
                             const typename C::type* x2) {
-  typename C::type y[C::outputs];
-  int status;
-  if constexpr (C::inputs == 2)
+  typename C::result y[C::outputs];
+  int status = ZEM_STATUS_NONE;
+  if constexpr (!has_statuses<C>)
+    core.special(x, y);
+  else if constexpr (C::inputs == 2)
     status = core.special(x, x2, y);
   else if constexpr (C::outputs == 2)
     status = core.special(x, y, y + 1);
   else
     status = core.special(x, y);
   for (int k = 0; k < C::outputs; ++k) __builtin_memcpy(o.out[k] + i, y + k, sizeof y[k]);
-  if (status != ZEM_STATUS_NONE) report(core, o, i, status);
+  if constexpr (has_statuses<C>)
+    if (status != ZEM_STATUS_NONE) report(core, o, i, status);
 }
 
 // The slow way through `count` elements from `first`: any count, any lane rare. Vector by
@@ -144,8 +193,9 @@ inline void special_element(const C& core, const OperandsOf<C>& o, int i, const 
 template <class C, bool clean_last>
 __attribute__((noinline, cold)) void finish(const C& core, const OperandsOf<C>& o, int first,
                                             int count) {
-  using T = typename C::type;
-  constexpr int width = simd<T>::width;
+  using In = typename C::type;
+  using Out = typename C::result;
+  constexpr int width = lanes_of<C>;
   for (int i = first; i < first + count; i += width) {
     const int active = first + count - i < width ? first + count - i : width;
     Lanes<C> lanes;
@@ -156,24 +206,27 @@ __attribute__((noinline, cold)) void finish(const C& core, const OperandsOf<C>& 
     u32x4 rare{};
     lanes.eval(core, rare);
     if constexpr (has_rest<C>)
-      if (sign_mask<T>(rare) != 0) lanes.eval_rest(core, rare = u32x4{});
-    const int mask = sign_mask<T>(rare) & ((1 << active) - 1);
+      if (sign_mask<typename C::real>(rare) != 0) lanes.eval_rest(core, rare = u32x4{});
+    const int mask = C::total ? 0 : sign_mask<typename C::real>(rare) & ((1 << active) - 1);
     if (mask == 0 && active == width) {
       lanes.store(o, i);
       continue;
     }
-    alignas(16) T x[C::inputs][width], y[C::outputs][width];
-    for (int k = 0; k < C::inputs; ++k) store_aligned(x[k], lanes.in[k]);
-    for (int k = 0; k < C::outputs; ++k) store_aligned(y[k], lanes.out[k]);
+    alignas(16) In x[C::inputs][width];
+    alignas(16) Out y[C::outputs][width];
+    for (int k = 0; k < C::inputs; ++k) store(x[k], lanes.in[k]);
+    for (int k = 0; k < C::outputs; ++k) store(y[k], lanes.out[k]);
     const auto store_clean = [&](int lane) {
       for (int k = 0; k < C::outputs; ++k)
-        __builtin_memcpy(o.out[k] + i + lane, &y[k][lane], sizeof(T));
+        __builtin_memcpy(o.out[k] + i + lane, &y[k][lane], sizeof(Out));
     };
     for (int lane = 0; lane < active; ++lane) {
-      if (mask >> lane & 1)
-        special_element(core, o, i + lane, &x[0][lane], &x[C::inputs - 1][lane]);
-      else if (!clean_last)
-        store_clean(lane);
+      if constexpr (!C::total)
+        if (mask >> lane & 1) {
+          special_element(core, o, i + lane, &x[0][lane], &x[C::inputs - 1][lane]);
+          continue;
+        }
+      if (!clean_last) store_clean(lane);
     }
     if (clean_last)
       for (int lane = 0; lane < active; ++lane)
@@ -184,8 +237,8 @@ __attribute__((noinline, cold)) void finish(const C& core, const OperandsOf<C>& 
 // A block of full vectors. False, with nothing stored, if a lane is rare.
 template <class C>
 ORK_INLINE bool block_is_clean(const C& core, const OperandsOf<C>& o, int i) {
-  using T = typename C::type;
-  constexpr int width = simd<T>::width;
+  using R = typename C::real;
+  constexpr int width = lanes_of<C>;
   Lanes<C> lanes[C::vectors];
   u32x4 rare{};
 #pragma GCC unroll 8
@@ -193,13 +246,13 @@ ORK_INLINE bool block_is_clean(const C& core, const OperandsOf<C>& o, int i) {
     lanes[v].load(o, i + v * width);
     lanes[v].eval(core, rare);
   }
-  if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) {
+  if (!C::total && __builtin_expect(sign_mask<R>(rare) != 0, 0)) {
     if constexpr (!has_rest<C>)
       return false;
     else {
       rare = u32x4{};
       for (int v = 0; v < C::vectors; ++v) lanes[v].eval_rest(core, rare);
-      if (sign_mask<T>(rare) != 0) return false;
+      if (sign_mask<R>(rare) != 0) return false;
     }
   }
 #pragma GCC unroll 8

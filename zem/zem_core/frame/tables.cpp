@@ -468,6 +468,76 @@ ORK_TABLE const float ork_zem_kernel_sUnpackM_ctab[3] = {1111.00f, 1111.00f, 111
 #pragma weak ork_zem_kernel_sUnpackV_PXHAynn
 ORK_TABLE const ork_s_unpack_v ork_zem_kernel_sUnpackV_ttab[3] = {ork_zem_kernel_sUnpackV_PXHAynn, ork_zem_kernel_sUnpackV_PXHAynn, ork_zem_kernel_sUnpackV_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_sUnpackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cAbs_V8LAynn
+#pragma weak ork_zem_kernel_cAbs_V8HAynn
+#pragma weak ork_zem_kernel_cAbs_V8EPnnn
+ORK_TABLE const ork_c_to_real ork_zem_kernel_cAbs_ttab[3] = {ork_zem_kernel_cAbs_V8LAynn, ork_zem_kernel_cAbs_V8HAynn, ork_zem_kernel_cAbs_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cAbs_ctab[3] = {7.57f, 13.13f, 3.65f};
+#pragma weak ork_zem_kernel_cAcos_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cAcos_ttab[3] = {ork_zem_kernel_cAcos_PXHAynn, ork_zem_kernel_cAcos_PXHAynn, ork_zem_kernel_cAcos_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cAcos_ctab[3] = {1156.79f, 1156.79f, 1156.79f};
+#pragma weak ork_zem_kernel_cAcosh_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cAcosh_ttab[3] = {ork_zem_kernel_cAcosh_PXHAynn, ork_zem_kernel_cAcosh_PXHAynn, ork_zem_kernel_cAcosh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cAcosh_ctab[3] = {1167.15f, 1167.15f, 1167.15f};
+#pragma weak ork_zem_kernel_cAdd_V8HAynn
+#pragma weak ork_zem_kernel_cAdd_V8EPnnn
+ORK_TABLE const ork_c_binary ork_zem_kernel_cAdd_ttab[3] = {ork_zem_kernel_cAdd_V8HAynn, ork_zem_kernel_cAdd_V8HAynn, ork_zem_kernel_cAdd_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cAdd_ctab[3] = {6.34f, 6.34f, 1.85f};
+#pragma weak ork_zem_kernel_cArg_V8LAynn
+#pragma weak ork_zem_kernel_cArg_V8HAynn
+#pragma weak ork_zem_kernel_cArg_V8EPnnn
+ORK_TABLE const ork_c_to_real ork_zem_kernel_cArg_ttab[3] = {ork_zem_kernel_cArg_V8LAynn, ork_zem_kernel_cArg_V8HAynn, ork_zem_kernel_cArg_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cArg_ctab[3] = {12.72f, 28.78f, 11.65f};
+#pragma weak ork_zem_kernel_cAsin_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cAsin_ttab[3] = {ork_zem_kernel_cAsin_PXHAynn, ork_zem_kernel_cAsin_PXHAynn, ork_zem_kernel_cAsin_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cAsin_ctab[3] = {1260.85f, 1260.85f, 1260.85f};
+#pragma weak ork_zem_kernel_cAsinh_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cAsinh_ttab[3] = {ork_zem_kernel_cAsinh_PXHAynn, ork_zem_kernel_cAsinh_PXHAynn, ork_zem_kernel_cAsinh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cAsinh_ctab[3] = {1140.70f, 1140.70f, 1140.70f};
+#pragma weak ork_zem_kernel_cAtan_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cAtan_ttab[3] = {ork_zem_kernel_cAtan_PXHAynn, ork_zem_kernel_cAtan_PXHAynn, ork_zem_kernel_cAtan_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cAtan_ctab[3] = {635.47f, 635.47f, 635.47f};
+#pragma weak ork_zem_kernel_cAtanh_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cAtanh_ttab[3] = {ork_zem_kernel_cAtanh_PXHAynn, ork_zem_kernel_cAtanh_PXHAynn, ork_zem_kernel_cAtanh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cAtanh_ctab[3] = {555.74f, 555.74f, 555.74f};
+#pragma weak ork_zem_kernel_cCIS_V8LAynn
+#pragma weak ork_zem_kernel_cCIS_W7HAynn
+#pragma weak ork_zem_kernel_cCIS_V8EPnnn
+ORK_TABLE const ork_c_from_real ork_zem_kernel_cCIS_ttab[3] = {ork_zem_kernel_cCIS_V8LAynn, ork_zem_kernel_cCIS_W7HAynn, ork_zem_kernel_cCIS_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cCIS_ctab[3] = {14.20f, 19.03f, 11.84f};
+#pragma weak ork_zem_kernel_cConj_W7HAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cConj_ttab[3] = {ork_zem_kernel_cConj_W7HAynn, ork_zem_kernel_cConj_W7HAynn, ork_zem_kernel_cConj_W7HAynn};
+ORK_TABLE const float ork_zem_kernel_cConj_ctab[3] = {2.86f, 2.86f, 2.86f};
+#pragma weak ork_zem_kernel_cCos_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cCos_ttab[3] = {ork_zem_kernel_cCos_PXHAynn, ork_zem_kernel_cCos_PXHAynn, ork_zem_kernel_cCos_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cCos_ctab[3] = {552.02f, 552.02f, 552.02f};
+#pragma weak ork_zem_kernel_cCosh_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cCosh_ttab[3] = {ork_zem_kernel_cCosh_PXHAynn, ork_zem_kernel_cCosh_PXHAynn, ork_zem_kernel_cCosh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cCosh_ctab[3] = {494.12f, 494.12f, 494.12f};
+#pragma weak ork_zem_kernel_cDiv_V8HAynn
+#pragma weak ork_zem_kernel_cDiv_V8EPnnn
+ORK_TABLE const ork_c_binary ork_zem_kernel_cDiv_ttab[3] = {ork_zem_kernel_cDiv_V8HAynn, ork_zem_kernel_cDiv_V8HAynn, ork_zem_kernel_cDiv_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cDiv_ctab[3] = {30.49f, 30.49f, 7.46f};
+#pragma weak ork_zem_kernel_cExp_W7LAynn
+#pragma weak ork_zem_kernel_cExp_W7HAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cExp_ttab[3] = {ork_zem_kernel_cExp_W7LAynn, ork_zem_kernel_cExp_W7HAynn, ork_zem_kernel_cExp_W7LAynn};
+ORK_TABLE const float ork_zem_kernel_cExp_ctab[3] = {20.78f, 65.83f, 20.78f};
+#pragma weak ork_zem_kernel_cLn_W7LAynn
+#pragma weak ork_zem_kernel_cLn_W7HAynn
+#pragma weak ork_zem_kernel_cLn_W7EPnnn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cLn_ttab[3] = {ork_zem_kernel_cLn_W7LAynn, ork_zem_kernel_cLn_W7HAynn, ork_zem_kernel_cLn_W7EPnnn};
+ORK_TABLE const float ork_zem_kernel_cLn_ctab[3] = {35.42f, 53.63f, 23.41f};
+#pragma weak ork_zem_kernel_cLog10_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cLog10_ttab[3] = {ork_zem_kernel_cLog10_PXHAynn, ork_zem_kernel_cLog10_PXHAynn, ork_zem_kernel_cLog10_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cLog10_ctab[3] = {567.51f, 567.51f, 567.51f};
+#pragma weak ork_zem_kernel_cMul_V8HAynn
+#pragma weak ork_zem_kernel_cMul_V8EPnnn
+ORK_TABLE const ork_c_binary ork_zem_kernel_cMul_ttab[3] = {ork_zem_kernel_cMul_V8HAynn, ork_zem_kernel_cMul_V8HAynn, ork_zem_kernel_cMul_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cMul_ctab[3] = {15.21f, 15.21f, 2.97f};
+#pragma weak ork_zem_kernel_cMulByConj_V8HAynn
+#pragma weak ork_zem_kernel_cMulByConj_V8EPnnn
+ORK_TABLE const ork_c_binary ork_zem_kernel_cMulByConj_ttab[3] = {ork_zem_kernel_cMulByConj_V8HAynn, ork_zem_kernel_cMulByConj_V8HAynn, ork_zem_kernel_cMulByConj_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cMulByConj_ctab[3] = {15.23f, 15.23f, 6.17f};
 #pragma weak ork_zem_kernel_cPackI_PXHAynn
 ORK_TABLE const ork_c_pack_i ork_zem_kernel_cPackI_ttab[3] = {ork_zem_kernel_cPackI_PXHAynn, ork_zem_kernel_cPackI_PXHAynn, ork_zem_kernel_cPackI_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_cPackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
@@ -477,6 +547,32 @@ ORK_TABLE const float ork_zem_kernel_cPackM_ctab[3] = {1111.00f, 1111.00f, 1111.
 #pragma weak ork_zem_kernel_cPackV_PXHAynn
 ORK_TABLE const ork_c_pack_v ork_zem_kernel_cPackV_ttab[3] = {ork_zem_kernel_cPackV_PXHAynn, ork_zem_kernel_cPackV_PXHAynn, ork_zem_kernel_cPackV_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_cPackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_cPow_PXHAynn
+ORK_TABLE const ork_c_binary ork_zem_kernel_cPow_ttab[3] = {ork_zem_kernel_cPow_PXHAynn, ork_zem_kernel_cPow_PXHAynn, ork_zem_kernel_cPow_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cPow_ctab[3] = {1065.61f, 1065.61f, 1065.61f};
+#pragma weak ork_zem_kernel_cPowx_PXHAynn
+ORK_TABLE const ork_c_scalar ork_zem_kernel_cPowx_ttab[3] = {ork_zem_kernel_cPowx_PXHAynn, ork_zem_kernel_cPowx_PXHAynn, ork_zem_kernel_cPowx_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cPowx_ctab[3] = {1056.72f, 1056.72f, 1056.72f};
+#pragma weak ork_zem_kernel_cSin_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cSin_ttab[3] = {ork_zem_kernel_cSin_PXHAynn, ork_zem_kernel_cSin_PXHAynn, ork_zem_kernel_cSin_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cSin_ctab[3] = {572.87f, 572.87f, 572.87f};
+#pragma weak ork_zem_kernel_cSinh_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cSinh_ttab[3] = {ork_zem_kernel_cSinh_PXHAynn, ork_zem_kernel_cSinh_PXHAynn, ork_zem_kernel_cSinh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cSinh_ctab[3] = {491.26f, 491.26f, 491.26f};
+#pragma weak ork_zem_kernel_cSqrt_W7LAynn
+#pragma weak ork_zem_kernel_cSqrt_W7HAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cSqrt_ttab[3] = {ork_zem_kernel_cSqrt_W7LAynn, ork_zem_kernel_cSqrt_W7HAynn, ork_zem_kernel_cSqrt_W7LAynn};
+ORK_TABLE const float ork_zem_kernel_cSqrt_ctab[3] = {26.63f, 60.18f, 26.63f};
+#pragma weak ork_zem_kernel_cSub_V8HAynn
+#pragma weak ork_zem_kernel_cSub_V8EPnnn
+ORK_TABLE const ork_c_binary ork_zem_kernel_cSub_ttab[3] = {ork_zem_kernel_cSub_V8HAynn, ork_zem_kernel_cSub_V8HAynn, ork_zem_kernel_cSub_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_cSub_ctab[3] = {6.34f, 6.34f, 1.85f};
+#pragma weak ork_zem_kernel_cTan_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cTan_ttab[3] = {ork_zem_kernel_cTan_PXHAynn, ork_zem_kernel_cTan_PXHAynn, ork_zem_kernel_cTan_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cTan_ctab[3] = {655.21f, 655.21f, 655.21f};
+#pragma weak ork_zem_kernel_cTanh_PXHAynn
+ORK_TABLE const ork_c_unary ork_zem_kernel_cTanh_ttab[3] = {ork_zem_kernel_cTanh_PXHAynn, ork_zem_kernel_cTanh_PXHAynn, ork_zem_kernel_cTanh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_cTanh_ctab[3] = {569.96f, 569.96f, 569.96f};
 #pragma weak ork_zem_kernel_cUnpackI_PXHAynn
 ORK_TABLE const ork_c_unpack_i ork_zem_kernel_cUnpackI_ttab[3] = {ork_zem_kernel_cUnpackI_PXHAynn, ork_zem_kernel_cUnpackI_PXHAynn, ork_zem_kernel_cUnpackI_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_cUnpackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
@@ -486,6 +582,76 @@ ORK_TABLE const float ork_zem_kernel_cUnpackM_ctab[3] = {1111.00f, 1111.00f, 111
 #pragma weak ork_zem_kernel_cUnpackV_PXHAynn
 ORK_TABLE const ork_c_unpack_v ork_zem_kernel_cUnpackV_ttab[3] = {ork_zem_kernel_cUnpackV_PXHAynn, ork_zem_kernel_cUnpackV_PXHAynn, ork_zem_kernel_cUnpackV_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_cUnpackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zAbs_V8LAynn
+#pragma weak ork_zem_kernel_zAbs_V8HAynn
+#pragma weak ork_zem_kernel_zAbs_V8EPnnn
+ORK_TABLE const ork_z_to_real ork_zem_kernel_zAbs_ttab[3] = {ork_zem_kernel_zAbs_V8LAynn, ork_zem_kernel_zAbs_V8HAynn, ork_zem_kernel_zAbs_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zAbs_ctab[3] = {16.23f, 32.01f, 13.91f};
+#pragma weak ork_zem_kernel_zAcos_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zAcos_ttab[3] = {ork_zem_kernel_zAcos_PXHAynn, ork_zem_kernel_zAcos_PXHAynn, ork_zem_kernel_zAcos_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zAcos_ctab[3] = {1147.36f, 1147.36f, 1147.36f};
+#pragma weak ork_zem_kernel_zAcosh_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zAcosh_ttab[3] = {ork_zem_kernel_zAcosh_PXHAynn, ork_zem_kernel_zAcosh_PXHAynn, ork_zem_kernel_zAcosh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zAcosh_ctab[3] = {1157.88f, 1157.88f, 1157.88f};
+#pragma weak ork_zem_kernel_zAdd_V8HAynn
+#pragma weak ork_zem_kernel_zAdd_V8EPnnn
+ORK_TABLE const ork_z_binary ork_zem_kernel_zAdd_ttab[3] = {ork_zem_kernel_zAdd_V8HAynn, ork_zem_kernel_zAdd_V8HAynn, ork_zem_kernel_zAdd_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zAdd_ctab[3] = {9.78f, 9.78f, 7.56f};
+#pragma weak ork_zem_kernel_zArg_W7LAynn
+#pragma weak ork_zem_kernel_zArg_V8HAynn
+#pragma weak ork_zem_kernel_zArg_V8EPnnn
+ORK_TABLE const ork_z_to_real ork_zem_kernel_zArg_ttab[3] = {ork_zem_kernel_zArg_W7LAynn, ork_zem_kernel_zArg_V8HAynn, ork_zem_kernel_zArg_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zArg_ctab[3] = {44.49f, 68.29f, 31.42f};
+#pragma weak ork_zem_kernel_zAsin_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zAsin_ttab[3] = {ork_zem_kernel_zAsin_PXHAynn, ork_zem_kernel_zAsin_PXHAynn, ork_zem_kernel_zAsin_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zAsin_ctab[3] = {1251.71f, 1251.71f, 1251.71f};
+#pragma weak ork_zem_kernel_zAsinh_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zAsinh_ttab[3] = {ork_zem_kernel_zAsinh_PXHAynn, ork_zem_kernel_zAsinh_PXHAynn, ork_zem_kernel_zAsinh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zAsinh_ctab[3] = {1136.96f, 1136.96f, 1136.96f};
+#pragma weak ork_zem_kernel_zAtan_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zAtan_ttab[3] = {ork_zem_kernel_zAtan_PXHAynn, ork_zem_kernel_zAtan_PXHAynn, ork_zem_kernel_zAtan_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zAtan_ctab[3] = {628.75f, 628.75f, 628.75f};
+#pragma weak ork_zem_kernel_zAtanh_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zAtanh_ttab[3] = {ork_zem_kernel_zAtanh_PXHAynn, ork_zem_kernel_zAtanh_PXHAynn, ork_zem_kernel_zAtanh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zAtanh_ctab[3] = {547.21f, 547.21f, 547.21f};
+#pragma weak ork_zem_kernel_zCIS_V8LAynn
+#pragma weak ork_zem_kernel_zCIS_V8HAynn
+#pragma weak ork_zem_kernel_zCIS_V8EPnnn
+ORK_TABLE const ork_z_from_real ork_zem_kernel_zCIS_ttab[3] = {ork_zem_kernel_zCIS_V8LAynn, ork_zem_kernel_zCIS_V8HAynn, ork_zem_kernel_zCIS_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zCIS_ctab[3] = {35.19f, 43.99f, 25.73f};
+#pragma weak ork_zem_kernel_zConj_W7HAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zConj_ttab[3] = {ork_zem_kernel_zConj_W7HAynn, ork_zem_kernel_zConj_W7HAynn, ork_zem_kernel_zConj_W7HAynn};
+ORK_TABLE const float ork_zem_kernel_zConj_ctab[3] = {3.48f, 3.48f, 3.48f};
+#pragma weak ork_zem_kernel_zCos_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zCos_ttab[3] = {ork_zem_kernel_zCos_PXHAynn, ork_zem_kernel_zCos_PXHAynn, ork_zem_kernel_zCos_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zCos_ctab[3] = {548.27f, 548.27f, 548.27f};
+#pragma weak ork_zem_kernel_zCosh_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zCosh_ttab[3] = {ork_zem_kernel_zCosh_PXHAynn, ork_zem_kernel_zCosh_PXHAynn, ork_zem_kernel_zCosh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zCosh_ctab[3] = {485.76f, 485.76f, 485.76f};
+#pragma weak ork_zem_kernel_zDiv_V8HAynn
+#pragma weak ork_zem_kernel_zDiv_V8EPnnn
+ORK_TABLE const ork_z_binary ork_zem_kernel_zDiv_ttab[3] = {ork_zem_kernel_zDiv_V8HAynn, ork_zem_kernel_zDiv_V8HAynn, ork_zem_kernel_zDiv_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zDiv_ctab[3] = {102.36f, 102.36f, 15.98f};
+#pragma weak ork_zem_kernel_zExp_V8LAynn
+#pragma weak ork_zem_kernel_zExp_W7HAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zExp_ttab[3] = {ork_zem_kernel_zExp_V8LAynn, ork_zem_kernel_zExp_W7HAynn, ork_zem_kernel_zExp_V8LAynn};
+ORK_TABLE const float ork_zem_kernel_zExp_ctab[3] = {63.48f, 86.67f, 63.48f};
+#pragma weak ork_zem_kernel_zLn_W7LAynn
+#pragma weak ork_zem_kernel_zLn_V8HAynn
+#pragma weak ork_zem_kernel_zLn_W7EPnnn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zLn_ttab[3] = {ork_zem_kernel_zLn_W7LAynn, ork_zem_kernel_zLn_V8HAynn, ork_zem_kernel_zLn_W7EPnnn};
+ORK_TABLE const float ork_zem_kernel_zLn_ctab[3] = {95.54f, 119.03f, 59.18f};
+#pragma weak ork_zem_kernel_zLog10_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zLog10_ttab[3] = {ork_zem_kernel_zLog10_PXHAynn, ork_zem_kernel_zLog10_PXHAynn, ork_zem_kernel_zLog10_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zLog10_ctab[3] = {556.75f, 556.75f, 556.75f};
+#pragma weak ork_zem_kernel_zMul_V8HAynn
+#pragma weak ork_zem_kernel_zMul_V8EPnnn
+ORK_TABLE const ork_z_binary ork_zem_kernel_zMul_ttab[3] = {ork_zem_kernel_zMul_V8HAynn, ork_zem_kernel_zMul_V8HAynn, ork_zem_kernel_zMul_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zMul_ctab[3] = {61.06f, 61.06f, 7.62f};
+#pragma weak ork_zem_kernel_zMulByConj_V8HAynn
+#pragma weak ork_zem_kernel_zMulByConj_W7EPnnn
+ORK_TABLE const ork_z_binary ork_zem_kernel_zMulByConj_ttab[3] = {ork_zem_kernel_zMulByConj_V8HAynn, ork_zem_kernel_zMulByConj_V8HAynn, ork_zem_kernel_zMulByConj_W7EPnnn};
+ORK_TABLE const float ork_zem_kernel_zMulByConj_ctab[3] = {61.48f, 61.48f, 8.98f};
 #pragma weak ork_zem_kernel_zPackI_PXHAynn
 ORK_TABLE const ork_z_pack_i ork_zem_kernel_zPackI_ttab[3] = {ork_zem_kernel_zPackI_PXHAynn, ork_zem_kernel_zPackI_PXHAynn, ork_zem_kernel_zPackI_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_zPackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
@@ -495,6 +661,31 @@ ORK_TABLE const float ork_zem_kernel_zPackM_ctab[3] = {1111.00f, 1111.00f, 1111.
 #pragma weak ork_zem_kernel_zPackV_PXHAynn
 ORK_TABLE const ork_z_pack_v ork_zem_kernel_zPackV_ttab[3] = {ork_zem_kernel_zPackV_PXHAynn, ork_zem_kernel_zPackV_PXHAynn, ork_zem_kernel_zPackV_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_zPackV_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
+#pragma weak ork_zem_kernel_zPow_PXHAynn
+ORK_TABLE const ork_z_binary ork_zem_kernel_zPow_ttab[3] = {ork_zem_kernel_zPow_PXHAynn, ork_zem_kernel_zPow_PXHAynn, ork_zem_kernel_zPow_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zPow_ctab[3] = {1051.69f, 1051.69f, 1051.69f};
+#pragma weak ork_zem_kernel_zPowx_PXHAynn
+ORK_TABLE const ork_z_scalar ork_zem_kernel_zPowx_ttab[3] = {ork_zem_kernel_zPowx_PXHAynn, ork_zem_kernel_zPowx_PXHAynn, ork_zem_kernel_zPowx_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zPowx_ctab[3] = {1041.83f, 1041.83f, 1041.83f};
+#pragma weak ork_zem_kernel_zSin_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zSin_ttab[3] = {ork_zem_kernel_zSin_PXHAynn, ork_zem_kernel_zSin_PXHAynn, ork_zem_kernel_zSin_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zSin_ctab[3] = {564.97f, 564.97f, 564.97f};
+#pragma weak ork_zem_kernel_zSinh_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zSinh_ttab[3] = {ork_zem_kernel_zSinh_PXHAynn, ork_zem_kernel_zSinh_PXHAynn, ork_zem_kernel_zSinh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zSinh_ctab[3] = {487.50f, 487.50f, 487.50f};
+#pragma weak ork_zem_kernel_zSqrt_V8HAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zSqrt_ttab[3] = {ork_zem_kernel_zSqrt_V8HAynn, ork_zem_kernel_zSqrt_V8HAynn, ork_zem_kernel_zSqrt_V8HAynn};
+ORK_TABLE const float ork_zem_kernel_zSqrt_ctab[3] = {186.06f, 186.06f, 186.06f};
+#pragma weak ork_zem_kernel_zSub_V8HAynn
+#pragma weak ork_zem_kernel_zSub_V8EPnnn
+ORK_TABLE const ork_z_binary ork_zem_kernel_zSub_ttab[3] = {ork_zem_kernel_zSub_V8HAynn, ork_zem_kernel_zSub_V8HAynn, ork_zem_kernel_zSub_V8EPnnn};
+ORK_TABLE const float ork_zem_kernel_zSub_ctab[3] = {9.78f, 9.78f, 7.56f};
+#pragma weak ork_zem_kernel_zTan_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zTan_ttab[3] = {ork_zem_kernel_zTan_PXHAynn, ork_zem_kernel_zTan_PXHAynn, ork_zem_kernel_zTan_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zTan_ctab[3] = {642.92f, 642.92f, 642.92f};
+#pragma weak ork_zem_kernel_zTanh_PXHAynn
+ORK_TABLE const ork_z_unary ork_zem_kernel_zTanh_ttab[3] = {ork_zem_kernel_zTanh_PXHAynn, ork_zem_kernel_zTanh_PXHAynn, ork_zem_kernel_zTanh_PXHAynn};
+ORK_TABLE const float ork_zem_kernel_zTanh_ctab[3] = {557.26f, 557.26f, 557.26f};
 #pragma weak ork_zem_kernel_zUnpackI_PXHAynn
 ORK_TABLE const ork_z_unpack_i ork_zem_kernel_zUnpackI_ttab[3] = {ork_zem_kernel_zUnpackI_PXHAynn, ork_zem_kernel_zUnpackI_PXHAynn, ork_zem_kernel_zUnpackI_PXHAynn};
 ORK_TABLE const float ork_zem_kernel_zUnpackI_ctab[3] = {1111.00f, 1111.00f, 1111.00f};
