@@ -93,6 +93,8 @@ void run(const Slot& slot, int level, int n, const T* a, const T* b, T* r, T* r2
   typedef void Unpack(int, int, const T*, T*, const void*, int);
   switch (slot.form) {
     case Form::unary:
+    case Form::to_real:
+    case Form::from_real:
       return reinterpret_cast<Unary*>(kernel)(n, a, r);
     case Form::binary:
       return reinterpret_cast<Binary*>(kernel)(n, a, b, r);
