@@ -1,6 +1,7 @@
 #pragma once
 // The logarithms of the single inverse hyperbolics.
 #include "asinh/log1p_la.hpp"
+#include "base/pair.hpp"
 
 namespace ork {
 
@@ -54,7 +55,7 @@ ORK_INLINE f32x4 log1p_s(f32x4 u) {
                             v * (0.140058696f +
                                  v * (-0.121842608f + v * (0.139844373f + v * -0.12891686f)))))));
     // v cancels in k ln 2: what that sum loses is kept.
-    const f32x4 high = n * 0.693145752f, sum = high + v, lost = (high - sum) + v;
+    const auto [sum, lost] = exact_sum(n * 0.693145752f, v);
     return sum + (v * (v * q) + (n * 1.42860677e-06f + lost));
   }
 }

@@ -1,5 +1,6 @@
 // CdfNorm, double, HA: E and D in two parts, D_hi d_hi exact, both sums compensated. A denormal
 // result is rounded once: in its sum with 2^-894, whose last place is 2^-1074 scaled.
+#include "base/pair.hpp"
 #include "cdfnorm/cdfnorm.hpp"
 
 namespace ork {
@@ -17,14 +18,14 @@ struct CdfNormHaD : CdfNormD {
     f64x2 e, d, e_low, d_low;
     gather_pairs(table[r.row0], table[r.row1], e, d);
     gather_pairs(table[r.row0] + 2, table[r.row1] + 2, e_low, d_low);
-    const f64x2 d_hi = and_bits(r.d, splat_u64(0xFFFFFFFFF8000000)), q_hi = d * d_hi;
+    const f64x2 d_hi = upper_half(r.d), q_hi = d * d_hi;
     const f64x2 q_lo = d * (r.d - d_hi) + d_low * r.d;
     const f64x2 s = e - q_hi;
     const f64x2 s_low = ((e - s) - q_hi) + (e_low - (q_lo + (q_hi + q_lo) * p));
     // From here on Phi(-y) is below 2^-1022.
     const f64x2 grid = and_bits(splat(0x1p-894), (u64x2)(abs(x) >= 37.519379347144504));
     const f64x2 b = cdfnorm_offset(x, scale) + grid;
-    const f64x2 sum = b + s, lost = (b - sum) + s;
+    const auto [sum, lost] = exact_sum(b, s);
     return ((sum + (lost + s_low)) - grid) * cdfnorm_factor(x, scale);
   }
 };

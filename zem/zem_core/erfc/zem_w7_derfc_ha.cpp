@@ -1,6 +1,7 @@
 // Erfc, double, HA: g of degree 13 (12 is 0.7 ulp off at 20); c0, c1, T and g in two parts, T_hi
 // g_hi exact, 2 - v compensated. All is scaled by 2^154 up to the last product; a denormal result
 // is rounded in its sum with 2^-868, whose last place is 2^-1074 scaled.
+#include "base/pair.hpp"
 #include "erfc/erfc.hpp"
 
 namespace ork {
@@ -12,8 +13,7 @@ alignas(16) constexpr double table[][16] = {
 
 struct FormulaHa {
   ORK_INLINE f64x2 value(f64x2 x) {
-    constexpr uint64_t top = 0xFFFFFFFFF8000000;
-    const f64x2 ax = abs(x), x_hi = and_bits(ax, splat_u64(top));
+    const f64x2 ax = abs(x), x_hi = upper_half(ax);
     const double *p0, *p1;
     const f64x2 t = erfc_row<27, 16>(table, ax, p0, p1), t2 = t * t;
     f64x2 c, d, c0, c1, low0, low1;
@@ -26,11 +26,10 @@ struct FormulaHa {
     }
     gather_pairs(p0, p1, c0, c1);
     gather_pairs(p0 + 14, p1 + 14, low0, low1);
-    const f64x2 t_hi = and_bits(t, splat_u64(top)), linear = c1 * t_hi;
-    const f64x2 sum = c0 + linear, lost = (c0 - sum) + linear;
+    const f64x2 t_hi = upper_half(t);
+    const auto [sum, lost] = exact_sum(c0, c1 * t_hi);
     const f64x2 g_rest = lost + ((c1 * (t - t_hi) + (low1 * t + low0)) + t2 * q);
-    const f64x2 g = sum + g_rest;
-    const f64x2 g_hi = and_bits(g, splat_u64(top)), g_lo = (sum - g_hi) + g_rest;
+    const f64x2 g = sum + g_rest, g_hi = upper_half(g), g_lo = (sum - g_hi) + g_rest;
 
     const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi));
     const f64x2 p = e.r * horner(e.r, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664,
@@ -41,7 +40,7 @@ struct FormulaHa {
     const f64x2 v_low = (e.t * g_lo + (e.t_low * g + ((e.t + e.t_low) * g) * p)) * scale;
     const f64x2 grid = and_bits(splat(0x1p-868), (u64x2)(x > 26.543258454250978));
     const f64x2 base = erfc_base(x, 0x1p155) + grid;
-    const f64x2 y = base + v, y_lost = (base - y) + v;
+    const auto [y, y_lost] = exact_sum(base, v);
     return ((y + (y_lost + v_low)) - grid) * 4.3790577010150533e-47;
   }
 };

@@ -1,6 +1,7 @@
 // Log10, single, HA: x = 2^k m, c an integer near 111/(256 m) from rcpps, r = m c - 111/256,
 // log10 x = k log10 2 + L(c) + r + q(r) with a compensated sum.
 // Fast range: positive normal numbers. Constants: given.
+#include "base/pair.hpp"
 #include "frame/chunk.hpp"
 #include "log10/log10.hpp"
 #include "ork/zem_kernels.h"
@@ -29,7 +30,7 @@ struct Log10HaS : Core<float> {
     gather_pairs(row(word<1>(c)), row(word<3>(c)), row(word<5>(c)), row(word<7>(c)), l_hi, l_lo);
 
     const f32x4 a = k * 0.30103302f + l_hi, b = k * -3.02435365e-06f + l_lo;
-    const f32x4 s = a + r, e = r - (s - a);  // |a| > |r|, or a = 0
+    const auto [s, e] = exact_sum(a, r);  // |a| > |r|, or a = 0
     const f32x4 q = r * horner(r, 0.00161610241f, -1.15502596f, 1.77590978f);
     return s + (e + (b + q));
   }

@@ -1,3 +1,4 @@
+#include "base/pair.hpp"
 #include "log1p/log1p_d.hpp"
 
 namespace ork {
@@ -14,8 +15,8 @@ struct Log1pHa {
     gather_pairs(rows[f.row0()], rows[f.row1()], l_hi, l_lo);
     const f64x2 k = exponent_less(s, 0.0);
     const f64x2 a = l_hi + k * 0.69314718055829871, b = l_lo + k * 1.6465949582866463e-12;
-    const f64x2 v = r + e2, v_error = e2 - (v - r);  // r = 0 or e2 below it where it counts
-    const f64x2 y = a + v, y_error = v - (y - a);    // a = 0 or above v
+    const auto [v, v_error] = exact_sum(r, e2);  // r = 0 or e2 below it where it counts
+    const auto [y, y_error] = exact_sum(a, v);   // a = 0 or above v
     return y + (y_error + ((b + v_error) + log1p_degree5(v)));
   }
 };

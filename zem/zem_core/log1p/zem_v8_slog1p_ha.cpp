@@ -2,6 +2,7 @@
 // integer next to rcpps(m), r = m c - 1 exact, v = r + e c; ln(1 + x) = K ln 2 + L(c) +
 // v + p(v), p of degree 3, |v| < 2^-7.8, with the errors of the sums kept.
 // Fast range: -1 < x <= 2^118. Constants: given.
+#include "base/pair.hpp"
 #include "log1p/log1p_s.hpp"
 
 namespace ork {
@@ -29,8 +30,8 @@ struct Log1pHaS : Log1pS {
     const f32x4 k = _mm_cvtepi32_ps((__m128i)(image >> 23));
     const f32x4 a = l_hi + k * 0.693145752f, b = l_lo + k * 1.42859062e-06f;
 
-    const f32x4 v = r + e2, v_error = e2 - (v - r);  // r = 0 or e2 below it where it counts
-    const f32x4 y = a + v, y_error = v - (y - a);    // a = 0 or above v
+    const auto [v, v_error] = exact_sum(r, e2);  // r = 0 or e2 below it where it counts
+    const auto [y, y_error] = exact_sum(a, v);   // a = 0 or above v
     const f32x4 p = v * v * (-0.500003219f + 0.333337575f * v);
     return with_sign_of(x, y + (y_error + ((b + v_error) + p)));
   }

@@ -11,16 +11,16 @@ double pow_rare(double a, double b, bool negative) {
   volatile double tiny = 0x1p-1022, huge = 0x1p1023;
   const double one = negative ? -1.0 : 1.0;
   const bool denormal = as<uint64_t>(a) < 0x0010000000000000;
-  const PowPair l = pow_log2(splat(denormal ? a * 0x1p54 : a), denormal ? 54 : 0);
+  const Pair<f64x2> l = pow_log2(splat(denormal ? a * 0x1p54 : a), denormal ? 54 : 0);
   const auto exponent = [](double x) { return (int)(as<uint64_t>(x) >> 52 & 0x7FF); };
   const int size = exponent(b) + exponent(l.high[0]);
   if (size <= 1984) return one + tiny * one;  // |q| < 2^-60
   const bool grows = (b < 0) == (l.high[0] < 0);
   if (size >= 2057) return grows ? huge * huge * one : tiny * tiny * one;
 
-  const f64x2 exponents = splat(b), high = and_bits(exponents, pow_high_half);
+  const f64x2 exponents = splat(b), high = upper_half(exponents);
   f64x2 t;
-  const PowPair r = pow_exp2(pow_product(exponents, high, exponents - high, l), t);
+  const Pair<f64x2> r = pow_exp2(pow_product(exponents, high, exponents - high, l), t);
   const int n = (int32_t)as<u32x4>(t)[0] >> 7;
   const double hi = r.high[0], lo = r.low[0];
   if (n > 1024) return huge * huge * one;

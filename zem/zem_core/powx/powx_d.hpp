@@ -22,7 +22,7 @@ struct PowxD : PowxBaseD {
   u32x4 rare_exponent;  // infinities and NaNs
   __attribute__((always_inline)) explicit PowxD(double b) : PowxBaseD(b) {
     exponent = splat(b);
-    high = and_bits(exponent, pow_high_half);
+    high = upper_half(exponent);
     low = exponent - high;
     rare_exponent = 0x7F7FFFFF - as<u32x4>(abs(exponent));
   }

@@ -1,3 +1,4 @@
+#include "base/pair.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 #include "tan/tan.hpp"
@@ -21,12 +22,12 @@ struct TanLaD : Core<double> {
     const f64x2 z = r * r;
 
     const f64x2 p = horner(z, -0.12828347040957438, 0.0028059182411699891, -7.483634966612065e-06);
-    const f64x2 small = r * z * p + low, rp = r + small, rp_low = (r - rp) + small;
+    const auto [rp, rp_low] = exact_sum(r, r * z * p + low);
     constexpr double q1 = 0.5 - 0.46161680374290487;  // exact
     const f64x2 half = 0.5 * z, head = 1.0 - half;
     const f64x2 tail =
         z * horner(z, q1, 0.023344852822068728, -0.00020844804422038708) + ((1.0 - head) - half);
-    const f64x2 q = head + tail, q_low = (head - q) + tail;
+    const auto [q, q_low] = exact_sum(head, tail);
 
     const u64x2 odd = odd_steps(t);
     const u64x2 swap = (as<u64x2>(rp) ^ as<u64x2>(q)) & odd;

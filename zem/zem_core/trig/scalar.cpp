@@ -58,26 +58,12 @@ double value(const Pair<double>& p) { return p.high + p.low; }
 double tiny_sine(double x) { return x == 0 ? x : (0x1p55 * x - x) * 0x1p-55; }
 double not_finite(double x) { return __builtin_isinf(x) ? x * 0.0 : x * x; }
 
-Pair<double> normalized(Pair<double> p) {
-  const double high = p.high + p.low;
-  return {high, (p.high - high) + p.low};
-}
-
-// The product of two doubles with its rounding error (T. J. Dekker).
-Pair<double> product(double x, double y) {
-  constexpr double splitter = 134217729.0;  // 2^27 + 1
-  const double xs = x * splitter, ys = y * splitter;
-  const double xh = xs - (xs - x), yh = ys - (ys - y), xl = x - xh, yl = y - yh;
-  const double p = x * y;
-  return {p, ((xh * yh - p) + xh * yl + xl * yh) + xl * yl};
-}
-
 // s / c: the quotient of the high parts, and the remainder's share.
 double ratio(Pair<double> s, Pair<double> c) {
-  s = normalized(s);
-  c = normalized(c);
+  s = exact_sum(s.high, s.low);
+  c = exact_sum(c.high, c.low);
   const double q = s.high / c.high;
-  const Pair<double> p = product(q, c.high);
+  const Pair<double> p = exact_product(q, c.high);
   return q + (((s.high - p.high) - p.low) + (s.low - q * c.low)) / c.high;
 }
 

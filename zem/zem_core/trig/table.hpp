@@ -1,7 +1,7 @@
 #pragma once
 // Sine and cosine by table: x = a + z + low with a = j * step, and sin(a + z + low) from a row
 // for a. One arithmetic for a scalar and a vector of doubles.
-#include "base/vec.hpp"
+#include "base/pair.hpp"
 
 namespace ork::trig {
 
@@ -41,18 +41,12 @@ ORK_INLINE Angle<f64x2> gather(const Row* rows, Offsets o) {
   return a;
 }
 
-// x = high + low, |low| small against high.
-template <class V>
-struct Pair {
-  V high, low;
-};
-
 // s_hi + z (c_hi + c_lo) + tail: the product with c_hi is exact, both sums keep their errors. What
 // is added last is below 2^-5 of the result, so that its rounding once gives 0.51 ulp.
 template <class V>
 ORK_INLINE Pair<V> table_sum(const Angle<V>& a, V z, V tail, V s_low) {
-  const V first = z * a.c_hi, h = a.s_hi + first, h_error = (a.s_hi - h) + first;
-  const V second = z * a.c_lo, h2 = h + second, h2_error = (h - h2) + second;
+  const auto [h, h_error] = exact_sum(a.s_hi, z * a.c_hi);
+  const auto [h2, h2_error] = exact_sum(h, z * a.c_lo);
   return {h2, (tail + (h_error + h2_error)) + s_low};
 }
 
