@@ -18,13 +18,19 @@ inline int thread_limit(const ork_threader* threader, int items = 0x7FFFFFFF) {
 // The table may run a body on any stack.
 #define ORK_BODY __attribute__((force_align_arg_pointer))
 
-// f(item, thread) for all items: on `threads` threads, or here in their order where that is 1.
+// f(item, thread) for all items, through the table.
+template <class F>
+inline void launch_items(const ork_threader* threader, int items, int threads, F f) {
+  threader->parallel_for(items, threads, &f, [](int item, int thread, int, void* context) ORK_BODY {
+    (*static_cast<F*>(context))(item, thread);
+  });
+}
+
+// The same, but here in their order where one thread does.
 template <class F>
 inline void run_items(const ork_threader* threader, int items, int threads, F f) {
   if (threads > 1)
-    threader->parallel_for(items, threads, &f,
-                           [](int item, int thread, int, void* context)
-                               ORK_BODY { (*static_cast<F*>(context))(item, thread); });
+    launch_items(threader, items, threads, f);
   else
     for (int item = 0; item < items; ++item) f(item, 0);
 }

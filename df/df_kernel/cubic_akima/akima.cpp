@@ -44,35 +44,10 @@ struct Akima {
 };
 
 template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYColsNoUniformGrid =
-    local_cubic<T, Akima, YCols, NoUniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYColsUniformGrid =
-    local_cubic<T, Akima, YCols, UniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYRowsNoUniformGrid =
-    local_cubic<T, Akima, YRows, NoUniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSAkimaYRowsUniformGrid =
-    local_cubic<T, Akima, YRows, UniformGrid>;
-
-template <class T>
-inline constexpr LocalKernel* akima_dispatch[] = {
-    _v1DCSAkimaYColsNoUniformGrid<T>,
-    _v1DCSAkimaYColsUniformGrid<T>,
-    _v1DCSAkimaYRowsNoUniformGrid<T>,
-    _v1DCSAkimaYRowsUniformGrid<T>,
-};
+int construct_akima(const Task* task, int64_t, const ork_threader* threader) {
+  return construct_local<T, Akima>(task, threader);
+}
 
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFAkimaCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                   const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<double>, task, method,
-                                                  threader);
-}
-ORK_EXPORT int ork_df_kernel_sDFAkimaCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                   const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Akima>(ork::df::akima_dispatch<float>, task, method,
-                                                  threader);
-}
+ORK_CONSTRUCTION(AkimaCubic, construct_akima)

@@ -32,35 +32,10 @@ struct Bessel {
 };
 
 template <class T>
-inline constexpr LocalKernel* _v1DCSBesselYColsNoUniformGrid =
-    local_cubic<T, Bessel, YCols, NoUniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSBesselYColsUniformGrid =
-    local_cubic<T, Bessel, YCols, UniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSBesselYRowsNoUniformGrid =
-    local_cubic<T, Bessel, YRows, NoUniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSBesselYRowsUniformGrid =
-    local_cubic<T, Bessel, YRows, UniformGrid>;
-
-template <class T>
-inline constexpr LocalKernel* bessel_dispatch[] = {
-    _v1DCSBesselYColsNoUniformGrid<T>,
-    _v1DCSBesselYColsUniformGrid<T>,
-    _v1DCSBesselYRowsNoUniformGrid<T>,
-    _v1DCSBesselYRowsUniformGrid<T>,
-};
+int construct_bessel(const Task* task, int64_t, const ork_threader* threader) {
+  return construct_local<T, Bessel>(task, threader);
+}
 
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFBesselCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                    const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Bessel>(ork::df::bessel_dispatch<double>, task, method,
-                                                   threader);
-}
-ORK_EXPORT int ork_df_kernel_sDFBesselCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                    const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Bessel>(ork::df::bessel_dispatch<float>, task, method,
-                                                   threader);
-}
+ORK_CONSTRUCTION(BesselCubic, construct_bessel)

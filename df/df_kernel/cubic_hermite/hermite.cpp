@@ -23,35 +23,10 @@ struct Hermite {
 };
 
 template <class T>
-inline constexpr LocalKernel* _v1DCSHermiteYColsNoUniformGrid =
-    local_cubic<T, Hermite, YCols, NoUniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSHermiteYColsUniformGrid =
-    local_cubic<T, Hermite, YCols, UniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSHermiteYRowsNoUniformGrid =
-    local_cubic<T, Hermite, YRows, NoUniformGrid>;
-template <class T>
-inline constexpr LocalKernel* _v1DCSHermiteYRowsUniformGrid =
-    local_cubic<T, Hermite, YRows, UniformGrid>;
-
-template <class T>
-inline constexpr LocalKernel* hermite_dispatch[] = {
-    _v1DCSHermiteYColsNoUniformGrid<T>,
-    _v1DCSHermiteYColsUniformGrid<T>,
-    _v1DCSHermiteYRowsNoUniformGrid<T>,
-    _v1DCSHermiteYRowsUniformGrid<T>,
-};
+int construct_hermite(const Task* task, int64_t, const ork_threader* threader) {
+  return construct_local<T, Hermite>(task, threader);
+}
 
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFHermiteCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                     const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Hermite>(ork::df::hermite_dispatch<double>, task, method,
-                                                    threader);
-}
-ORK_EXPORT int ork_df_kernel_sDFHermiteCubicSpline1D(ork_df_task* task, int64_t, int64_t method,
-                                                     const ork_threader* threader) {
-  return ork::df::construct_local<ork::df::Hermite>(ork::df::hermite_dispatch<float>, task, method,
-                                                    threader);
-}
+ORK_CONSTRUCTION(HermiteCubic, construct_hermite)

@@ -110,15 +110,13 @@ struct Local {
 
   // A block of cells and a group of functions. The first and the last block take the
   // spline's end cells along.
-  static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
-                                                            void* context) {
-    const Local& s = *static_cast<const Local*>(context);
-    const int at = item % s.blocks, f0 = item / s.blocks * group;
-    const int f1 = s.ny - f0 < group ? s.ny : f0 + group;
+  void serve(int item, int thread) const {
+    const int at = item % blocks, f0 = item / blocks * group;
+    const int f1 = ny - f0 < group ? ny : f0 + group;
     const int begin = at == 0 ? 0 : margin + at * block;
-    const int end = at == s.blocks - 1 ? s.n - 1 : margin + (at + 1) * block;
+    const int end = at == blocks - 1 ? n - 1 : margin + (at + 1) * block;
     for (int i = begin; i < end; i += Rule::run)
-      s.cells(thread, i, end - i < Rule::run ? end : i + Rule::run, f0, f1);
+      cells(thread, i, end - i < Rule::run ? end : i + Rule::run, f0, f1);
   }
 
   static int build(const Task* task, int boundary, const ork_threader* threader) {
@@ -130,39 +128,32 @@ struct Local {
     const int interior = n - 1 - 2 * margin;
     const int blocks = interior > block ? (interior - 1) / block + 1 : 1;
     const int tasks = blocks * ((ny - 1) / group + 1);
-    const int limit = thread_limit(threader), threads = limit < tasks ? limit : tasks;
+    const bool launched = threader != nullptr && static_cast<int64_t>(n) * ny >= 512;
+    const int threads = launched ? thread_limit(threader, tasks) : 1;
     const Scratch<T> work(static_cast<uint64_t>(threads) * (arrays * held));
     if (!work) return ORK_DF_NO_MEMORY;
 
     const typename Grid::template View<T> x(task);
-    Local s{task, boundary, n, ny, x, 1 / x.length(0), blocks, work.get()};
-    if (threader != nullptr && static_cast<int64_t>(n) * ny >= 512)
-      threader->parallel_for(tasks, threads, &s, body);
+    const Local s{task, boundary, n, ny, x, 1 / x.length(0), blocks, work.get()};
+    if (launched)
+      launch_items(threader, tasks, threads, [&](int item, int thread) { s.serve(item, thread); });
     else
-      for (int item = 0; item < tasks; ++item) body(item, 0, 0, &s);
+      for (int item = 0; item < tasks; ++item) s.serve(item, 0);
     return ORK_DF_OK;
   }
 };
 
-using LocalKernel = int(const Task*, int64_t xhint, int64_t yhint, int64_t method, int boundary,
-                        const ork_threader*);
-
-template <class T, class Rule, class Y, class Grid>
-int local_cubic(const Task* task, int64_t, int64_t, int64_t, int boundary,
-                const ork_threader* threader) {
-  return Local<T, Rule, Y, Grid>::build(task, boundary, threader);
-}
-
-template <class Rule>
-int construct_local(LocalKernel* const (&dispatch)[4], const Task* task, int64_t method,
-                    const ork_threader* threader) {
+template <class T, class Rule>
+int construct_local(const Task* task, const ork_threader* threader) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (const int code = check_shape(task, Rule::least_nx)) return code;
   const int boundary = check_cubic_boundary(task, Rule::may_be_unset);
   if (boundary < 0) return boundary;
   if (const int code = Rule::check(task)) return code;
   if (const int code = check_arrays(task)) return code;
-  return dispatch[dispatch_block(task)](task, task->xhint, task->yhint, method, boundary, threader);
+  return for_layout(task, [&]<class Y, class Grid>() {
+    return Local<T, Rule, Y, Grid>::build(task, boundary, threader);
+  });
 }
 
 }  // namespace ork::df

@@ -143,28 +143,20 @@ struct Natural {
     return ORK_DF_OK;
   }
 
-  struct Launch {
-    const Natural* spline;
-    int32_t* status;
-  };
-  static __attribute__((force_align_arg_pointer)) void body(int f, int thread, int, void* context) {
-    const auto* launch = static_cast<const Launch*>(context);
-    const Natural& s = *launch->spline;
-    T *t = s.difference(thread), *b = s.column(thread);
-    int code = s.right_side(f, t, b);
-    if (code == ORK_DF_OK && !solve_factored(s.n, 1, s.lower, s.diagonal, s.upper, b))
-      code = ORK_DF_SOLVER_FAILED;
-    if (code == ORK_DF_OK) s.write(f, t, b);
-    launch->status[f] = code;
+  // Function f in a thread's own column.
+  int apart(int f, int thread) const {
+    T *t = difference(thread), *b = column(thread);
+    if (const int code = right_side(f, t, b)) return code;
+    if (!solve_factored(n, 1, lower, diagonal, upper, b)) return ORK_DF_SOLVER_FAILED;
+    write(f, t, b);
+    return ORK_DF_OK;
   }
   int spread(int ny, int threads, const ork_threader* threader) const {
     if (is_periodic() && !solve_factored(n, 1, lower, diagonal, upper, z))
       return ORK_DF_SOLVER_FAILED;
     const Scratch<int32_t> status(ny);
     if (!status) return ORK_DF_NO_MEMORY;
-    for (int f = 0; f < ny; ++f) status[f] = ORK_DF_OK;
-    Launch launch{this, status.get()};
-    threader->parallel_for(ny, threads, &launch, body);
+    launch_items(threader, ny, threads, [&](int f, int thread) { status[f] = apart(f, thread); });
     for (int f = 0; f < ny; ++f)
       if (status[f] != ORK_DF_OK) return status[f];
     return ORK_DF_OK;
@@ -172,7 +164,7 @@ struct Natural {
 
   static int build(const Task* task, int boundary, const ork_threader* threader) {
     const int n = breakpoints(task), ny = functions(task);
-    const int limit = thread_limit(threader), threads = limit < ny ? limit : ny;
+    const int threads = thread_limit(threader, ny);
     const bool parallel = ny > 1 && threads > 1 && n >= 300 && (n >= 600 || threads >= 8);
     const bool factored = ny > 1 || boundary == periodic;
 

@@ -10,16 +10,16 @@ constexpr int values_on_stack = 2048;
 // One of the two arrays of limits.
 template <class T>
 struct Limits {
-  const T* given;
-  int64_t total;  // generated limits: how many; else 0
+  const T* first;  // or the two that the others are generated from
+  int64_t total;   // generated limits: how many; else 0
   int method;
   Search<T> search;
 
-  // The limits first .. first + n - 1 in `own` or where they lie, and their cells.
-  int find(int first, int n, T* own, const T*& limit, int32_t& state, int32_t* cell) const {
-    limit = given + first;
+  // The limits start .. start + n - 1 in `own` or where they lie, and their cells.
+  int find(int start, int n, T* own, const T*& limit, int32_t& state, int32_t* cell) const {
+    limit = first + start;
     if (total != 0) {
-      generate_sites(given, total, first, n, own);
+      generate_sites(first, total, start, n, own);
       limit = own;
     }
     return find_dispatch<T>[method](search, n, limit, state, cell);
@@ -167,32 +167,49 @@ int integrate_peaks(Integration<T>& job, const ork_threader* threader) {
   return value ? run(value.get()) : ORK_DF_NO_MEMORY;
 }
 
+// What the entry is called with.
 template <class T>
-int integrate_task(const Task* task, int64_t nlim, const T* left, int64_t left_hint, const T* right,
-                   int64_t right_hint, const T* left_data, const T* right_data, T* result,
-                   int64_t result_hint, const Parts<T>& parts,
-                   typename SearchCallback<T>::type* search_callback, void* search_params,
-                   const ork_threader* threader) {
+struct Call {
+  struct Ends {
+    const T* limits;
+    int64_t hint;
+    const T* data_hint;
+  };
+  const Task* task;
+  int64_t nlim;
+  Ends left, right;
+  T* result;
+  int64_t result_hint;
+  Parts<T> parts;
+  typename SearchCallback<T>::type* search_callback;
+  void* search_params;
+};
+
+template <class T>
+int integrate_task(const Call<T>& call, const ork_threader* threader) {
+  const Task* const task = call.task;
+  const Parts<T>& parts = call.parts;
   if (task == nullptr) return ORK_DF_NULL_TASK;
   Integration<T> job;
   const bool all_callbacks =
       parts.left != nullptr && parts.interior != nullptr && parts.right != nullptr;
   job.kind = kind_of(task->splineOrder, task->splineType, all_callbacks);
   if (job.kind < 0 || job.kind == look_up_kind) return ORK_DF_BAD_TYPE;
-  job.nlim = nlim > 0 ? static_cast<int32_t>(nlim) : 0;
-  const auto set = [&](Limits<T>& limits, const T* given, int64_t hint, const T* data) {
-    limits.given = given;
-    limits.total = (hint & uniform_sites) != 0 ? job.nlim : 0;
-    limits.method = choose_search(task, hint, data, search_callback, search_params, limits.search);
+  job.nlim = call.nlim > 0 ? static_cast<int32_t>(call.nlim) : 0;
+  const auto set = [&](Limits<T>& limits, const typename Call<T>::Ends& ends) {
+    limits.first = ends.limits;
+    limits.total = (ends.hint & uniform_sites) != 0 ? job.nlim : 0;
+    limits.method = choose_search(task, ends.hint, ends.data_hint, call.search_callback,
+                                  call.search_params, limits.search);
     return limits.method < 0 ? limits.method : 0;
   };
-  int status = set(job.left, left, left_hint, left_data);
+  int status = set(job.left, call.left);
   if (status < 0) return status;
-  status = set(job.right, right, right_hint, right_data);
+  status = set(job.right, call.right);
   if (status < 0) return status;
   job.fit = Fit<T>(task);
-  job.result = result;
-  switch (result_hint) {
+  job.result = call.result;
+  switch (call.result_hint) {
     case ORK_DF_RESULT_DEFAULT:
     case ORK_DF_RESULT_COLS:
       job.by_function = 1;
@@ -216,7 +233,7 @@ int integrate_task(const Task* task, int64_t nlim, const T* left, int64_t left_h
   job.middles = {};
   const bool summed_by_cells = job.kind != subbotin_kind && job.kind < step_left_kind;
   if (summed_by_cells && !parts.any() &&
-      cut_at_peaks(left_data, right_data, job.fit.nx, job.middles.cut))
+      cut_at_peaks(call.left.data_hint, call.right.data_hint, job.fit.nx, job.middles.cut))
     return integrate_peaks(job, threader);
   return integrate_blocks(job, threader);
 }
@@ -224,29 +241,25 @@ int integrate_task(const Task* task, int64_t nlim, const T* left, int64_t left_h
 }  // namespace
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFIntegrate1D(
-    const ork_df_task* task, int64_t, int64_t nlim, const double* left, int64_t leftHint,
-    const double* right, int64_t rightHint, const double* leftDataHint, const double* rightDataHint,
-    double* result, int64_t resultHint, ork_df_integr_d* leftCallback, void* leftParams,
-    ork_df_integr_d* rightCallback, void* rightParams, ork_df_integr_d* interiorCallback,
-    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
-    const ork_threader* threader) {
-  return ork::df::integrate_task<double>(
-      task, nlim, left, leftHint, right, rightHint, leftDataHint, rightDataHint, result, resultHint,
-      {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams},
-      searchCallback, searchParams, threader);
-}
-ORK_EXPORT int ork_df_kernel_sDFIntegrate1D(const ork_df_task* task, int64_t, int64_t nlim,
-                                            const float* left, int64_t leftHint, const float* right,
-                                            int64_t rightHint, const float* leftDataHint,
-                                            const float* rightDataHint, float* result,
-                                            int64_t resultHint, ork_df_integr_s* leftCallback,
-                                            void* leftParams, ork_df_integr_s* rightCallback,
-                                            void* rightParams, ork_df_integr_s* interiorCallback,
-                                            void* interiorParams, ork_df_search_s* searchCallback,
-                                            void* searchParams, const ork_threader* threader) {
-  return ork::df::integrate_task<float>(
-      task, nlim, left, leftHint, right, rightHint, leftDataHint, rightDataHint, result, resultHint,
-      {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams},
-      searchCallback, searchParams, threader);
-}
+#define ORK_INTEGRATE(letter, T)                                                                   \
+  ORK_EXPORT int ork_df_kernel_##letter##DFIntegrate1D(                                            \
+      const ork_df_task* task, int64_t, int64_t nlim, const T* left, int64_t leftHint,             \
+      const T* right, int64_t rightHint, const T* leftDataHint, const T* rightDataHint, T* result, \
+      int64_t resultHint, ork_df_integr_##letter* leftCallback, void* leftParams,                  \
+      ork_df_integr_##letter* rightCallback, void* rightParams,                                    \
+      ork_df_integr_##letter* interiorCallback, void* interiorParams,                              \
+      ork_df_search_##letter* searchCallback, void* searchParams, const ork_threader* threader) {  \
+    return ork::df::integrate_task<T>(                                                             \
+        {task,                                                                                     \
+         nlim,                                                                                     \
+         {left, leftHint, leftDataHint},                                                           \
+         {right, rightHint, rightDataHint},                                                        \
+         result,                                                                                   \
+         resultHint,                                                                               \
+         {leftCallback, leftParams, interiorCallback, interiorParams, rightCallback, rightParams}, \
+         searchCallback,                                                                           \
+         searchParams},                                                                            \
+        threader);                                                                                 \
+  }
+ORK_INTEGRATE(d, double)
+ORK_INTEGRATE(s, float)

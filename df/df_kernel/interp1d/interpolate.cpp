@@ -140,34 +140,59 @@ int interpolate_one(const Interpolation<T>& job) {
   return eval.fill(job.fit, job.request, 1, located, 0, job.output(0, 0));
 }
 
+// What the entry is called with, in its order.
 template <class T>
-int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, int64_t site_hint,
-                int64_t flags, const void* flag, const T* data_hint, T* result, int64_t result_hint,
-                void* cell, typename InterpCallback<T>::type* left, void* left_params,
-                typename InterpCallback<T>::type* right, void* right_params,
-                typename InterpCallback<T>::type* inner, void* inner_params,
-                typename SearchCallback<T>::type* search_callback, void* search_params,
-                const ork_threader* threader) {
+struct Call {
+  using Callback = typename InterpCallback<T>::type;
+  const Task* task;
+  int64_t type, nsite;
+  const T* site;
+  int64_t site_hint;
+  int64_t flags;
+  const void* flag;
+  const T* data_hint;
+  T* result;
+  int64_t result_hint;
+  void* cell;
+  Callback* left;
+  void* left_params;
+  Callback* right;
+  void* right_params;
+  Callback* inner;
+  void* inner_params;
+  typename SearchCallback<T>::type* search_callback;
+  void* search_params;
+
+  void set_callbacks(Interpolation<T>& job) const {
+    job.callback[left_side] = left, job.params[left_side] = left_params;
+    job.callback[interior] = inner, job.params[interior] = inner_params;
+    job.callback[right_side] = right, job.params[right_side] = right_params;
+  }
+};
+
+template <class T>
+int interpolate(const Call<T>& call, const ork_threader* threader) {
   constexpr int64_t store_cells = 2, take_cells = 4;
+  const Task* const task = call.task;
   if (task == nullptr) return ORK_DF_NULL_TASK;
   Interpolation<T> job;
-  const bool all_callbacks = left != nullptr && right != nullptr && inner != nullptr;
+  const bool all_callbacks = call.left != nullptr && call.right != nullptr && call.inner != nullptr;
   job.kind = kind_of(task->splineOrder, task->splineType, all_callbacks);
   if (job.kind < 0) return job.kind;
-  job.take_cells = type == take_cells;
-  job.store_cells = (type & store_cells) != 0;
+  job.take_cells = call.type == take_cells;
+  job.store_cells = (call.type & store_cells) != 0;
   job.method = no_search;
   if (!job.take_cells) {
-    job.method =
-        choose_search(task, site_hint, data_hint, search_callback, search_params, job.search);
+    job.method = choose_search(task, call.site_hint, call.data_hint, call.search_callback,
+                               call.search_params, job.search);
     if (job.method < 0) return job.method;
   }
-  job.nsite = nsite > 0 ? static_cast<int32_t>(nsite) : 0;
+  job.nsite = call.nsite > 0 ? static_cast<int32_t>(call.nsite) : 0;
   job.fit = Fit<T>(task);
   const bool wide = task->widthFlag != 0;
-  job.request = read_request(flags, flag, wide);
-  job.result = result;
-  switch (result_hint) {
+  job.request = read_request(call.flags, call.flag, wide);
+  job.result = call.result;
+  switch (call.result_hint) {
     case ORK_DF_RESULT_DEFAULT:
     case ORK_DF_RESULT_COLS:
       job.by_site = 1;
@@ -182,13 +207,11 @@ int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, in
       return ORK_DF_BAD_RESULT_HINT;
   }
   job.by_function = static_cast<ptrdiff_t>(job.nsite) * job.request.count;
-  job.site = site;
-  job.total_sites = (site_hint & uniform_sites) != 0 ? job.nsite : 0;
-  job.cell = cell;
+  job.site = call.site;
+  job.total_sites = (call.site_hint & uniform_sites) != 0 ? job.nsite : 0;
+  job.cell = call.cell;
   job.wide_cells = wide;
-  job.callback[left_side] = left, job.params[left_side] = left_params;
-  job.callback[interior] = inner, job.params[interior] = inner_params;
-  job.callback[right_side] = right, job.params[right_side] = right_params;
+  call.set_callbacks(job);
 
   if (!has_data(task, job.kind)) {
     if (job.kind >= step_left_kind) return ORK_DF_BAD_Y;
@@ -196,7 +219,8 @@ int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, in
   }
   if (job.nsite == 0) return ORK_DF_OK;
   if (job.nsite == 1 && !job.store_cells && !job.take_cells && job.total_sites == 0 &&
-      job.kind <= cubic_kind && flags <= 4 && job.fit.ny == 1 && search_callback == nullptr)
+      job.kind <= cubic_kind && call.flags <= 4 && job.fit.ny == 1 &&
+      call.search_callback == nullptr)
     return interpolate_one(job);
   if (job.nsite < least_for_blocks) return interpolate_few(job);
   return interpolate_blocks(job, threader);
@@ -205,58 +229,47 @@ int interpolate(const Task* task, int64_t type, int64_t nsite, const T* site, in
 }  // namespace
 
 // The single-site road with the spline and the search named by the caller.
-static int interpolate_scalar(const Task* task, int kind, int search_kind, double site,
-                              int64_t flags, const void* flag, double* result,
-                              ork_df_interp_d* left, void* left_params, ork_df_interp_d* right,
-                              void* right_params, ork_df_interp_d* inner, void* inner_params) {
+static int interpolate_scalar(const Call<double>& call, int kind, int search_kind) {
+  const Task* const task = call.task;
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (kind < 0 || kind > cubic_kind) return ORK_DF_BAD_TYPE;
   if (!has_data(task, kind)) return ORK_DF_BAD_COEFFS;
   Interpolation<double> job;
   job.fit = Fit<double>(task);
   job.kind = kind;
-  job.request = read_request(flags < 4 ? flags : 4, flag, (task->widthFlag & 1) != 0);
-  Task as_asked = *task;
-  as_asked.xhint = search_kind == 0   ? ORK_DF_X_UNIFORM
+  job.request =
+      read_request(call.flags < 4 ? call.flags : 4, call.flag, (task->widthFlag & 1) != 0);
+  Task as_named = *task;
+  as_named.xhint = search_kind == 0   ? ORK_DF_X_UNIFORM
                    : search_kind == 1 ? ORK_DF_X_QUASI_UNIFORM
                                       : ORK_DF_X_NON_UNIFORM;
-  job.method = choose_search<double>(&as_asked, 0, nullptr, nullptr, nullptr, job.search);
-  job.site = &site;
-  job.result = result;
+  job.method = choose_search<double>(&as_named, 0, nullptr, nullptr, nullptr, job.search);
+  job.site = call.site;
+  job.result = call.result;
   job.by_function = job.by_site = job.request.count;
   job.by_order = 1;
-  job.callback[left_side] = left, job.params[left_side] = left_params;
-  job.callback[interior] = inner, job.params[interior] = inner_params;
-  job.callback[right_side] = right, job.params[right_side] = right_params;
+  call.set_callbacks(job);
   return interpolate_one(job);
 }
 
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFInterpolate1D(
-    const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const double* site,
-    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const double* dataHint,
-    double* result, int64_t resultHint, void* cell, ork_df_interp_d* leftCallback, void* leftParams,
-    ork_df_interp_d* rightCallback, void* rightParams, ork_df_interp_d* interiorCallback,
-    void* interiorParams, ork_df_search_d* searchCallback, void* searchParams,
-    const ork_threader* threader) {
-  return ork::df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
-                              result, resultHint, cell, leftCallback, leftParams, rightCallback,
-                              rightParams, interiorCallback, interiorParams, searchCallback,
-                              searchParams, threader);
-}
-ORK_EXPORT int ork_df_kernel_sDFInterpolate1D(
-    const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const float* site,
-    int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const float* dataHint,
-    float* result, int64_t resultHint, void* cell, ork_df_interp_s* leftCallback, void* leftParams,
-    ork_df_interp_s* rightCallback, void* rightParams, ork_df_interp_s* interiorCallback,
-    void* interiorParams, ork_df_search_s* searchCallback, void* searchParams,
-    const ork_threader* threader) {
-  return ork::df::interpolate(task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint,
-                              result, resultHint, cell, leftCallback, leftParams, rightCallback,
-                              rightParams, interiorCallback, interiorParams, searchCallback,
-                              searchParams, threader);
-}
+#define ORK_INTERPOLATE(letter, T)                                                                 \
+  ORK_EXPORT int ork_df_kernel_##letter##DFInterpolate1D(                                          \
+      const ork_df_task* task, int64_t type, int64_t, int64_t nsite, const T* site,                \
+      int64_t siteHint, int64_t nDerivFlags, const void* derivFlags, const T* dataHint, T* result, \
+      int64_t resultHint, void* cell, ork_df_interp_##letter* leftCallback, void* leftParams,      \
+      ork_df_interp_##letter* rightCallback, void* rightParams,                                    \
+      ork_df_interp_##letter* interiorCallback, void* interiorParams,                              \
+      ork_df_search_##letter* searchCallback, void* searchParams, const ork_threader* threader) {  \
+    return ork::df::interpolate<T>(                                                                \
+        {task, type, nsite, site, siteHint, nDerivFlags, derivFlags, dataHint, result, resultHint, \
+         cell, leftCallback, leftParams, rightCallback, rightParams, interiorCallback,             \
+         interiorParams, searchCallback, searchParams},                                            \
+        threader);                                                                                 \
+  }
+ORK_INTERPOLATE(d, double)
+ORK_INTERPOLATE(s, float)
 
 ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, int searchKind,
                                       double site, int64_t nDerivFlags, const void* derivFlags,
@@ -264,7 +277,8 @@ ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, 
                                       void* leftParams, ork_df_interp_d* rightCallback,
                                       void* rightParams, ork_df_interp_d* interiorCallback,
                                       void* interiorParams) {
-  return ork::df::interpolate_scalar(task, splineIndex, searchKind, site, nDerivFlags, derivFlags,
-                                     result, leftCallback, leftParams, rightCallback, rightParams,
-                                     interiorCallback, interiorParams);
+  return ork::df::interpolate_scalar(
+      {task, 0, 1, &site, 0, nDerivFlags, derivFlags, nullptr, result, 0, nullptr, leftCallback,
+       leftParams, rightCallback, rightParams, interiorCallback, interiorParams, nullptr, nullptr},
+      splineIndex, searchKind);
 }

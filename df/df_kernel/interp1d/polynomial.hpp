@@ -3,9 +3,9 @@
 // Horner's rule for each output; every lane does the same operations in the same order, so
 // the bits depend on the site alone.
 #pragma once
+#include "base/lanes.hpp"
 #include "base/vec.hpp"
 #include "interp1d/evaluate.hpp"
-#include "spline/lanes.hpp"
 
 namespace ork::df {
 

@@ -29,11 +29,10 @@ struct Linear {
     });
   }
 
-  static __attribute__((force_align_arg_pointer)) void body(int item, int, int, void* context) {
-    const Linear& s = *static_cast<const Linear*>(context);
-    const int first = item % s.blocks * block, f0 = item / s.blocks * group;
-    const int last = s.n - 1 - first < block ? s.n - 1 : first + block;
-    for (int f = f0; f < s.ny && f < f0 + group; ++f) s.cells(f, first, last);
+  void serve(int item) const {
+    const int first = item % blocks * block, f0 = item / blocks * group;
+    const int last = n - 1 - first < block ? n - 1 : first + block;
+    for (int f = f0; f < ny && f < f0 + group; ++f) cells(f, first, last);
   }
 
   static int build(const Task* task, const ork_threader* threader) {
@@ -43,20 +42,20 @@ struct Linear {
         if (!closes<T, Y>(task, f)) return ORK_DF_NOT_PERIODIC;
 
     const T* ends = partition<T>(task);
-    Linear s{task,
-             n,
-             ny,
-             typename Grid::template View<T>(task),
-             static_cast<T>(n - 1) / (ends[1] - ends[0]),
-             (n - 2) / block + 1};
+    const Linear s{task,
+                   n,
+                   ny,
+                   typename Grid::template View<T>(task),
+                   static_cast<T>(n - 1) / (ends[1] - ends[0]),
+                   (n - 2) / block + 1};
     const int tasks = s.blocks * ((ny - 1) / group + 1);
     if (static_cast<int64_t>(n) * ny < 128) {  // a small fit
       for (int f = 0; f < ny; ++f) s.cells(f, 0, n - 1);
     } else if (tasks < 5 || threader == nullptr) {
-      for (int item = 0; item < tasks; ++item) body(item, 0, 0, &s);
+      for (int item = 0; item < tasks; ++item) s.serve(item);
     } else {
-      const int limit = thread_limit(threader);
-      threader->parallel_for(tasks, limit < tasks ? limit : tasks, &s, body);
+      launch_items(threader, tasks, thread_limit(threader, tasks),
+                   [&](int item, int) { s.serve(item); });
     }
     return ORK_DF_OK;
   }

@@ -1,38 +1,17 @@
-// The quadratic splines: the standard kernels, their dispatch table, and the construction
-// entries, which serve the Subbotin kind, too.
+// The quadratic splines: the construction entries of the standard and the Subbotin kind.
 #include "quadratic_std/quadratic.hpp"
 
-#include "quadratic_subbotin/kernels.hpp"
+#include "quadratic_subbotin/subbotin.hpp"
 
 namespace ork::df {
-
-template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYColsNoUniformGrid =
-    Quadratic<T, YCols, NoUniformGrid>::build;
-template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYColsUniformGrid =
-    Quadratic<T, YCols, UniformGrid>::build;
-template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYRowsNoUniformGrid =
-    Quadratic<T, YRows, NoUniformGrid>::build;
-template <class T>
-inline constexpr QuadraticKernel* _v1DQSStdYRowsUniformGrid =
-    Quadratic<T, YRows, UniformGrid>::build;
-
-template <class T>
-inline constexpr QuadraticKernel* quadratic_dispatch[] = {
-    _v1DQSStdYColsNoUniformGrid<T>,
-    _v1DQSStdYColsUniformGrid<T>,
-    _v1DQSStdYRowsNoUniformGrid<T>,
-    _v1DQSStdYRowsUniformGrid<T>,
-};
 
 template <class T>
 int construct_quadratic_std(const Task* task) {
   if (task->bcType != ORK_DF_BC_MIDDLE) return ORK_DF_BAD_BC;
   if (task->bcValues == nullptr) return ORK_DF_BAD_BC_VALUES;
   if (const int code = check_arrays(task)) return code;
-  return quadratic_dispatch<T>[dispatch_block(task)](task);
+  return for_layout(task,
+                    [&]<class Y, class Grid>() { return Quadratic<T, Y, Grid>::build(task); });
 }
 
 template <class T>
@@ -41,15 +20,14 @@ int construct_subbotin(const Task* task) {
   const int boundary = boundary_index(task->bcType);
   if (!two_boundary_values(boundary)) return ORK_DF_BAD_BC;
   if (task->bcValues == nullptr) return ORK_DF_BAD_BC_VALUES;
-  const bool even = (task->icType & ORK_DF_IC_UNIFORM) != 0;
-  if (even && task->icValues == nullptr) return ORK_DF_BAD_IC_VALUES;
+  if ((task->icType & ORK_DF_IC_UNIFORM) && task->icValues == nullptr) return ORK_DF_BAD_IC_VALUES;
   if (const int code = check_arrays(task)) return code;
-  const int kernel = (4 * even + dispatch_block(task)) * boundary_slots + boundary;
-  return subbotin_dispatch<T>[kernel](task);
+  return for_layout(
+      task, [&]<class Y, class Grid>() { return Subbotin<T, Y, Grid>::build(task, boundary); });
 }
 
 template <class T>
-int construct_quadratic(const Task* task) {
+int construct_quadratic(const Task* task, int64_t, const ork_threader*) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
   if (const int code = check_shape(task, 2)) return code;
   switch (task->splineType) {
@@ -64,11 +42,4 @@ int construct_quadratic(const Task* task) {
 
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFQuadraticSpline1D(ork_df_task* task, int64_t, int64_t,
-                                                  const ork_threader*) {
-  return ork::df::construct_quadratic<double>(task);
-}
-ORK_EXPORT int ork_df_kernel_sDFQuadraticSpline1D(ork_df_task* task, int64_t, int64_t,
-                                                  const ork_threader*) {
-  return ork::df::construct_quadratic<float>(task);
-}
+ORK_CONSTRUCTION(Quadratic, construct_quadratic)

@@ -65,23 +65,6 @@ bool use_threads(int method, int n, int nx, int T) {
   }
 }
 
-// One slice of sites for each item.
-template <class T>
-struct Slices {
-  const Search<T>& search;
-  Find<T> find;
-  int length;
-  const T* site;
-  int32_t* cell;
-
-  static __attribute__((force_align_arg_pointer)) void body(int item, int, int, void* context) {
-    const auto& s = *static_cast<const Slices*>(context);
-    const ptrdiff_t first = static_cast<ptrdiff_t>(item) * s.length;
-    int32_t state = 0;
-    s.find(s.search, s.length, s.site + first, state, s.cell + first);
-  }
-};
-
 template <class T>
 int find_all(const Search<T>& search, int method, int n, const T* site, int32_t* cell,
              const ork_threader* threader) {
@@ -91,9 +74,13 @@ int find_all(const Search<T>& search, int method, int n, const T* site, int32_t*
   if (use_threads(method, n, search.nx, limit)) {
     const int grain = method == hybrid_search ? unit : 1, units = n / grain;
     const int threads = units < limit ? units : limit;
-    Slices<T> slices{search, find, units / threads * grain, site, cell};
-    threader->parallel_for(threads, threads, &slices, Slices<T>::body);
-    done = threads * slices.length;
+    const int length = units / threads * grain;
+    launch_items(threader, threads, threads, [&](int slice, int) {
+      const ptrdiff_t first = static_cast<ptrdiff_t>(slice) * length;
+      int32_t own_state = 0;
+      find(search, length, site + first, own_state, cell + first);
+    });
+    done = threads * length;
   }
   int32_t state = 0;
   return done < n ? find(search, n - done, site + done, state, cell + done) : ORK_DF_OK;
@@ -137,18 +124,13 @@ int search_sites(const Task* task, int64_t nsite, const T* site, int64_t site_hi
 }  // namespace
 }  // namespace ork::df
 
-ORK_EXPORT int ork_df_kernel_dDFSearch1D(const ork_df_task* task, int64_t, int64_t nsite,
-                                         const double* site, int64_t siteHint,
-                                         const double* dataHint, void* cell,
-                                         ork_df_search_d* searchCallback, void* searchParams,
-                                         const ork_threader* threader) {
-  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback,
-                               searchParams, threader);
-}
-ORK_EXPORT int ork_df_kernel_sDFSearch1D(const ork_df_task* task, int64_t, int64_t nsite,
-                                         const float* site, int64_t siteHint, const float* dataHint,
-                                         void* cell, ork_df_search_s* searchCallback,
-                                         void* searchParams, const ork_threader* threader) {
-  return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback,
-                               searchParams, threader);
-}
+#define ORK_SEARCH(letter, T)                                                                    \
+  ORK_EXPORT int ork_df_kernel_##letter##DFSearch1D(                                             \
+      const ork_df_task* task, int64_t, int64_t nsite, const T* site, int64_t siteHint,          \
+      const T* dataHint, void* cell, ork_df_search_##letter* searchCallback, void* searchParams, \
+      const ork_threader* threader) {                                                            \
+    return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback,    \
+                                 searchParams, threader);                                        \
+  }
+ORK_SEARCH(d, double)
+ORK_SEARCH(s, float)

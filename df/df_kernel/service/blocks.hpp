@@ -24,34 +24,25 @@ struct BlockPlan {
 // a thread of a team. 0, or a negative status of one of them.
 template <class Serve>
 int serve_blocks(const BlockPlan& plan, const ork_threader* threader, const Serve& serve) {
-  struct Level {
-    const Serve& serve;
-    int first, blocks, size;
-    int status;
-
-    static __attribute__((force_align_arg_pointer)) void body(int item, int thread, int,
-                                                              void* context) {
-      auto& level = *static_cast<Level*>(context);
-      const int code =
-          level.serve.run_in_team(level.first + item * level.size, level.blocks, thread);
-      if (code < 0) __atomic_store_n(&level.status, code, __ATOMIC_RELAXED);
-    }
-  };
   int first = 0;
   for (int k = 0; k < 2; ++k) {
     const int count = plan.tasks[k], blocks = k == 0 ? BlockPlan::first_blocks : 1;
-    Level level = {serve, first, blocks, blocks * plan.block, ORK_DF_OK};
+    const int size = blocks * plan.block;
+    const int threads = plan.threads < count ? plan.threads : count;
     if (plan.limit > 1 && count > 0) {
-      threader->parallel_for(count, plan.threads < count ? plan.threads : count, &level,
-                             Level::body);
-      if (level.status < 0) return level.status;
+      SharedStatus status;
+      launch_items(threader, count, threads, [&](int item, int thread) {
+        const int code = serve.run_in_team(first + item * size, blocks, thread);
+        if (code < 0) status.put(code);
+      });
+      if (status.get() != ORK_DF_OK) return status.get();
     } else {
       for (int item = 0; item < count; ++item) {
-        const int code = serve.run(first + item * level.size, blocks, 0);
+        const int code = serve.run(first + item * size, blocks, 0);
         if (code < 0) return code;
       }
     }
-    first += count * level.size;
+    first += count * size;
   }
   return ORK_DF_OK;
 }

@@ -1,10 +1,10 @@
-// Checks that the construction entries share, and the order of kernels in dispatch tables.
+// What the construction entries share: checks, and the exported forms.
 #pragma once
 #include "service/task.hpp"
 
 namespace ork::df {
 
-// Boundary index: the order of kernels within a block of a dispatch table.
+// The conditions at both ends.
 enum Boundary {
   not_a_knot,
   free_end,
@@ -15,9 +15,8 @@ enum Boundary {
   periodic,
   not_set
 };
-constexpr int boundary_slots = 7;  // not_set has no slot in the tables
 
-// The boundary index of bcType, or -1.
+// The boundary of bcType, or -1.
 inline int boundary_index(int64_t bc) {
   switch (bc) {
     case 1:
@@ -44,11 +43,6 @@ inline bool two_boundary_values(int boundary) {
   return boundary >= first_first && boundary <= second_second;
 }
 
-// Block of a dispatch table: storage is the more significant part.
-inline int dispatch_block(const Task* task) {
-  return 2 * !column_storage(task) + uniform_grid(task);
-}
-
 inline bool valid_storage(int64_t hint) {
   return hint == ORK_DF_ROWS_DEFAULT || hint == ORK_DF_ROWS || hint == ORK_DF_COLS ||
          hint == ORK_DF_ROWS_APART;
@@ -60,7 +54,7 @@ inline int check_shape(const Task* task, int least_nx) {
   return valid_storage(task->yhint) ? ORK_DF_OK : ORK_DF_BAD_YHINT;
 }
 
-// bcType and bcValues of a cubic spline. The boundary index, or a code.
+// bcType and bcValues of a cubic spline. The boundary, or a code.
 inline int check_cubic_boundary(const Task* task, bool may_be_unset) {
   const int boundary = boundary_index(task->bcType);
   if (boundary < 0 || (boundary == not_set && !may_be_unset)) return ORK_DF_BAD_BC;
@@ -71,3 +65,13 @@ inline int check_cubic_boundary(const Task* task, bool may_be_unset) {
 }
 
 }  // namespace ork::df
+
+// Both entries of a construction; build is a template over the type.
+#define ORK_CONSTRUCTION(name, build)         \
+  ORK_CONSTRUCTION_OF(d, double, name, build) \
+  ORK_CONSTRUCTION_OF(s, float, name, build)
+#define ORK_CONSTRUCTION_OF(letter, T, name, build)                               \
+  ORK_EXPORT int ork_df_kernel_##letter##DF##name##Spline1D(                      \
+      ork_df_task* task, int64_t, int64_t method, const ork_threader* threader) { \
+    return ork::df::build<T>(task, method, threader);                             \
+  }

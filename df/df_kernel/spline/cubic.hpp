@@ -1,6 +1,6 @@
 // A cubic piece from the values and slopes at its ends.
 #pragma once
-#include "spline/lanes.hpp"
+#include "base/lanes.hpp"
 
 namespace ork::df {
 

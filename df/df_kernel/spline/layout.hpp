@@ -1,8 +1,8 @@
 // How a kernel reads the partition and the functions: the two choices that, with the type,
 // make the instances of every construction.
 #pragma once
+#include "base/lanes.hpp"
 #include "service/construct.hpp"
-#include "spline/lanes.hpp"
 
 namespace ork::df {
 
@@ -80,6 +80,16 @@ struct UniformGrid {
     }
   };
 };
+
+// f<Y, Grid>() for the task's storage and partition.
+template <class F>
+int for_layout(const Task* task, F f) {
+  if (column_storage(task))
+    return uniform_grid(task) ? f.template operator()<YCols, UniformGrid>()
+                              : f.template operator()<YCols, NoUniformGrid>();
+  return uniform_grid(task) ? f.template operator()<YRows, UniformGrid>()
+                            : f.template operator()<YRows, NoUniformGrid>();
+}
 
 // What a construction reads and writes must be there. 0 or a code.
 inline int check_arrays(const Task* task) {

@@ -150,8 +150,11 @@ int32_t add(Task<R>& t, const ork_threader* threader) {
     }
     work.count = n - work.offset < room ? n - work.offset : room;
     SharedStatus status;
-    run_items(threader, p, thread_limit(threader, p),
-              [&](int item, int) { status.put(add_data(work, item)); });
+    const auto add_to = [&](int item, int) { status.put(add_data(work, item)); };
+    if (threader)
+      launch_items(threader, p, 0, add_to);  // as many threads as the table has
+    else
+      run_items(threader, p, 1, add_to);
     if (status.get() != ORK_SS_OK) return status.get();
     work.offset += work.count;
   }
