@@ -382,15 +382,70 @@ int32_t __ruasBRngSFMT19937(RuaStream*, int32_t n, float* r, float a, float b);
 int32_t __ruadBRngSFMT19937(RuaStream*, int32_t n, double* r, double a, double b);
 int32_t __ruaiBRngSFMT19937(RuaStream*, int32_t n, void* r);
 
-/* Quasi-random sequences. Not in this build yet: init and generate give BAD_GENERATOR. */
+/* ---- Quasi-random sequences -------------------------------------------------------- *
+ * Points of a sequence of low discrepancy in d dimensions, component by component, in the
+ * order of the Gray code, from Gray number 1 on: the point of zeros is left out. Integer
+ * items are the 32 bits behind the binary point. Real forms: C = 2^-32; the single form works
+ * in float: the word as a signed number, 2^32 more if negative, times (b - a) 2^-32, plus a.
+ *
+ * SEQUENCE_ENDED, with nothing drawn, when point number + n would exceed 2^32 - 1; n counts
+ * numbers, not points. BAD_GENERATOR: state or chunks that are not those of a sequence, as
+ * after a failed seed or copy.
+ *
+ * Leapfrog with nstreams = 0x7FFFFFFF selects component k, from the current point on, or from
+ * the next where it was emitted already; from one selected component to another it goes on with
+ * the point behind the current one. NO_LEAPFROG for other arguments. Skip-ahead passes over
+ * numbers of the whole sequence, also when one component is selected; NO_SKIPAHEAD, with
+ * nothing changed, when point number + nskip/d would reach 2^32 - 1. Its time depends on the
+ * bits that change in the point's number, not on nskip.
+ *
+ * Seed: a block of n words. Word 0 is d; with n = 0 d is 1. Words 1 and 2 are 1 and an option if
+ * numbers of the caller's own follow. Blocks that are too short for their option, unknown
+ * options and a d that is out of range without data of the caller's own are no errors: the
+ * built-in tables serve, and a d above their range becomes 1. User tables beyond the built-in
+ * dimensions are kept in chunks (NO_MEMORY). Polynomials: bit k is the coefficient of x^k; one
+ * without a power of x gives BAD_ARGUMENT.
+ *
+ * Sobol's sequence, up to 40 dimensions (Bratley, Fox 1988). Options, n >= 4:
+ *    1  d <= 40, n >= d + 2: polynomials of dimensions 1 to d - 1 from word 3 on
+ *    2  d <= 40, n >= (d - 1) m + 4: word 3 is m; rows of m initial values from word 4 on
+ *    3  n >= (d - 1)(m + 1) + 4: polynomials as in 1; m in word d + 2; rows from d + 3 on
+ *    4  n >= 32 d + 3: 32 direction numbers a dimension from word 3 on
+ *   11  n >= d (m + 1) + 4: as 3, dimension 0 included: m in word d + 3, rows from d + 4 on
+ * BAD_ARGUMENT when a polynomial's degree exceeds the initial values of its row (8 for the
+ * built-in ones). Initial value i counts in units of 2^-(i + 1) and should be odd and below
+ * 2^(i + 1), polynomials primitive and different: neither is checked.
+ *
+ * User tables beyond 40 dimensions are shared by copies and loads of the stream (chunk 9, chunk
+ * 13 holding the current point). The forms "Default" and "User" take the tables of the state
+ * and of the chunks; the plain ones the chunks if both are there. */
 int32_t __ruaBRngSobolInitStream(int32_t method, RuaStream*, int32_t n, const uint32_t* params);
 int32_t __ruasBRngSobol(RuaStream*, int32_t n, float* r, float a, float b);
 int32_t __ruadBRngSobol(RuaStream*, int32_t n, double* r, double a, double b);
 int32_t __ruaiBRngSobol(RuaStream*, int32_t n, void* r);
+int32_t __ruasBRngSobolDefault(RuaStream*, int32_t n, float* r, float a, float b);
+int32_t __ruadBRngSobolDefault(RuaStream*, int32_t n, double* r, double a, double b);
+int32_t __ruaiBRngSobolDefault(RuaStream*, int32_t n, void* r);
+int32_t __ruasBRngSobolUser(RuaStream*, int32_t n, float* r, float a, float b);
+int32_t __ruadBRngSobolUser(RuaStream*, int32_t n, double* r, double a, double b);
+int32_t __ruaiBRngSobolUser(RuaStream*, int32_t n, void* r);
+
+/* Niederreiter's sequence in base 2, up to 318 dimensions by the first irreducible polynomials
+ * (Niederreiter 1988; Bratley, Fox, Niederreiter 1994). Options, n >= 3:
+ *    1  n >= d + 3: polynomials of all dimensions from word 3 on, which should be irreducible
+ *       and different
+ *    4  n >= 32 d + 3: 32 direction numbers a dimension from word 3 on
+ * User tables beyond 318 dimensions stand in chunk 10, which copies of the stream copy. */
 int32_t __ruaBRngNiederrInitStream(int32_t method, RuaStream*, int32_t n, const uint32_t* params);
 int32_t __ruasBRngNiederr(RuaStream*, int32_t n, float* r, float a, float b);
 int32_t __ruadBRngNiederr(RuaStream*, int32_t n, double* r, double a, double b);
 int32_t __ruaiBRngNiederr(RuaStream*, int32_t n, void* r);
+int32_t __ruasBRngNiederrDefault(RuaStream*, int32_t n, float* r, float a, float b);
+int32_t __ruadBRngNiederrDefault(RuaStream*, int32_t n, double* r, double a, double b);
+int32_t __ruaiBRngNiederrDefault(RuaStream*, int32_t n, void* r);
+int32_t __ruasBRngNiederrUser(RuaStream*, int32_t n, float* r, float a, float b);
+int32_t __ruadBRngNiederrUser(RuaStream*, int32_t n, double* r, double a, double b);
+int32_t __ruaiBRngNiederrUser(RuaStream*, int32_t n, void* r);
 
 /* Abstract streams. The init functions take the words the constructors make: addresses of
  * n, ring, (addresses of a and b,) callback. Real forms: (v - lower) * scale + a, with

@@ -5,6 +5,7 @@
 
 #include "base/export.hpp"
 #include "ork/serv.h"
+#include "rua_sub_kernel/quasi/streams.hpp"
 #include "rua_sub_kernel/service/chunks.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 
@@ -132,7 +133,7 @@ int32_t load(Source get, RuaStream** stream) {
     return RUA_STATUS_NO_HARDWARE_RANDOM;
   for (int32_t i = 0; i < header.chunk_count && status == RUA_STATUS_OK; ++i)
     status = read_chunk(get, *stream, header.version);
-  return status;
+  return status == RUA_STATUS_OK && !has_sound_tables(*stream) ? Source::kBadFormat : status;
 }
 
 // A file name as a terminated string: the caller's own, or a copy of `len` characters.

@@ -55,6 +55,16 @@ int32_t ork::rua::find_chunk(const RuaStream* stream, uint32_t id, uint32_t size
   return *payload && chunk->size < size ? RUA_STATUS_BAD_GENERATOR : RUA_STATUS_OK;
 }
 
+void ork::rua::drop_chunk(RuaStream* stream, uint32_t id) {
+  RuaChunk** link = &stream->chunks;
+  while (*link && (*link)->chunkId != id) link = &(*link)->next;
+  if (RuaChunk* chunk = *link) {
+    *link = chunk->next;
+    release_payload(chunk);
+    ork_serv_deallocate(chunk);
+  }
+}
+
 ORK_EXPORT int32_t __ruaAddChunk(RuaStream* stream, uint32_t chunkId, const uint32_t* sharedId,
                                  void* data, uint32_t size) {
   auto* chunk = static_cast<RuaChunk*>(ork_serv_allocate(sizeof(RuaChunk), kAlignment));

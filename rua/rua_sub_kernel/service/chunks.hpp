@@ -40,4 +40,7 @@ int32_t find_chunk(const RuaStream* stream, P*& payload, uint32_t size = sizeof(
   return status;
 }
 
+// Releases the newest chunk of that id, if there is one.
+void drop_chunk(RuaStream* stream, uint32_t id);
+
 }  // namespace ork::rua

@@ -5,6 +5,7 @@
 
 #include "base/export.hpp"
 #include "ork/serv.h"
+#include "rua_sub_kernel/quasi/streams.hpp"
 
 using namespace ork::rua;
 
@@ -14,11 +15,13 @@ bool is_abstract(int32_t brng) {
   return brng == RUA_BRNG_IABSTRACT || brng == RUA_BRNG_DABSTRACT || brng == RUA_BRNG_SABSTRACT;
 }
 
-// Bytes that __ruaCopyStreamState moves: the seed state, within both records.
+// Bytes that __ruaCopyStreamState moves: the seed state, within both records. Tables of a
+// quasi-random sequence reach behind the seed state and go along whole.
 uint32_t seed_bytes(const RuaStream* target, const RuaStream* source) {
   const RuaBrngProperties& row = properties(source);
-  const uint64_t seed = uint64_t(uint32_t(row.wordSize)) * uint32_t(row.seedWords);
   const uint32_t from = state_bytes(row), to = state_bytes(properties(target));
+  const uint64_t seed =
+      is_quasi_random(row) ? from : uint64_t(uint32_t(row.wordSize)) * uint32_t(row.seedWords);
   const uint32_t room = from < to ? from : to;
   return seed < room ? uint32_t(seed) : room;
 }

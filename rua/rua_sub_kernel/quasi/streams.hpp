@@ -1,0 +1,23 @@
+// The two quasi-random generators by name.
+#pragma once
+#include "rua_sub_kernel/quasi/points.hpp"
+
+namespace ork::rua {
+
+Points sobol_points(RuaStream* stream, Tables where = Tables::kEither);
+Points niederreiter_points(RuaStream* stream, Tables where = Tables::kEither);
+
+// Whether a generator's words begin with the tables of a sequence.
+inline bool is_quasi_random(const RuaBrngProperties& row) {
+  return row.initStream == __ruaBRngSobolInitStream || row.initStream == __ruaBRngNiederrInitStream;
+}
+
+// False for a quasi-random stream whose words do not fit its tables.
+inline bool has_sound_tables(RuaStream* stream) {
+  const RuaBrngProperties& row = properties(stream);
+  if (row.initStream == __ruaBRngSobolInitStream) return sobol_points(stream).x;
+  if (row.initStream == __ruaBRngNiederrInitStream) return niederreiter_points(stream).x;
+  return true;
+}
+
+}  // namespace ork::rua
