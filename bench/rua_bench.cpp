@@ -1,5 +1,6 @@
 // Cycles a number of the basic generators, 1000 numbers a call, beside std::mt19937 scaled by
-// hand and GSL's mt19937 in the same run. Ends with 1 when a double form is over its bound.
+// hand and GSL's generators in the same run; times of skips. Ends with 1 when one is over its
+// bound.
 #include <dlfcn.h>
 
 #include <random>
@@ -42,9 +43,14 @@ double standard_library() {
   });
 }
 
+void* gsl_library() {
+  static void* library = dlopen("libgsl.so.27", RTLD_NOW);
+  return library;
+}
+
 // gsl_rng_uniform on mt19937; 0 when the library is not there.
 double gsl() {
-  void* library = dlopen("libgsl.so.27", RTLD_NOW);
+  void* library = gsl_library();
   if (library == nullptr) return 0;
   const auto alloc = reinterpret_cast<void* (*)(const void*)>(dlsym(library, "gsl_rng_alloc"));
   const auto uniform = reinterpret_cast<double (*)(void*)>(dlsym(library, "gsl_rng_uniform"));
@@ -54,6 +60,80 @@ double gsl() {
   return cycles([&] {
     for (double& x : r) x = uniform(rng);
   });
+}
+
+// Quasi-random sequences: bounds in cycles a number, integers and the two real forms.
+struct Quasi {
+  const char* name;
+  int32_t id;
+  uint32_t dimension;
+  bool one;  // a selected component
+  double integers, reals;
+};
+constexpr Quasi kQuasi[] = {
+    {"Sobol", RUA_BRNG_SOBOL, 10, false, 1.0, 1.3},
+    {"Sobol", RUA_BRNG_SOBOL, 40, false, 1.0, 1.3},
+    {"Sobol", RUA_BRNG_SOBOL, 40, true, 1.5, 1.5},
+    {"Niederr", RUA_BRNG_NIEDERR, 10, false, 0, 0},
+    {"Niederr", RUA_BRNG_NIEDERR, 318, false, 1.2, 1.2},
+    {"Niederr", RUA_BRNG_NIEDERR, 318, true, 1.5, 1.5},
+};
+
+// gsl_qrng_get, 1000 / d points a run; 0 when the library or the dimension is not there.
+double gsl_points(const Quasi& q) {
+  void* library = gsl_library();
+  if (library == nullptr || q.one) return 0;
+  const auto alloc =
+      reinterpret_cast<void* (*)(const void*, unsigned)>(dlsym(library, "gsl_qrng_alloc"));
+  const auto get = reinterpret_cast<int (*)(const void*, double*)>(dlsym(library, "gsl_qrng_get"));
+  const bool sobol = q.id == RUA_BRNG_SOBOL;
+  const auto type =
+      static_cast<void**>(dlsym(library, sobol ? "gsl_qrng_sobol" : "gsl_qrng_niederreiter_2"));
+  if (!alloc || !get || !type || q.dimension > (sobol ? 40 : 12)) return 0;
+  void* points = alloc(*type, q.dimension);
+  return cycles([&] {
+    for (unsigned i = 0; i + q.dimension <= kNumbers; i += q.dimension) get(points, r + i);
+  });
+}
+
+// A stream that begins anew before its sequence ends.
+struct QuasiStream {
+  const Quasi& q;
+  RuaStream* s = nullptr;
+  RuaBrngProperties row;
+  explicit QuasiStream(const Quasi& quasi) : q(quasi) {
+    __ruaGetBrngProperties(q.id, &row);
+    begin();
+  }
+  ~QuasiStream() { __ruaDeleteStream(&s); }
+  void begin() {
+    __ruaDeleteStream(&s);
+    __ruaNewStreamEx(&s, q.id, 1, &q.dimension);
+    if (q.one) __ruaLeapfrogStream(s, 7, 0x7FFFFFFF);
+  }
+};
+
+int quasi_random(Report& report) {
+  report.line(
+      "# quasi-random numbers, 1000 a call, cycles a number; gsl_qrng_get: ratio to double");
+  report.line(format("%-12s %6s %8s %8s %8s %8s %8s %8s", "sequence", "d", "double", "float",
+                     "bound", "integer", "bound", "GSL"));
+  int over = 0;
+  for (const Quasi& q : kQuasi) {
+    if (!report.wants(q.name)) continue;
+    QuasiStream at(q);
+    const double d = cycles([&] { at.row.dGenerate(at.s, kNumbers, r, 0, 1); });
+    at.begin();
+    const double f = cycles([&] { at.row.sGenerate(at.s, kNumbers, rf, 0, 1); });
+    at.begin();
+    const double i = cycles([&] { at.row.iGenerate(at.s, kNumbers, ri); });
+    const bool late = q.reals != 0 && (d > q.reals || f > q.reals || i > q.integers);
+    over += late;
+    report.line(format("%-12s %3u%s %8.2f %8.2f %8.1f %8.2f %8.1f %8.1f%s", q.name, q.dimension,
+                       q.one ? "/1" : "  ", d, f, q.reals, i, q.integers, gsl_points(q) / d,
+                       late ? "  over" : ""));
+  }
+  return over;
 }
 
 }  // namespace
@@ -85,5 +165,6 @@ int main(int argc, char** argv) {
   report.line(format("%-12s %8.2f", "std::mt19937", standard));
   report.line(with_gsl != 0 ? format("%-12s %8.2f", "GSL mt19937", with_gsl)
                             : std::string("GSL mt19937: libgsl.so.27 is not there, skipped"));
+  over += quasi_random(report);
   return over != 0;
 }
