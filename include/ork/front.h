@@ -74,6 +74,15 @@ float ork_set_threshold(float work);
  * released by ork_stream_delete. After any failure *stream is null. */
 int ork_stream_new(RuaStream** stream, int32_t brng, uint32_t seed);
 
+/* A quasi-random sequence of points with `dimension` components, RUA_BRNG_SOBOL (up to 40) or
+ * RUA_BRNG_NIEDERR (up to 318), that starts with its first point; each draw is the next
+ * component. BAD_ARGUMENT: dimension out of range. BAD_GENERATOR: another generator. After any
+ * failure *stream is null. */
+int ork_stream_new_points(RuaStream** stream, int32_t brng, int32_t dimension);
+
+/* From here on only that component of the points. NO_LEAPFROG: there is no such component. */
+int ork_stream_select(RuaStream* stream, int32_t component);
+
 /* Releases *stream, which may be null, and sets it to null. */
 int ork_stream_delete(RuaStream** stream);
 
@@ -82,7 +91,8 @@ int ork_stream_copy(RuaStream** copy, const RuaStream* stream);
 
 /* The stream goes on with elements k, k + nstreams, k + 2 nstreams ... of its sequence.
  * BAD_LEAPFROG_COUNT: nstreams below 1. BAD_ARGUMENT: k not from 0 to nstreams - 1.
- * NO_LEAPFROG: the generator cannot. */
+ * NO_LEAPFROG: the generator cannot; of quasi-random points ork_stream_select takes one
+ * component. */
 int ork_stream_leapfrog(RuaStream* stream, int32_t k, int32_t nstreams);
 
 /* Passes over n elements. NO_SKIPAHEAD: the generator cannot, or not by that n. */

@@ -10,6 +10,20 @@ ORK_OUTER int ork_stream_new(RuaStream** stream, int32_t brng, uint32_t seed) {
   return status;
 }
 
+ORK_OUTER int ork_stream_new_points(RuaStream** stream, int32_t brng, int32_t dimension) {
+  if (stream == nullptr) return RUA_STATUS_NULL_POINTER;
+  *stream = nullptr;
+  const int32_t most = brng == RUA_BRNG_SOBOL ? 40 : brng == RUA_BRNG_NIEDERR ? 318 : 0;
+  if (most == 0) return RUA_STATUS_BAD_GENERATOR;
+  if (dimension < 1 || dimension > most) return RUA_STATUS_BAD_ARGUMENT;
+  return ork_stream_new(stream, brng, uint32_t(dimension));
+}
+
+ORK_OUTER int ork_stream_select(RuaStream* stream, int32_t component) {
+  if (stream == nullptr) return RUA_STATUS_NULL_POINTER;
+  return __ruaLeapfrogStream(stream, component, INT32_MAX);
+}
+
 ORK_OUTER int ork_stream_delete(RuaStream** stream) {
   return stream != nullptr ? __ruaDeleteStream(stream) : RUA_STATUS_NULL_POINTER;
 }

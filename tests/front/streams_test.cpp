@@ -27,6 +27,15 @@ TEST(FrontStreams, BadArguments) {
       {"new, negative generator", -1000, [&] { return ork_stream_new(&out, -1, 1); }},
       {"new, abstract generator", -1000,
        [&] { return ork_stream_new(&out, RUA_BRNG_DABSTRACT, 1); }},
+      {"points, no place", -5, [&] { return ork_stream_new_points(nullptr, RUA_BRNG_SOBOL, 1); }},
+      {"points, no sequence", -1000,
+       [&] { return ork_stream_new_points(&out, RUA_BRNG_MCG59, 1); }},
+      {"points, no component", -3, [&] { return ork_stream_new_points(&out, RUA_BRNG_SOBOL, 0); }},
+      {"points, negative", -3, [&] { return ork_stream_new_points(&out, RUA_BRNG_NIEDERR, -1); }},
+      {"points, too many", -3, [&] { return ork_stream_new_points(&out, RUA_BRNG_SOBOL, 41); }},
+      {"points, too many", -3, [&] { return ork_stream_new_points(&out, RUA_BRNG_NIEDERR, 319); }},
+      {"select, null", -5, [&] { return ork_stream_select(nullptr, 0); }},
+      {"select, not by this generator", -1002, [&] { return ork_stream_select(mersenne, 0); }},
       {"delete, no place", -5, [&] { return ork_stream_delete(nullptr); }},
       {"delete, null stream", 0, [&] { return ork_stream_delete(&out); }},
       {"copy, no place", -5, [&] { return ork_stream_copy(nullptr, s); }},
@@ -87,6 +96,25 @@ TEST(FrontStreams, NothingIsLeftWhenTheGeneratorRefusesTheSeed) {
   EXPECT_EQ(ork_stream_new(&stream, brng, 1), -3);
   EXPECT_EQ(stream, nullptr);
   EXPECT_EQ(blocks::live(), before);
+}
+
+TEST(FrontStreams, PointsAndOneComponent) {
+  for (int brng : {RUA_BRNG_SOBOL, RUA_BRNG_NIEDERR}) {
+    const int most = brng == RUA_BRNG_SOBOL ? 40 : 318;
+    Stream points, one;
+    ASSERT_EQ(ork_stream_delete(&points.handle), 0);
+    ASSERT_EQ(ork_stream_delete(&one.handle), 0);
+    ASSERT_EQ(ork_stream_new_points(&points.handle, brng, most), 0);
+    ASSERT_EQ(ork_stream_new_points(&one.handle, brng, most), 0);
+    EXPECT_EQ(ork_stream_select(one, most), -1002);
+    EXPECT_EQ(ork_stream_select(one, -1), -1002);
+    ASSERT_EQ(ork_stream_select(one, most - 1), 0);
+    std::vector<double> all(5 * most), last(5);
+    ASSERT_EQ(ork_dRngUniform(0, points, 5 * most, all.data(), 0, 1), 0);
+    ASSERT_EQ(ork_dRngUniform(0, one, 5, last.data(), 0, 1), 0);
+    EXPECT_EQ(all[0], 0.5);
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(last[i], all[(i + 1) * most - 1]);
+  }
 }
 
 // A distribution behind the checks, in the order of the registry's rows.
