@@ -4,7 +4,6 @@
 // the stream's words, larger ones in a chunk, direction numbers first, the current point behind.
 #include <string.h>
 
-#include "base/export.hpp"
 #include "base/scratch.hpp"
 #include "rua_sub_kernel/quasi/points.hpp"
 #include "rua_sub_kernel/quasi/streams.hpp"
@@ -148,33 +147,6 @@ ORK_EXPORT int32_t __ruaBRngNiederrInitStream(int32_t method, RuaStream* stream,
   return reposition(method, niederreiter_points(stream), n, params);
 }
 
-ORK_EXPORT int32_t __ruasBRngNiederr(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return floats(niederreiter_points(stream), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruadBRngNiederr(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  return doubles(niederreiter_points(stream), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruaiBRngNiederr(RuaStream* stream, int32_t n, void* r) {
-  return integers(niederreiter_points(stream), n, r);
-}
-ORK_EXPORT int32_t __ruasBRngNiederrDefault(RuaStream* stream, int32_t n, float* r, float a,
-                                            float b) {
-  return floats(niederreiter_points(stream, Tables::kInState), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruadBRngNiederrDefault(RuaStream* stream, int32_t n, double* r, double a,
-                                            double b) {
-  return doubles(niederreiter_points(stream, Tables::kInState), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruaiBRngNiederrDefault(RuaStream* stream, int32_t n, void* r) {
-  return integers(niederreiter_points(stream, Tables::kInState), n, r);
-}
-ORK_EXPORT int32_t __ruasBRngNiederrUser(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return floats(niederreiter_points(stream, Tables::kInChunks), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruadBRngNiederrUser(RuaStream* stream, int32_t n, double* r, double a,
-                                         double b) {
-  return doubles(niederreiter_points(stream, Tables::kInChunks), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruaiBRngNiederrUser(RuaStream* stream, int32_t n, void* r) {
-  return integers(niederreiter_points(stream, Tables::kInChunks), n, r);
-}
+ORK_GENERATE_POINTS(Niederr, niederreiter_points(stream))
+ORK_GENERATE_POINTS(NiederrDefault, niederreiter_points(stream, Tables::kInState))
+ORK_GENERATE_POINTS(NiederrUser, niederreiter_points(stream, Tables::kInChunks))

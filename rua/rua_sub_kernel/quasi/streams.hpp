@@ -1,5 +1,6 @@
 // The two quasi-random generators by name.
 #pragma once
+#include "base/export.hpp"
 #include "rua_sub_kernel/quasi/points.hpp"
 
 namespace ork::rua {
@@ -21,3 +22,16 @@ inline bool has_sound_tables(RuaStream* stream) {
 }
 
 }  // namespace ork::rua
+
+// The three generate functions __rua?BRng<name>, which find their points in `stream` so.
+#define ORK_GENERATE_POINTS(name, points)                                                         \
+  ORK_EXPORT int32_t __ruasBRng##name(RuaStream* stream, int32_t n, float* r, float a, float b) { \
+    return ork::rua::floats(points, n, r, a, b);                                                  \
+  }                                                                                               \
+  ORK_EXPORT int32_t __ruadBRng##name(RuaStream* stream, int32_t n, double* r, double a,          \
+                                      double b) {                                                 \
+    return ork::rua::doubles(points, n, r, a, b);                                                 \
+  }                                                                                               \
+  ORK_EXPORT int32_t __ruaiBRng##name(RuaStream* stream, int32_t n, void* r) {                    \
+    return ork::rua::integers(points, n, r);                                                      \
+  }

@@ -4,7 +4,6 @@
 // share, and the current point.
 #include <string.h>
 
-#include "base/export.hpp"
 #include "base/scratch.hpp"
 #include "rua_sub_kernel/quasi/points.hpp"
 #include "rua_sub_kernel/quasi/streams.hpp"
@@ -218,33 +217,6 @@ ORK_EXPORT int32_t __ruaBRngSobolInitStream(int32_t method, RuaStream* stream, i
   return reposition(method, sobol_points(stream), n, params);
 }
 
-ORK_EXPORT int32_t __ruasBRngSobol(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return floats(sobol_points(stream), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruadBRngSobol(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  return doubles(sobol_points(stream), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruaiBRngSobol(RuaStream* stream, int32_t n, void* r) {
-  return integers(sobol_points(stream), n, r);
-}
-ORK_EXPORT int32_t __ruasBRngSobolDefault(RuaStream* stream, int32_t n, float* r, float a,
-                                          float b) {
-  return floats(sobol_points(stream, Tables::kInState), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruadBRngSobolDefault(RuaStream* stream, int32_t n, double* r, double a,
-                                          double b) {
-  return doubles(sobol_points(stream, Tables::kInState), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruaiBRngSobolDefault(RuaStream* stream, int32_t n, void* r) {
-  return integers(sobol_points(stream, Tables::kInState), n, r);
-}
-ORK_EXPORT int32_t __ruasBRngSobolUser(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return floats(sobol_points(stream, Tables::kInChunks), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruadBRngSobolUser(RuaStream* stream, int32_t n, double* r, double a,
-                                       double b) {
-  return doubles(sobol_points(stream, Tables::kInChunks), n, r, a, b);
-}
-ORK_EXPORT int32_t __ruaiBRngSobolUser(RuaStream* stream, int32_t n, void* r) {
-  return integers(sobol_points(stream, Tables::kInChunks), n, r);
-}
+ORK_GENERATE_POINTS(Sobol, sobol_points(stream))
+ORK_GENERATE_POINTS(SobolDefault, sobol_points(stream, Tables::kInState))
+ORK_GENERATE_POINTS(SobolUser, sobol_points(stream, Tables::kInChunks))
