@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "accuracy/inverse_error.hpp"
+#include "registry/kernels.hpp"
 
 // The same names at both widths, so that a row states its function once.
 #define BOTH(name)                                \
@@ -26,10 +27,13 @@ BOTH2(pow) BOTH2(hypot) BOTH2(atan2);
 
 // A term of LinearFrac as IEEE arithmetic gives it in the kernel's type: near its zero the
 // rounding of the product is all that is left, and no fault of the quotient.
-static quad linear(quad x, double scale, double shift) { return double(x) * scale + shift; }
-static long double linear(long double x, double scale, double shift) {
-  return float(x) * float(scale) + float(shift);
+template <class T>
+static T linear_term(T x, int first) {
+  const T product = x * T(linear_scalars[first]);
+  return product + T(linear_scalars[first + 1]);
 }
+static quad linear(quad x, int first) { return linear_term(double(x), first); }
+static long double linear(long double x, int first) { return linear_term(float(x), first); }
 
 #define ONE(name, expression)                                        \
   {                                                                  \
@@ -61,8 +65,7 @@ static const Reference rows[] = {
     ONE(InvSqrt, 1 / sqrt(x)),
     ONE(Cbrt, cbrt(x)),
     ONE(InvCbrt, 1 / cbrt(x)),
-    // The scales and shifts that the registry's calls pass.
-    ONE(LinearFrac, linear(x, 1.5, 0.25) / linear(y, 0.75, 3)),
+    ONE(LinearFrac, linear(x, 0) / linear(y, 2)),
     ONE(Sin, sin(x)),
     ONE(Cos, cos(x)),
     ONE(Tan, tan(x)),

@@ -17,18 +17,27 @@ std::string table_row(const std::string& kernel, const Worst& worst, double boun
 }
 
 void update_report(const std::string& path, const std::map<std::string, std::string>& rows,
-                   bool exhaustive) {
-  std::map<std::string, std::string> tables[2];
+                   int table) {
+  constexpr const char* headings[] = {"Sampled arguments", "All 2^32 arguments",
+                                      "Denormals counting as zeros"};
+  constexpr const char* notes[] = {
+      "", "",
+      "`./dev accuracy --flush`: flush-to-zero and denormals-are-zero, by mode word 0x280000 and\n"
+      "MXCSR. Arguments in every binade, thick where they or the results come near the ends of "
+      "the\n"
+      "range; denormal arguments and results are left out. LinearFrac without shifts.\n"};
+  std::map<std::string, std::string> tables[3];
   int current = 0;
   std::ifstream file(path);
   for (std::string line; std::getline(file, line);) {
-    if (line.starts_with("## ")) current = line.find("2^32") != std::string::npos;
+    for (int k = 0; k < 3; ++k)
+      if (line == std::string("## ") + headings[k]) current = k;
     const size_t end = line.find(" |", 2);
     if (line.starts_with("| ") && !line.starts_with("| kernel") && end != std::string::npos)
       tables[current][line.substr(2, end - 2)] = line;
   }
   file.close();
-  for (const auto& [kernel, row] : rows) tables[exhaustive][kernel] = row;
+  for (const auto& [kernel, row] : rows) tables[table][kernel] = row;
   std::ofstream out(path);
   out << "# Accuracy\n\n"
          "Written by `./dev accuracy`. Error is |got - exact| / ulp(exact), the rounding's half "
@@ -40,10 +49,11 @@ void update_report(const std::string& path, const std::map<std::string, std::str
          "x87's extended precision for `s` kernels. Arguments: the ranges and neighbourhoods "
          "declared in\n"
          "each function's `claims.tsv`, powers of two, random bit patterns.\n";
-  for (int k = 0; k < 2; ++k) {
+  for (int k = 0; k < 3; ++k) {
     if (tables[k].empty()) continue;
-    out << (k ? "\n## All 2^32 arguments\n" : "\n## Sampled arguments\n")
-        << "\n| kernel | worst | bound | at | got | points |\n|---|---|---|---|---|---|\n";
+    out << "\n## " << headings[k] << "\n\n"
+        << notes[k] << (*notes[k] ? "\n" : "")
+        << "| kernel | worst | bound | at | got | points |\n|---|---|---|---|---|---|\n";
     for (const auto& [kernel, row] : tables[k]) out << row << "\n";
   }
 }

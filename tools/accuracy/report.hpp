@@ -12,6 +12,7 @@ struct Worst {
 std::string table_row(const std::string& kernel, const Worst& worst, double bound, bool relative,
                       bool binary);
 
-// Merges rows (by kernel) into the file's table of sampled or exhaustive measurements.
+// Merges rows (by kernel) into one of the file's tables: 0 sampled arguments, 1 all arguments,
+// 2 denormals counting as zeros.
 void update_report(const std::string& path, const std::map<std::string, std::string>& rows,
-                   bool exhaustive);
+                   int table);

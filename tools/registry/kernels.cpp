@@ -41,7 +41,8 @@ void Call<T>::operator()(int n, const T* a, const T* b, T* r, T* r2) const {
       return reinterpret_cast<void (*)(int, const T*, T*, T*)>(kernel)(n, a, r, r2);
     case Form::linear:
       return reinterpret_cast<void (*)(int, const T*, const T*, T, T, T, T, T*)>(kernel)(
-          n, a, b, T(1.5), T(0.25), T(0.75), T(3), r);
+          n, a, b, T(linear_scalars[0]), T(linear_scalars[1]), T(linear_scalars[2]),
+          T(linear_scalars[3]), r);
     default:
       __builtin_trap();
   }

@@ -38,8 +38,11 @@ struct Slot {
 };
 extern const std::vector<Slot> slots;
 
-// A kernel with the arguments that its form takes out of these. Powx takes b[0]; LinearFrac
-// scales and shifts that keep its denominator away from 0. Complex elements are pairs of T.
+// LinearFrac's scalars: scale and shift of a, then of b. These keep its denominator away from 0.
+inline double linear_scalars[4] = {1.5, 0.25, 0.75, 3};
+
+// A kernel with the arguments that its form takes out of these. Powx takes b[0], LinearFrac
+// linear_scalars. Complex elements are pairs of T.
 template <class T>
 struct Call {
   const Slot* slot;

@@ -21,7 +21,7 @@ def split_rows(count):
     """E, D and their low parts; D's high part of 26 bits."""
     for j in range(count):
         y = mpf(j) / 128
-        e, d = (mpf(2)**128 * f for f in (erf(y), 2 / sqrt(pi) * exp(-y * y)))
+        e, d = mpf(2)**128 * erf(y), 2 / sqrt(pi) * exp(-y * y)
         if j == count - 1:
             yield ["0x1p+128", "0x0p+0", "0x0p+0", "0x0p+0"]
             continue
@@ -34,6 +34,6 @@ def generate():
     return {
         at + "rows_d.inc": table("erf", "erf(y) and 2/sqrt(pi) exp(-y^2), y = j/128, j = 0..767; the last row is 1, 0.", rows(768)),
         at + "rows_s.inc": table("erf", "erf(y) and 2/sqrt(pi) exp(-y^2), y = j/128, j = 0..767.", rows_s(768)),
-        at + "rows_d_ha.inc": table("erf", "Times 2^128: high parts of erf(y) and of D = 2/sqrt(pi) exp(-y^2) (26 bits), their low parts,\n"
+        at + "rows_d_ha.inc": table("erf", "High parts of 2^128 erf(y) and of D = 2/sqrt(pi) exp(-y^2) (26 bits), their low parts,\n"
                                     "y = j/128, j = 0..767; the last row is 1, 0.", split_rows(768)),
     }

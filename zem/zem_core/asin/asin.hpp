@@ -159,9 +159,10 @@ struct AsinLong {
     const f64x2 upper = and_bits(s_high, upper_split);
     const f64x2 miss =
         (((twice_z + twice_z) - s_high * upper) - s_high * (s_high - upper)) - s_low * (s + s_high);
-    const f64x2 a_high = and_bits(a, split), v = select(inner, a, s);
-    high = select(inner, a_high, s_high);
-    low = select(inner, a - a_high, s_low + miss * (0.25 * estimate));
+    // a less its low part is the high one, or all of a where the low part is denormal and flushed.
+    const f64x2 a_low = a - and_bits(a, split), v = select(inner, a, s);
+    high = select(inner, a - a_low, s_high);
+    low = select(inner, a_low, s_low + miss * (0.25 * estimate));
     rest = v * (y * asin_poly(y));
   }
   __attribute__((always_inline)) f64x2 add(f64x2 base, f64x2 base_low, u64x2 sign) const {

@@ -35,7 +35,7 @@ ORK_INLINE f32x4 sasin_result(f32x4 k, u32x4 outer) {
 // v + v S(z) with v = sqrt z by rsqrt and one Newton step; relative error 2^-12.
 // Constants: given.
 ORK_INLINE f32x4 sasin_ep(f32x4 z, f32x4 a, u32x4 outer) {
-  const f32x4 y = rsqrt_est(z), s = z * y;
+  const f32x4 y = root_estimate(z), s = z * y;
   const f32x4 v = select(outer, (s * y - 3.0f) * (-0.5f * s), a);
   return v + v * (z * (0.165042728f + z * 0.0943948552f));
 }

@@ -12,9 +12,10 @@ template <class T>
 struct Octant {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
-  vec small, large;
+  vec small, large;    // large: 1 in the lanes of 0/0
   vec base, base_low;  // 0, pi/2 or pi
   ivec flip;           // sign bits to flip in atan q
+  ivec zero;           // lanes of 0/0, by a comparison of numbers: denormals may count as zeros
 
   Octant(vec y, vec x) {
     const vec ay = abs(y), ax = abs(x);
@@ -24,6 +25,8 @@ struct Octant {
     };
     constexpr bool d = sizeof(T) == 8;
     small = select(steep, ax, ay), large = select(steep, ay, ax);
+    zero = (ivec)(large == T(0));
+    large = or_bits(large, zero & as<ivec>(splat(T(1))));
     base = either(T(1.5707963267948966), T(3.141592653589793));
     base_low = either(d ? T(6.123233995736766e-17) : T(-4.37113883e-8),
                       d ? T(1.2246467991473532e-16) : T(-8.74227766e-8));
@@ -31,16 +34,14 @@ struct Octant {
   }
 };
 
-// Infinities, NaNs and 0/0.
-ORK_INLINE u32x4 atan2_rare(f64x2 y, f64x2 x) {
+// Infinities, NaNs and `zero`, the lanes of 0/0.
+ORK_INLINE u32x4 atan2_rare(f64x2 y, f64x2 x, u32x4 zero) {
   const u32x4 ay = as<u32x4>(abs(y)), ax = as<u32x4>(abs(x));
-  return (splat_u32(0x7FEFFFFF) - ay) | (splat_u32(0x7FEFFFFF) - ax) |
-         as<u32x4>((f64x2)_mm_cmpeq_pd(_mm_or_pd(as<f64x2>(ay), as<f64x2>(ax)), splat(0.0)));
+  return (splat_u32(0x7FEFFFFF) - ay) | (splat_u32(0x7FEFFFFF) - ax) | zero;
 }
-ORK_INLINE u32x4 atan2_rare(f32x4 y, f32x4 x) {
+ORK_INLINE u32x4 atan2_rare(f32x4 y, f32x4 x, u32x4 zero) {
   const u32x4 ay = as<u32x4>(abs(y)), ax = as<u32x4>(abs(x));
-  return (0x7F7FFFFF - ay) | (0x7F7FFFFF - ax) |
-         as<u32x4>((f32x4)_mm_cmpeq_ps(as<f32x4>(ay | ax), splat(0.0f)));
+  return (0x7F7FFFFF - ay) | (0x7F7FFFFF - ax) | zero;
 }
 
 // The special values, in C99's order of cases.
@@ -82,8 +83,7 @@ ORK_INLINE f64x2 atan_step(f64x2 q, f64x2& high, f64x2& low) {
 
 // Double: the roundings of q and t and the last sums are the errors that count, 2 ulp in all. The
 // series of atan t is good to 2^-59.
-ORK_INLINE f64x2 atan2_la(f64x2 y, f64x2 x) {
-  const Octant<double> o(y, x);
+ORK_INLINE f64x2 atan2_la(f64x2 y, const Octant<double>& o) {
   const f64x2 q = o.small / o.large;
   f64x2 high, low;
   const f64x2 b = atan_step(q, high, low), t = (q - b) / (1.0 + q * b), z = t * t;

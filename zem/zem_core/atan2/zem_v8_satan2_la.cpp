@@ -10,8 +10,8 @@ struct Atan2LaS : Core<float, 2> {
 #include "atan2/poly_s_la.inc"
   };
   ORK_INLINE f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
-    rare |= atan2_rare(y, x);
     const Octant<float> o(y, x);
+    rare |= atan2_rare(y, x, as<u32x4>(o.zero));
     const f32x4 q = o.small / o.large, z = q * q, w = z * z;
     const f32x4 odd = c[0] + w * (c[2] + w * (c[4] + w * c[6])),
                 even = c[1] + w * (c[3] + w * (c[5] + w * c[7]));

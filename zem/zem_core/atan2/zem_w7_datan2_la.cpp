@@ -7,8 +7,9 @@ namespace {
 struct Atan2La : Core<double, 2> {
   static constexpr char name[] = "vdAtan2";
   ORK_INLINE f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
-    rare |= atan2_rare(y, x);
-    return atan2_la(y, x);
+    const Octant<double> o(y, x);
+    rare |= atan2_rare(y, x, as<u32x4>(o.zero));
+    return atan2_la(y, o);
   }
   static int special(const double* y, const double* x, double* r) { return atan2_special(y, x, r); }
 };

@@ -14,7 +14,8 @@ struct Atan2EpS : Core<float, 2> {
     rare |= (as<u32x4>(ay) - 0x01000001) | (0x7CFFFFFF - as<u32x4>(ay)) |
             (as<u32x4>(ax) - 0x01000001) | (0x7CFFFFFF - as<u32x4>(ax));
     const u32x4 steep = (u32x4)(ax <= ay), left = (u32x4)(x < 0.0f);
-    const f32x4 num = select(steep, -ax, ay), den = select(steep, ay, ax);
+    const f32x4 num = select(steep, -ax, ay);
+    const f32x4 den = _mm_max_ps(select(steep, ay, ax), splat(0x1p-126f));  // 0/0 raises a flag
     const f32x4 y0 = rcp_est(den), t = num * (y0 * (2.0f - den * y0)), z = t * t, w = z * z;
     const f32x4 p = (0.999775231f + w * 0.154571936f) + z * (-0.325505346f + w * -0.043525815f);
     const f32x4 v = t * p + and_bits(splat(1.57079637f), steep);

@@ -14,8 +14,9 @@ struct Cosh : Core<typename Level::type> {
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'C', 'o', 's', 'h', 0};
   ORK_INLINE vec eval(vec x, u32x4& rare) {
     const vec a = abs(x);
-    rare |= Level::limit - as<u32x4>(a);
-    return from_pair<Level, false>(a);
+    const u32x4 far = beyond(a, Level::limit);
+    rare |= far;
+    return from_pair<Level, false>(within(a, far));
   }
   static int special(const T* x, T* r) { return pair_special<T, false>(x, r); }
 };

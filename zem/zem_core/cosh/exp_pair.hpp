@@ -19,6 +19,22 @@ alignas(16) inline constexpr float pair_split128_s[128][2] = {
 #include "cosh/split128_s.inc"
 };
 
+// The lanes of a >= 0 beyond the fast range, all bits set (of a double: in its high word). With
+// those bits cleared such a lane goes through the formula without raising a flag: further out
+// scales would be infinite.
+ORK_INLINE u32x4 beyond(f64x2 a, uint32_t limit) {
+  const int high = (int)limit;
+  return as<u32x4>(as<i32x4>(a) > i32x4{0x7FFFFFFF, high, 0x7FFFFFFF, high});
+}
+ORK_INLINE u32x4 beyond(f32x4 a, uint32_t limit) {
+  const int image = (int)limit;
+  return as<u32x4>(as<i32x4>(a) > i32x4{image, image, image, image});
+}
+template <class V>
+ORK_INLINE V within(V a, u32x4 beyond) {
+  return as<V>(as<u32x4>(a) & ~beyond);
+}
+
 template <class T>
 struct ExpPair {
   vec_of<T> up, down, up_low, down_low, r;

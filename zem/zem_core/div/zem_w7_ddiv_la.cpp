@@ -33,8 +33,10 @@ ORK_INLINE bool four_elements(const double* a, const double* b, double* r) {
                     b3 = read_one(b + 3);
   const long double p01 = b0 * b1, p23 = b2 * b3;
   const long double p = p01 * p23;
-  const uint32_t image = as<uint32_t>((float)p) << 1;
-  if (__builtin_expect(image == 0 || image >= 0xFF000000, 0)) return false;
+  // By the exponent of P as a double: as a single it might overflow.
+  const uint32_t size = (uint32_t)(as<uint64_t>((double)p) >> 32) & 0x7FFFFFFF;
+  constexpr uint32_t least = (1023 - 149) << 20, beyond = (1023 + 128) << 20;
+  if (__builtin_expect(size - least >= beyond - least, 0)) return false;
   const long double inv = 1 / p;
   const long double r0 = b1 * p23 * inv * read_one(a);
   const long double r1 = b0 * p23 * inv * read_one(a + 1);

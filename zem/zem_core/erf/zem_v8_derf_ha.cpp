@@ -1,7 +1,7 @@
 // Erf, double, HA: E and D in two parts, D_hi d_hi exact, its sum with E compensated. Below
 // 7/256 the odd series at 0 serves: row 0 with d = y, where P is a series in g alone.
-// Rows are scaled by 2^128, where no product is denormal. A denormal result is rounded once:
-// in its sum with 2^-894, whose last place is 2^-1074 scaled.
+// E and d are scaled by 2^128, where no part or product is denormal. A denormal result is rounded
+// once: in its sum with 2^-894, whose last place is 2^-1074 scaled.
 #include "erf/erf.hpp"
 
 namespace ork {
@@ -27,10 +27,12 @@ struct ErfHaD : ErfCore<double> {
     f64x2 e, d, e_low, d_low;
     gather_pairs(p0, p1, e, d);
     gather_pairs(p0 + 2, p1 + 2, e_low, d_low);
-    const f64x2 d_hi = and_bits(r.d, splat_u64(0xFFFFFFFFF8000000)), q_hi = d * d_hi;
-    const f64x2 q_lo = d * (r.d - d_hi) + d_low * r.d;
-    // sqrt(pi)/2 * 2^-1022: from there on the result is normal.
-    const f64x2 grid = and_bits(splat(0x1p-894), (u64x2)(abs(x) < 0x0.e2dfc48da77b6p-1022));
+    const f64x2 dx = r.d * 0x1p128;
+    const f64x2 d_hi = and_bits(dx, splat_u64(0xFFFFFFFFF8000000)), q_hi = d * d_hi;
+    const f64x2 q_lo = d * (dx - d_hi) + d_low * dx;
+    // sqrt(pi)/2 * 2^-1022, scaled: from there on the result is normal. In rows above the first the
+    // sum is none the wiser.
+    const f64x2 grid = and_bits(splat(0x1p-894), (u64x2)(dx < 0x0.e2dfc48da77b6p-894));
     e += grid;
     const f64x2 sum = e + q_hi, lost = (e - sum) + q_hi;
     const f64x2 y = sum + (lost + ((q_lo + e_low) + (q_hi + q_lo) * p));

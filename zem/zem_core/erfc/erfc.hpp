@@ -43,6 +43,13 @@ struct ErfcExp {
   }
 };
 
+// |x|, or a number in [27, 28) where it is larger: beyond that the value is 0 or 2, and terms might
+// overflow.
+ORK_INLINE f64x2 erfc_size(f64x2 x) {
+  const __m128i most = _mm_set1_epi64x(0x403B7FFF7FFF7FFF);  // signed words: only the top one binds
+  return as<f64x2>(_mm_min_epi16(as<__m128i>(abs(x)), most));
+}
+
 // Row and t of |x|.
 template <int last, int columns>
 ORK_INLINE f64x2 erfc_row(const double (*table)[columns], f64x2 ax, const double*& p0,

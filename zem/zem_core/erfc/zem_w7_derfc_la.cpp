@@ -12,7 +12,7 @@ alignas(16) constexpr double table[][16] = {
 
 struct FormulaLa {
   ORK_INLINE f64x2 value(f64x2 x) {
-    const f64x2 ax = abs(x), x_hi = upper_half(ax);
+    const f64x2 ax = erfc_size(x), x_hi = upper_half(ax);
     const double *p0, *p1;
     const f64x2 t = erfc_row<27, 16>(table, ax, p0, p1);
     const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi));

@@ -2,7 +2,8 @@
 // Exp, double: e^x = 2^k 2^(j/N) e^r with n = round(x N/ln 2), r = x - n ln 2/N, j = n mod N,
 // k = n div N, and p = e^r - 1 a polynomial.
 // A level gives N, t and p by reduce(), 2^(j/N) (1 + p) as a sum by parts(), and combines it
-// with the scale 2^k. Fast range: |x| below 708.396 by its high word; beyond it _zemdSpecSc.
+// with the scale 2^k. Fast range: |x| below 708.396 by its high word, at LA and EP x above -670.1,
+// so that no term of the scaled sum is denormal; beyond it _zemdSpecSc.
 #include "base/image.hpp"
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
@@ -18,6 +19,9 @@ struct ExpHa {
   static constexpr int log2_n = 6;
   static constexpr double two_steps_from = 709.7772976810359;  // here k becomes 1024
   static constexpr bool nan_is_all_ones = true;
+  // The range test: the high word of |centred(x)| up to `limit`. |x| below 708.396.
+  static constexpr uint32_t limit = 0x4086232A;
+  static f64x2 centred(f64x2 x) { return x; }
 
   static f64x2 reduce(f64x2 x, f64x2& t) {
     t = x * 92.33248261689366 + exp_shifter;
@@ -45,6 +49,10 @@ struct ExpHa {
 struct ExpOneWord {
   static constexpr int log2_n = 7;
   static constexpr bool nan_is_all_ones = false;
+  // -670.1 < x < 708.396, the difference below 689.25: above 2^-967, what of S p would be denormal
+  // is below 2^-55 S.
+  static constexpr uint32_t limit = 0x408589FF;
+  static f64x2 centred(f64x2 x) { return x - 19.14599609375; }
 
   static u64x2 mantissa(f64x2 t) {
     const u32x4 j = as<u32x4>(t) & 127;
@@ -132,10 +140,14 @@ int _zemdSpecSc(const double* a, double* out) {
 template <class Level>
 struct ExpD : Core<double> {
   static constexpr char name[] = "vdExp";
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  static f64x2 eval(f64x2 argument, u32x4& rare) {
+    // A rare lane computes with next to 0: its scale might be infinite and raise a flag.
+    constexpr int none = 0x7FFFFFFF, limit = Level::limit;
+    const i32x4 far = as<i32x4>(abs(Level::centred(argument))) > i32x4{none, limit, none, limit};
+    rare |= as<u32x4>(far);
+    const f64x2 x = and_bits(argument, ~as<u64x2>(far));
     f64x2 t;
     const f64x2 p = Level::reduce(x, t);
-    rare |= 0x4086232A - as<u32x4>(abs(x));
     const u32x4 bias = {1023u << Level::log2_n, 0, 1023u << Level::log2_n, 0};
     const u64x2 k = as<u64x2>(as<u32x4>(t) + bias) << (52 - Level::log2_n);
     return Level::combine(t, p, as<f64x2>(k & splat_u64(0x7FF0000000000000)));

@@ -47,8 +47,10 @@ struct ExpS : Core<float> {
     return Level::combine(r, first, second, scale);
   }
   static f32x4 eval(f32x4 x, u32x4& rare) {
-    rare |= 0x42AEAC4F - as<u32x4>(abs(x));
-    return value(x, 0);
+    // A rare lane computes with 0: its scale might be a NaN and raise a flag.
+    const i32x4 far = as<i32x4>(abs(x)) > as<i32x4>(splat_u32(0x42AEAC4F));
+    rare |= as<u32x4>(far);
+    return value(and_bits(x, ~as<u32x4>(far)), 0);
   }
   static int special(const float* a, float* out) { return _ScalarExp<Level>(a, out); }
 };

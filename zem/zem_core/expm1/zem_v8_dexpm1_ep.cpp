@@ -7,7 +7,8 @@ namespace ork {
 namespace {
 
 struct Expm1EpD : Expm1D {
-  static f64x2 eval(f64x2 x, u32x4& rare) {
+  static f64x2 eval(f64x2 argument, u32x4& rare) {
+    const f64x2 x = within(argument, rare);
     const f64x2 n = round(x * 184.66496523378731);
     const f64x2 r = x - n * 0x1.62e42fefa39efp-8;
     const f64x2 p = r + r * r * horner(r, 0.49999999999997669, 0.166666666666658);
@@ -18,7 +19,6 @@ struct Expm1EpD : Expm1D {
     const f64x2 mantissa =
         gather((const double*)(table + row[0]), (const double*)(table + word<4>(row)));
     const f64x2 s = or_bits(mantissa, exponent);
-    test(x, rare);
     return with_sign_of(x, (s - 1.0) + s * p);
   }
 };

@@ -13,7 +13,11 @@ struct HypotEpD : Core<double, 2> {
   ORK_INLINE f64x2 eval(f64x2 a, f64x2 b, u32x4& rare) {
     const u32x4 x = as<u32x4>(abs(a)), y = as<u32x4>(abs(b));
     rare |= (0x43BFFFFF - x) | (0x43BFFFFF - y) | ((x - 0x3C300000) & (y - 0x3C300000));
-    const f64x2 s = a * a + b * b;
+    // Held within [2^-120, 2^124) by its highest 16 bits, so that a rare lane raises no flag.
+    const __m128i most = _mm_set1_epi64x(0x47AF7FFF7FFF7FFF),
+                  least = _mm_set1_epi64x(0x3870800080008000);
+    const __m128i sum = as<__m128i>(a * a + b * b);
+    const f64x2 s = as<f64x2>(_mm_max_epi16(_mm_min_epi16(sum, most), least));
     const f64x2 z = _mm_cvtps_pd(rsqrt_est(_mm_cvtpd_ps(s)));
     const f64x2 root = s * z, e = root * z - 1.0;
     return root + root * (e * (-0.5 + e * 0.375));

@@ -3,9 +3,10 @@
 //
 // The denominators d are taken apart into mantissas m of +-[1, 2) and exponents. Of the mantissas
 // in the same lane of four vectors, P = (m0 m1)(m2 m3) and 1 / P = inv; then
-// 1 / m0 = (inv (m2 m3)) m1, and so on. Last, 2^-e brings the exponent back. A block with a
-// denominator that is zero, denormal, infinite, a NaN, or of the largest exponent, where 2^-e
-// would be denormal, divides element by element, as the tail does.
+// 1 / m0 = (inv (m2 m3)) m1, and so on. 2^-e brings the exponent back before the numerator
+// comes in, which may be denormal: only the quotient is rounded into that range. A block with a
+// denominator that is zero, denormal, infinite, a NaN, or so large that 1 / d would be denormal,
+// divides element by element, as the tail does.
 //
 // The block's quotients carry up to five half-ulp errors more than a division would.
 #include "frame/kernel.hpp"
@@ -54,9 +55,9 @@ struct LinearFrac : Core<T> {
         const u32x4 e = as<u32x4>(d) & words(exponent);
         m[k] = as<vec>((as<u32x4>(d) & ~words(exponent)) | as<u32x4>(splat(T(1))));
         scale[k] = as<vec>(words(exponent - one_bit) - e);
-        // Fields 1 .. all ones less two are clean.
+        // Fields 1 .. all ones less four are clean: 1 / m may be rounded to below 1/2.
         rare |= as<u32x4>(as<i32x4>(e - words(0x80000000 + one_bit)) >
-                          as<i32x4>(words(exponent - 3 * one_bit - 0x80000000)));
+                          as<i32x4>(words(exponent - 5 * one_bit - 0x80000000)));
       }
       if (__builtin_expect(sign_mask<T>(rare) != 0, 0)) {
         for (const int end = i + block; i < end; ++i)
@@ -73,7 +74,7 @@ struct LinearFrac : Core<T> {
       for (int k = 0; k < 4; ++k) {
         const vec numerator =
             constant ? splat(s.shift_a) : linear(load(a + i + k * width), s.scale_a, s.shift_a);
-        quotient[k] = numerator * reciprocal[k] * scale[k];
+        quotient[k] = numerator * (reciprocal[k] * scale[k]);
       }
 #pragma GCC unroll 4
       for (int k = 0; k < 4; ++k) store(r + i + k * width, quotient[k]);

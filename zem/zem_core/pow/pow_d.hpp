@@ -71,14 +71,22 @@ ORK_INLINE Pair<f64x2> pow_exp2(Pair<f64x2> q, f64x2& t) {
   return r;
 }
 
+// The lanes whose |q| has a high word above `limit`: all bits of the high word. With those bits
+// cleared a lane goes through the power without raising a flag.
+ORK_INLINE u64x2 pow_beyond(f64x2 q, uint32_t limit) {
+  const int high = (int)limit;
+  return as<u64x2>(as<i32x4>(abs(q)) > i32x4{0x7FFFFFFF, high, 0x7FFFFFFF, high});
+}
+
 // Main path. b comes with its parts, so that a fixed exponent is split once.
 ORK_INLINE f64x2 pow_main(f64x2 a, f64x2 b, f64x2 b_high, f64x2 b_low, u32x4& rare) {
   // The sum wraps to a negative number for all that is no positive normal number.
   rare |= as<u32x4>(as<i32x4>(as<u32x4>(a) + 0x00100000) < as<i32x4>(splat_u32(0x00200000)));
   const Pair<f64x2> q = pow_product(b, b_high, b_low, pow_log2(a));
-  rare |= 0x408F3FFE - as<u32x4>(abs(q.high));
+  const u64x2 out = pow_beyond(q.high, 0x408F3FFE);
+  rare |= as<u32x4>(out);
   f64x2 t;
-  const Pair<f64x2> r = pow_exp2(q, t);
+  const Pair<f64x2> r = pow_exp2({and_bits(q.high, ~out), and_bits(q.low, ~out)}, t);
   const u64x2 scale = as<u64x2>(as<u32x4>(t) + u32x4{1023 << 7, 0, 1023 << 7, 0}) << 45;
   return (r.high + r.low) * as<f64x2>(scale & splat_u64(0x7FF0000000000000));
 }

@@ -2,8 +2,8 @@
 // Pow, double, EP: e^(b ln a). ln a = K ln 2 - ln(c/1024) + ln(1 + r) with the short factor of
 // Log1p, degree 3; e^q = 2^n 2^(j/2048) e^f, |f| <= ln 2/4096. The absolute error of ln a,
 // 2^-41, counts b times.
-// Fast: normal a > 0, |q| < 708.4. vdpow_cout_rare: the others. Constants: given, but ln 2/2048:
-// rule.
+// Fast: normal a > 0, -674.8 < q < 708.4, so that no term of the scaled sum is denormal.
+// vdpow_cout_rare: the others. ln 2/2048 is rounded to double; the other constants are fits.
 #include "ln/log_short_d.hpp"
 #include "pow/pow_d.hpp"
 
@@ -22,8 +22,10 @@ ORK_INLINE f64x2 pow_main_ep(f64x2 a, f64x2 b, u32x4& rare) {
   const ShortD factor(a);
   const f64x2 v = factor.m * factor.c - 1.0;
   const f64x2 p = v + (v * v) * horner(v, -0.49999999999988803, 0.33333333333308374);
-  const f64x2 q = b * short_sum(factor, a, pow_short_logarithms, 0.69314718055994529, p);
-  rare |= 0x4086232A - as<u32x4>(abs(q));
+  const f64x2 any = b * short_sum(factor, a, pow_short_logarithms, 0.69314718055994529, p);
+  const u64x2 out = pow_beyond(any - 16.77099609375, 0x40859CFF);  // the difference below 691.625
+  rare |= as<u32x4>(out);
+  const f64x2 q = and_bits(any, ~out);
 
   constexpr double shifter = 6755399441055744.0;  // 1.5 * 2^52
   const f64x2 t = q * 2954.639443740597 + shifter;

@@ -17,14 +17,11 @@ alignas(16) inline constexpr double pow_rows_single[129][2] = {
 #include "pow/rows_s.inc"
 };
 
-// 2^q, |q| < 1000, and q itself; of a normal a > 0.
+// q = b log2 a of a normal a > 0.
 template <Level level>
-ORK_INLINE f64x2 pow_in_double(f64x2 a, f64x2 b, f64x2& q) {
+ORK_INLINE f64x2 pow_exponent_s(f64x2 a, f64x2 b) {
   constexpr double l[] = {
 #include "pow/log_s.inc"
-  };
-  constexpr double e[] = {
-#include "pow/exp_s.inc"
   };
   const u32x4 word = as<u32x4>(a);
   const u32x4 row = ((word & 0x000FF000) + 0x1000) >> 13;
@@ -38,29 +35,41 @@ ORK_INLINE f64x2 pow_in_double(f64x2 a, f64x2 b, f64x2& q) {
   const f64x2 r = m * c - 1.0;
   const f64x2 p = r * (level == Level::ep ? horner(r, l[0], l[1], l[2])
                                           : horner(r, l[0], l[1], l[2], l[3], l[4]));
-  q = b * ((k + h) + p);
+  return b * ((k + h) + p);
+}
 
+// 2^q, |q| < 1000, or 0 in the lanes of `none`: what comes out of other q might raise a flag.
+template <Level level>
+ORK_INLINE f64x2 pow_exp2_s(f64x2 q, u32x4 none) {
+  constexpr double e[] = {
+#include "pow/exp_s.inc"
+  };
   constexpr double shifter = 52776558133248.0;  // 1.5 * 2^45: the unit is 1/128
   const f64x2 t = q + shifter, f = q - (t - shifter);
   const u32x4 j = as<u32x4>(t) & 127;
   const f64x2 fraction = gather((const double*)exp_mantissa128_d + j[0],
                                 (const double*)exp_mantissa128_d + ork::word<4>(j));
   const u64x2 scale = as<u64x2>(as<u32x4>(t) + u32x4{1023 << 7, 0, 1023 << 7, 0}) << 45;
-  const f64x2 s = or_bits(fraction, scale & splat_u64(0x7FF0000000000000));
+  const f64x2 s =
+      and_bits(or_bits(fraction, scale & splat_u64(0x7FF0000000000000)), ~as<u64x2>(none));
   if constexpr (level == Level::ep) return s + s * (f * e[0]);
   return s + s * (f * horner(f, e[0], e[1], e[2], e[3]));
 }
 
 template <Level level>
 ORK_INLINE f32x4 pow_main(f32x4 a, f32x4 b, u32x4& rare) {
-  rare |= as<u32x4>(as<i32x4>(as<u32x4>(a) + 0x00800000) < as<i32x4>(splat_u32(0x01000000)));
-  rare |= 0x7F7FFFFF - as<u32x4>(abs(b));
-  f64x2 q_low, q_high;
-  const f32x4 low = _mm_cvtpd_ps(pow_in_double<level>(_mm_cvtps_pd(a), _mm_cvtps_pd(b), q_low));
-  const f32x4 high = _mm_cvtpd_ps(pow_in_double<level>(_mm_cvtps_pd(_mm_movehl_ps(a, a)),
-                                                       _mm_cvtps_pd(_mm_movehl_ps(b, b)), q_high));
+  const f64x2 q_low = pow_exponent_s<level>(_mm_cvtps_pd(a), _mm_cvtps_pd(b));
+  const f64x2 q_high =
+      pow_exponent_s<level>(_mm_cvtps_pd(_mm_movehl_ps(a, a)), _mm_cvtps_pd(_mm_movehl_ps(b, b)));
   const f32x4 q = _mm_shuffle_ps(as<f32x4>(q_low), as<f32x4>(q_high), 0xDD);  // high words
-  rare |= 0x408F3FFE - as<u32x4>(abs(q));
+  const i32x4 out = (as<i32x4>(as<u32x4>(a) + 0x00800000) < as<i32x4>(splat_u32(0x01000000))) |
+                    (as<i32x4>(abs(b)) > as<i32x4>(splat_u32(0x7F7FFFFF))) |
+                    (as<i32x4>(abs(q)) > as<i32x4>(splat_u32(0x408F3FFE)));
+  rare |= as<u32x4>(out);
+  const f32x4 o = as<f32x4>(out);
+  const f32x4 low = _mm_cvtpd_ps(pow_exp2_s<level>(q_low, as<u32x4>((f32x4)_mm_unpacklo_ps(o, o))));
+  const f32x4 high =
+      _mm_cvtpd_ps(pow_exp2_s<level>(q_high, as<u32x4>((f32x4)_mm_unpackhi_ps(o, o))));
   return _mm_movelh_ps(low, high);
 }
 

@@ -36,8 +36,11 @@ ORK_INLINE int pow_special(const T* a, const T* b, T* r, General general) {
   } else if (x > inf || y > inf) {
     *r = *a + *b;
   } else if (*a == 0) {
-    *r = signed_result(sign(b) ? inf : 0);
-    if (sign(b)) status = ZEM_STATUS_DOMAIN;
+    *r = signed_result(0);
+    if (sign(b)) {
+      *r = 1 / *r;  // the pole raises its flag
+      status = ZEM_STATUS_DOMAIN;
+    }
   } else if (x == one && (y == inf || integer != 0)) {
     *r = signed_result(one);
   } else if (y == inf) {

@@ -9,7 +9,8 @@ alignas(16) inline constexpr float pow3o2_pairs_single[64][2] = {
 
 // Single. HA: the double scheme with 4 terms of P, scaled in double and rounded once; those left
 // out are below 2^-36. LA and EP in single, with 3 terms and 1: left out 2^-29 and 2^-13.4.
-// Fast: positive normal x, at LA and EP 2^-82 <= x < 2^84. special: x sqrt(x) in double.
+// Fast: positive normal x, at LA and EP 2^-67 <= x < 2^84, so that no term of the scaled sum is
+// denormal. special: x sqrt(x) in double.
 template <Level level>
 struct Pow3o2S : Core<float> {
   static constexpr char name[] = "vsPow3o2";
@@ -23,10 +24,10 @@ struct Pow3o2S : Core<float> {
     return s * (t + (t * r) * horner(r, 1.5, 0.375, -0.0625, 0.0234375));
   }
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
-    constexpr uint32_t first = level == Level::ha ? 0x00800000 : 0x16800000;
+    constexpr uint32_t first = level == Level::ha ? 0x00800000 : 0x1E000000;
     constexpr uint32_t last = level == Level::ha ? 0x7F7FFFFF : 0x697FFFFF;
     rare |= (as<u32x4>(x) - first) | (last - as<u32x4>(x)) | as<u32x4>(x);
-    const u32x4 index = as<u32x4>(x) >> 18;
+    const u32x4 index = as<u32x4>(abs(x)) >> 18;  // -0 must not overflow
     const u32x4 row = (index ^ 32) & 63;
     const u32x4 q = (index - 32) >> 6, exponent = q + q + q;
     const f32x4 m = or_bits(and_bits(x, splat_u32(0x007FFFFF)), as<u32x4>(splat(1.0f)));

@@ -14,8 +14,8 @@ struct SinCosEpS : Core<float, 1, 2> {
     const f32x4 z = x.r * x.r;
     return flip(x.r * horner(z, 0.99988532f, -0.1659205f, 0.0075766016f), x.sign);
   }
-  ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
-    rare |= at_least<limit_10000>(abs(x));
+  ORK_INLINE f32x4 eval(f32x4 argument, f32x4& cosine, u32x4& rare) {
+    const f32x4 x = within<limit_10000>(argument, rare);
     cosine = sine(reduce<Cosine, PiEpS>(x));
     return sine(reduce<Sine, PiEpS>(x));
   }

@@ -61,8 +61,10 @@ struct Sinh : Core<typename Level::type> {
     return a + a * (z * p);
   }
   ORK_INLINE vec eval(vec x, u32x4& rare) {
-    const vec a = abs(x);
-    rare |= Level::limit - as<u32x4>(a);
+    const vec size = abs(x);
+    const u32x4 far = beyond(size, Level::limit);
+    const vec a = within(size, far);
+    rare |= far;
     vec y = from_pair<Level, true>(a);
     if constexpr (!__is_same(Level, PairEpS))
       y = select(below(a, NearZero<Level>::limit), near_zero(a), y);

@@ -32,10 +32,13 @@ ORK_INLINE f64x2 rsqrt_series(f64x2 e) {
   return e * (splat(-0.5) + e * (splat(0.375) + e * (splat(-0.3125) + e * c)));
 }
 
-// Lanes other than positive normal numbers.
-ORK_INLINE u32x4 not_positive_normal(f64x2 x) {
-  constexpr u32x4 offset = {0, 0x80100000, 0, 0x80100000};
-  constexpr u32x4 last = {0, 0xFFDFFFFF, 0, 0xFFDFFFFF};
+// Lanes other than positive numbers of whose products and parts none is denormal: from 2^1022 on
+// y0^2 is; at HA, below 2^-970, the low part of x.
+template <Level level>
+ORK_INLINE u32x4 rsqrt_rare(f64x2 x) {
+  constexpr uint32_t least = (level == Level::ha ? 1023 - 970 : 1) << 20, beyond = 0x7FD00000;
+  constexpr uint32_t shift = 0x80000000 + least, greatest = beyond - 1 - shift;
+  constexpr u32x4 offset = {0, shift, 0, shift}, last = {0, greatest, 0, greatest};
   return as<u32x4>(as<i32x4>(as<u32x4>(x) - offset) > as<i32x4>(last));
 }
 

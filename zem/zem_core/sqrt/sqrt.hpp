@@ -8,7 +8,8 @@ namespace ork {
 // Double square root, x y with y = y0 (1 + c(e)), e = x y0^2 - 1.
 // HA: x = hi + lo split at 21 bits, so that e is exact to 2^-60; the exact product hi y0 is added
 // last. Within 0.51 ulp. LA: within 2 ulp. EP: the series to degree 2, relative error 2^-31.
-// Fast: positive normal x, and at HA and LA zeros, whose seed is 0.
+// Fast: positive x below 2^1022, normal or, at HA, from 2^-970 on; at HA and LA zeros, whose seed
+// is 0.
 template <Level level>
 struct SqrtD : Core<double> {
   static constexpr char name[] = "vdSqrt";
@@ -16,10 +17,10 @@ struct SqrtD : Core<double> {
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 y0 = rsqrt_seed(x);
     if constexpr (level == Level::ep) {
-      rare |= not_positive_normal(x);
+      rare |= rsqrt_rare<level>(x);
     } else {
       const u64x2 nonzero = as<u64x2>(x != splat(0.0));
-      rare |= not_positive_normal(x) & as<u32x4>(nonzero);
+      rare |= rsqrt_rare<level>(x) & as<u32x4>(nonzero);
       y0 = and_bits(y0, nonzero);
     }
     const f64x2 s = y0 * y0;

@@ -12,7 +12,8 @@ ORK_INLINE typename C::type on_one(typename C::type x) {
   return C{}.eval(splat(x), rare)[0];
 }
 
-// A denormal, or a tiny number, is brought into range by 2^54 and its root back by 2^-27.
+// A denormal, or a tiny number, is brought into range by 2^54 and its root back by 2^-27; a large
+// one, in double, by 2^-54.
 template <class C>
 int sqrt_scalar(const typename C::type* x, typename C::type* r) {
   using T = typename C::type;
@@ -28,7 +29,8 @@ int sqrt_scalar(const typename C::type* x, typename C::type* r) {
     __builtin_memcpy(r, &nan, sizeof(T));
     return ZEM_STATUS_DOMAIN;
   } else {
-    *r = on_one<C>(*x * T(0x1p54)) * T(0x1p-27);
+    const bool large = a > as<bits_of<T>>(T(1));
+    *r = on_one<C>(*x * T(large ? 0x1p-54 : 0x1p54)) * T(large ? 0x1p27 : 0x1p-27);
   }
   return ZEM_STATUS_NONE;
 }
