@@ -71,7 +71,8 @@ enum {
   ORK_DF_ROWS_DEFAULT = 0, /* row f starts at y + f * nx */
   ORK_DF_ROWS = 16,        /* the same */
   ORK_DF_COLS = 32,        /* yhint only: function f of breakpoint i at y[i * ny + f] */
-  ORK_DF_ROWS_APART = 128  /* row 0 given, the others set one by one by their index */
+  ORK_DF_ROWS_APART = 128  /* row 0 given, the others set one by one by their index; a row that
+                            * was never set: BAD_Y or BAD_COEFFS from what reads or fills it */
 };
 
 /* siteHint, limit hints. */

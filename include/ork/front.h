@@ -52,7 +52,11 @@ extern "C" {
  * The callback runs on the thread that raises the event, for several events at once on several
  * threads; its changes to a worker's mode end with the slice. It may call these functions. A call
  * that is divided or rejected leaves ork_zem_kernel_SetInterfInputVectorPointer at null; other
- * calls do not touch it. */
+ * calls do not touch it.
+ *
+ * The threads are those of ork_threader_parallel: threader.h tells what happens where the system
+ * has none left (the program ends: ork_set_threads(1) avoids it) and in the child of a fork() (it
+ * computes, on one thread). The library may be unloaded while they are idle. */
 
 /* The greatest number of threads for one elementwise call of this process: 0, as at the start,
  * for what ork_threader_parallel says, 1 for none but the caller's, at most 128. Returns the
@@ -111,15 +115,20 @@ int ork_stream_load(RuaStream** stream, const char* file);
  * extremes, quantiles, deviations. QUANTILES by STREAM or STREAM_ADD are the streaming ones.
  * threader null: one thread.
  *
- * NULL_TASK; BAD_METHOD for an estimate that no method bit serves, before anything is computed;
- * then the first failing computation's status: what ran before it stands. */
+ * Before anything is computed: NULL_TASK; BAD_METHOD for an estimate that no method bit serves;
+ * then for each computation BAD_DIMENSION, BAD_OBSERVATION_COUNT, NULL_OBSERVATIONS, NULL_STORAGE,
+ * and a number of quantile orders that is negative. Numbers of a task with 64-bit integers must fit
+ * 32 bits. From sums (FROM_SUMS) no observations are needed; streaming quantiles take n = 0, no new
+ * values. After that the first failing computation's status: what ran before it stands. Whether an
+ * array is as long as these numbers say cannot be checked. */
 int ork_ss_compute(ork_ss_task* task, uint64_t estimates, uint64_t method,
                    const ork_threader* threader);
 
 /* ---- Splines ------------------------------------------------------------------------------
  *
- * For tasks of df.h, made by the d or the s constructor and used with that letter; threader null:
- * one thread. Callbacks, derivatives and hints are for the entries of df.h. */
+ * For tasks of df.h, made by the d or the s constructor and used with that letter: BAD_TYPE for the
+ * other. threader null: one thread. Callbacks, derivatives and hints are for the entries of df.h.
+ */
 
 /* Types of cubic splines beside ORK_DF_TYPE_DEFAULT and ORK_DF_TYPE_HERMITE. */
 enum { ORK_DF_TYPE_NATURAL = 2, ORK_DF_TYPE_BESSEL = 4, ORK_DF_TYPE_AKIMA = 5 };
@@ -132,7 +141,8 @@ int ork_sDFConstruct(ork_df_task* task, const ork_threader* threader);
 
 /* Values of all functions at the sites: function f, site j at result[f * nsite + j]. siteHint: 0,
  * ORK_DF_SITES_SORTED, or ORK_DF_SITES_UNIFORM with the first and the last site in `site`.
- * NULL_TASK; BAD_NX: nsite below 0 or above 2^31 - 1; BAD_X: site null; NULL_RESULT. */
+ * NULL_TASK; BAD_NX: nsite below 0 or above 2^31 - 1; BAD_X: site null; NULL_RESULT; BAD_COEFFS or,
+ * for step splines, BAD_Y where a row of coefficients or a function was never set. */
 int ork_dDFInterpolate(const ork_df_task* task, int64_t nsite, const double* site, int64_t siteHint,
                        double* result, const ork_threader* threader);
 int ork_sDFInterpolate(const ork_df_task* task, int64_t nsite, const float* site, int64_t siteHint,

@@ -39,7 +39,18 @@ typedef struct ork_threader {
 extern const ork_threader ork_threader_serial;
 
 /* OpenMP. max_threads() follows OMP_NUM_THREADS and omp_set_num_threads. Built without
- * OpenMP it is the serial table. */
+ * OpenMP it is the serial table.
+ *
+ * Threads are started by the first launch that wants several, and kept. Where the system refuses
+ * one, OpenMP's own rule holds: GCC's run time says "libgomp: Thread creation failed" and ends the
+ * program with exit code 1. A program that may meet such a limit sets OMP_NUM_THREADS=1 or passes
+ * ork_threader_serial.
+ *
+ * After a launch, libork_outer.so and OpenMP's library stay loaded until the program ends, whatever
+ * is unloaded around them. A child that fork() makes of a process after its first launch works on
+ * one thread, max_threads() then being 1, and so do the child's children. (A program that starts
+ * OpenMP threads by itself and forks must keep to OpenMP's rules: no parallel work in the child.)
+ */
 extern const ork_threader ork_threader_parallel;
 
 #ifdef __cplusplus

@@ -1,43 +1,58 @@
 // Splines without callbacks: construction by the kind that the task names, values, integrals.
+#include "df/df_kernel/service/task.hpp"
 #include "ork/front.h"
 #include "outer/export.hpp"
 
 namespace {
 
-// By type, for order 4.
 constexpr int cubic_types = 6;
-constexpr ork_df_construct* cubic_d[cubic_types] = {
-    ork_df_kernel_dDFDefaultCubicSpline1D, nullptr,
-    ork_df_kernel_dDFNaturalCubicSpline1D, ork_df_kernel_dDFHermiteCubicSpline1D,
-    ork_df_kernel_dDFBesselCubicSpline1D,  ork_df_kernel_dDFAkimaCubicSpline1D};
-constexpr ork_df_construct* cubic_s[cubic_types] = {
-    ork_df_kernel_sDFDefaultCubicSpline1D, nullptr,
-    ork_df_kernel_sDFNaturalCubicSpline1D, ork_df_kernel_sDFHermiteCubicSpline1D,
-    ork_df_kernel_sDFBesselCubicSpline1D,  ork_df_kernel_sDFAkimaCubicSpline1D};
 
-int construct(ork_df_task* task, ork_df_construct* linear, ork_df_construct* quadratic,
-              ork_df_construct* const* cubic, const ork_threader* threader) {
-  int64_t order = 0, type = 0;  // the query writes 32 or 64 bits
-  if (const int code = ork_df_kernel_iQueryVal(task, ORK_DF_VAL_ORDER, &order)) return code;
-  if (const int code = ork_df_kernel_iQueryVal(task, ORK_DF_VAL_TYPE, &type)) return code;
-  ork_df_construct* entry = nullptr;
-  if (order == 2) entry = linear;
-  if (order == 3 && type < 2) entry = quadratic;
-  if (order == 4 && type < cubic_types) entry = cubic[type];
-  return entry != nullptr ? entry(task, 0, 0, threader) : ORK_DF_BAD_TYPE;
-}
+// The constructions of a precision.
+struct Constructions {
+  ork_df_construct *linear, *quadratic, *cubic[cubic_types];  // cubic: by type, for order 4
+};
+constexpr Constructions in_double = {
+    ork_df_kernel_dDFLinearSpline1D,
+    ork_df_kernel_dDFQuadraticSpline1D,
+    {ork_df_kernel_dDFDefaultCubicSpline1D, nullptr, ork_df_kernel_dDFNaturalCubicSpline1D,
+     ork_df_kernel_dDFHermiteCubicSpline1D, ork_df_kernel_dDFBesselCubicSpline1D,
+     ork_df_kernel_dDFAkimaCubicSpline1D}};
+constexpr Constructions in_single = {
+    ork_df_kernel_sDFLinearSpline1D,
+    ork_df_kernel_sDFQuadraticSpline1D,
+    {ork_df_kernel_sDFDefaultCubicSpline1D, nullptr, ork_df_kernel_sDFNaturalCubicSpline1D,
+     ork_df_kernel_sDFHermiteCubicSpline1D, ork_df_kernel_sDFBesselCubicSpline1D,
+     ork_df_kernel_sDFAkimaCubicSpline1D}};
 
-template <class... Array>
-int check(const ork_df_task* task, int64_t n, const void* result, Array... in) {
+// A task, and of the precision of T: kernels take its arrays for what their letter says.
+template <class T>
+int check_task(const ork_df_task* task) {
   if (task == nullptr) return ORK_DF_NULL_TASK;
-  if (n < 0 || n > INT32_MAX) return ORK_DF_BAD_NX;
-  if (n == 0) return ORK_DF_OK;
-  if (((in == nullptr) || ...)) return ORK_DF_BAD_X;
-  return result != nullptr ? ORK_DF_OK : ORK_DF_NULL_RESULT;
+  return task->precisionFlag == (sizeof(T) == sizeof(double)) ? ORK_DF_OK : ORK_DF_BAD_TYPE;
 }
 
 const ork_threader* or_serial(const ork_threader* threader) {
   return threader != nullptr ? threader : &ork_threader_serial;
+}
+
+template <class T>
+int construct(ork_df_task* task, const Constructions& by, const ork_threader* threader) {
+  if (const int code = check_task<T>(task)) return code;
+  const int64_t order = task->splineOrder, type = task->splineType;
+  ork_df_construct* entry = nullptr;
+  if (order == 2) entry = by.linear;
+  if (order == 3 && type < 2) entry = by.quadratic;
+  if (order == 4 && type < cubic_types) entry = by.cubic[type];
+  return entry != nullptr ? entry(task, 0, 0, or_serial(threader)) : ORK_DF_BAD_TYPE;
+}
+
+template <class T, class... Array>
+int check(const ork_df_task* task, int64_t n, const T* result, Array... in) {
+  if (const int code = check_task<T>(task)) return code;
+  if (n < 0 || n > INT32_MAX) return ORK_DF_BAD_NX;
+  if (n == 0) return ORK_DF_OK;
+  if (((in == nullptr) || ...)) return ORK_DF_BAD_X;
+  return result != nullptr ? ORK_DF_OK : ORK_DF_NULL_RESULT;
 }
 
 template <class T, class Kernel>
@@ -61,12 +76,10 @@ int integrate(Kernel kernel, const ork_df_task* task, int64_t n, const T* left, 
 }  // namespace
 
 ORK_OUTER int ork_dDFConstruct(ork_df_task* task, const ork_threader* threader) {
-  return construct(task, ork_df_kernel_dDFLinearSpline1D, ork_df_kernel_dDFQuadraticSpline1D,
-                   cubic_d, or_serial(threader));
+  return construct<double>(task, in_double, threader);
 }
 ORK_OUTER int ork_sDFConstruct(ork_df_task* task, const ork_threader* threader) {
-  return construct(task, ork_df_kernel_sDFLinearSpline1D, ork_df_kernel_sDFQuadraticSpline1D,
-                   cubic_s, or_serial(threader));
+  return construct<float>(task, in_single, threader);
 }
 
 ORK_OUTER int ork_dDFInterpolate(const ork_df_task* task, int64_t nsite, const double* site,

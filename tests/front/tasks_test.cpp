@@ -1,5 +1,7 @@
 // Statistics and splines through the public layer: bad arguments, and the same results as the
 // entries behind it.
+#include <algorithm>
+
 #include "ork/front.h"
 #include "status_rows.hpp"
 
@@ -8,122 +10,162 @@ namespace {
 // ---- Statistics ----
 
 template <class T>
+struct Api {
+  static constexpr auto create = __ruadSSNewTask;
+  static constexpr auto edit = __ruadSSEditTask;
+};
+template <>
+struct Api<float> {
+  static constexpr auto create = __ruasSSNewTask;
+  static constexpr auto edit = __ruasSSEditTask;
+};
+
+// Two variables of five observations. Integers are of 64 bits when `wide`.
+template <class T>
 struct Statistics {
-  static constexpr bool wide = sizeof(T) == 8;
-  int p = 2, n = 5, storage = ORK_SS_ROWS, orders = 1;
-  T x[10] = {1, 2, 3, 4, 10, 5, 4, 3, 2, 1}, mean[2], raw2[2], central2[2], least[2], most[2],
-    quantile[2], deviation[2];
-  T order[1] = {0.5};
+  struct Output {
+    int code;
+    T value[2] = {7, 7};
+  };
+  bool wide;
+  int64_t p = 2, n = 5, storage = ORK_SS_ROWS, orders = 1, one = 1;
+  T x[10] = {1, 2, 3, 4, 10, 5, 4, 3, 2, 1}, order[1] = {0.5}, epsilon = T(0.01);
+  Output mean{ORK_SS_EDIT_MEAN}, raw2{ORK_SS_EDIT_RAW2}, central2{ORK_SS_EDIT_CENTRAL2},
+      sum{ORK_SS_EDIT_SUM}, least{ORK_SS_EDIT_MIN}, most{ORK_SS_EDIT_MAX},
+      quantile{ORK_SS_EDIT_QUANTILES}, median{ORK_SS_EDIT_MEDIAN_ABS_DEV},
+      away{ORK_SS_EDIT_MEAN_ABS_DEV}, streamed{ORK_SS_EDIT_STREAM_QUANTILES};
+  Output* all[10] = {&mean, &raw2,     &central2, &sum,  &least,
+                     &most, &quantile, &median,   &away, &streamed};
   ork_ss_task* task = nullptr;
 
-  static constexpr auto edit = [] {
-    if constexpr (wide)
-      return __ruadSSEditTask;
-    else
-      return __ruasSSEditTask;
-  }();
-  Statistics() {
-    const auto make = [] {
-      if constexpr (wide)
-        return __ruadSSNewTask;
-      else
-        return __ruasSSNewTask;
-    }();
-    EXPECT_EQ(make(&task, &p, &n, &storage, x, nullptr, nullptr, 0), 0);
-    const struct {
-      int code;
-      T* array;
-    } outputs[] = {{ORK_SS_EDIT_MEAN, mean},
-                   {ORK_SS_EDIT_RAW2, raw2},
-                   {ORK_SS_EDIT_CENTRAL2, central2},
-                   {ORK_SS_EDIT_MIN, least},
-                   {ORK_SS_EDIT_MAX, most},
-                   {ORK_SS_EDIT_QUANTILES, quantile},
-                   {ORK_SS_EDIT_QUANTILE_ORDERS, order},
-                   {ORK_SS_EDIT_MEDIAN_ABS_DEV, deviation}};
-    for (const auto& o : outputs) EXPECT_EQ(edit(task, o.code, o.array), 0);
-    EXPECT_EQ(__ruaiSSEditTask(task, ORK_SS_EDIT_QUANTILE_COUNT, &orders), 0);
-    for (T* array : {mean, raw2, central2, least, most, quantile, deviation})
-      array[0] = array[1] = 7;
+  explicit Statistics(bool wide = false, bool observed = true) : wide(wide) {
+    EXPECT_EQ(
+        Api<T>::create(&task, at(p), observed ? at(n) : nullptr, observed ? at(storage) : nullptr,
+                       observed ? x : nullptr, nullptr, nullptr, wide),
+        0);
+    for (Output* o : all) EXPECT_EQ(Api<T>::edit(task, o->code, o->value), 0);
+    Api<T>::edit(task, ORK_SS_EDIT_QUANTILE_ORDERS, order);
+    Api<T>::edit(task, ORK_SS_EDIT_STREAM_ORDERS, order);
+    Api<T>::edit(task, ORK_SS_EDIT_STREAM_PARAMS, &epsilon);
+    set(ORK_SS_EDIT_QUANTILE_COUNT, orders);
+    set(ORK_SS_EDIT_STREAM_ORDER_COUNT, orders);
+    set(ORK_SS_EDIT_STREAM_PARAM_COUNT, one);
   }
   ~Statistics() { __ruaSSDeleteTask(&task); }
-
-  void check() {
-    constexpr uint64_t all = ORK_SS_MEAN | ORK_SS_CENTRAL2 | ORK_SS_MIN | ORK_SS_MAX |
-                             ORK_SS_QUANTILES | ORK_SS_MEDIAN_ABS_DEV;
-    const StatusRow refused[] = {
-        {"no method", ORK_SS_BAD_METHOD, [&] { return ork_ss_compute(task, all, 0, nullptr); }},
-        {"one estimate unserved", ORK_SS_BAD_METHOD,
-         [&] { return ork_ss_compute(task, all, ORK_SS_ONE_PASS, nullptr); }},
-        {"two methods for one estimate", ORK_SS_BAD_METHOD,
-         [&] { return ork_ss_compute(task, all, ORK_SS_FAST | ORK_SS_ONE_PASS, nullptr); }},
-        {"unknown estimate", ORK_SS_BAD_METHOD,
-         [&] { return ork_ss_compute(task, all | 1ull << 50, ORK_SS_FAST, nullptr); }},
-        {"array missing", ORK_SS_NULL_RAW4,
-         [&] { return ork_ss_compute(task, ORK_SS_RAW4 | ORK_SS_MIN, ORK_SS_FAST, nullptr); }}};
-    expect_statuses(refused);
-    for (const T* array : {mean, central2, least, most, quantile, deviation})
-      EXPECT_EQ(array[0], 7);
-    for (const ork_threader* threader :
-         {&ork_threader_serial, &ork_threader_parallel, (const ork_threader*)nullptr}) {
-      least[0] = least[1] = 100, most[0] = most[1] = -100;
-      EXPECT_EQ(ork_ss_compute(task, all, ORK_SS_FAST, threader), 0);
-      EXPECT_EQ(mean[0], 4);
-      EXPECT_EQ(mean[1], 3);
-      EXPECT_EQ(central2[0], T(12.5));
-      EXPECT_TRUE(least[0] == 1 && most[0] == 10 && least[1] == 1 && most[1] == 5);
-      EXPECT_TRUE(quantile[0] == 3 && quantile[1] == 3);
-      EXPECT_EQ(deviation[0], 1);
-    }
-    EXPECT_EQ(ork_ss_compute(task, 0, 0, nullptr), 0) << "nothing asked for";
+  static int32_t* at(int64_t& value) { return reinterpret_cast<int32_t*>(&value); }
+  void set(int code, int64_t& value) { EXPECT_EQ(__ruaiSSEditTask(task, code, at(value)), 0); }
+  bool untouched() const {
+    return std::all_of(std::begin(all), std::end(all),
+                       [](const Output* o) { return o->value[0] == 7 && o->value[1] == 7; });
   }
-
-  // A task without what extremes and quantiles read.
-  void check_shape() {
-    const auto refuse = [&](int status) {
-      for (const uint64_t estimate : {ORK_SS_MIN, ORK_SS_MAX, ORK_SS_QUANTILES, ORK_SS_ORDER_STATS})
-        EXPECT_EQ(ork_ss_compute(task, estimate, ORK_SS_FAST, nullptr), status);
-    };
-    p = 0, refuse(ORK_SS_BAD_DIMENSION), p = 2;
-    n = -1, refuse(ORK_SS_BAD_OBSERVATION_COUNT), n = 5;
-    __ruaSSDeleteTask(&task);
-    const auto make = [] {
-      if constexpr (wide)
-        return __ruadSSNewTask;
-      else
-        return __ruasSSNewTask;
-    }();
-    EXPECT_EQ(make(&task, &p, nullptr, nullptr, nullptr, nullptr, nullptr, 0), 0);
-    refuse(ORK_SS_BAD_OBSERVATION_COUNT);
-    __ruaiSSEditTask(task, ORK_SS_EDIT_OBSERVATION_COUNT, &n);
-    refuse(ORK_SS_NULL_OBSERVATIONS);
-    edit(task, ORK_SS_EDIT_OBSERVATIONS, x);
-    refuse(ORK_SS_NULL_STORAGE);
-  }
-
-  void check_streaming() {
-    const T epsilon = T(0.01);
-    T streamed[2] = {};
-    const int one = 1;
-    __ruaiSSEditTask(task, ORK_SS_EDIT_STREAM_PARAM_COUNT, &one);
-    __ruaiSSEditTask(task, ORK_SS_EDIT_STREAM_ORDER_COUNT, &one);
-    edit(task, ORK_SS_EDIT_STREAM_PARAMS, const_cast<T*>(&epsilon));
-    edit(task, ORK_SS_EDIT_STREAM_ORDERS, order);
-    edit(task, ORK_SS_EDIT_STREAM_QUANTILES, streamed);
-    EXPECT_EQ(ork_ss_compute(task, ORK_SS_QUANTILES, ORK_SS_STREAM, nullptr), 0);
-    EXPECT_NEAR(streamed[0], 3, 1) << "a median of 1, 2, 3, 4, 10 by rank";
-    EXPECT_EQ(quantile[0], 7) << "the exact one was not asked for";
+  int compute(uint64_t estimates, uint64_t method, const ork_threader* threader = nullptr) {
+    return ork_ss_compute(task, estimates, method, threader);
   }
 };
 
-TEST(FrontStatistics, ChecksAndComputes) {
+constexpr uint64_t some = ORK_SS_MEAN | ORK_SS_CENTRAL2 | ORK_SS_MIN | ORK_SS_MAX |
+                          ORK_SS_QUANTILES | ORK_SS_MEDIAN_ABS_DEV;
+// Each computation, by what of it reads observations.
+const struct {
+  uint64_t estimate, method;
+} readers[] = {{ORK_SS_MEAN, ORK_SS_FAST},
+               {ORK_SS_MEAN, ORK_SS_TWO_PASS},
+               {ORK_SS_MIN, ORK_SS_FAST},
+               {ORK_SS_MAX, ORK_SS_ONE_PASS},
+               {ORK_SS_QUANTILES, ORK_SS_FAST},
+               {ORK_SS_QUANTILES, ORK_SS_STREAM},
+               {ORK_SS_MEDIAN_ABS_DEV, ORK_SS_FAST},
+               {ORK_SS_MEAN_ABS_DEV, ORK_SS_FAST},
+               {ORK_SS_MEAN_ABS_DEV, ORK_SS_TWO_PASS}};
+
+template <class T>
+struct FrontStatistics : testing::Test {};
+using Types = testing::Types<double, float>;
+TYPED_TEST_SUITE(FrontStatistics, Types);
+
+TYPED_TEST(FrontStatistics, EachEstimateByTheMethodThatServesIt) {
+  for (const ork_threader* threader :
+       {&ork_threader_serial, &ork_threader_parallel, (const ork_threader*)nullptr}) {
+    Statistics<TypeParam> s;
+    EXPECT_EQ(s.compute(0, 0, threader), 0) << "no estimate";
+    EXPECT_EQ(s.compute(some, ORK_SS_FAST, threader), 0);
+    EXPECT_TRUE(s.mean.value[0] == 4 && s.mean.value[1] == 3);
+    EXPECT_EQ(s.central2.value[0], TypeParam(12.5));
+    EXPECT_TRUE(s.least.value[0] == 1 && s.most.value[0] == 10);
+    EXPECT_TRUE(s.quantile.value[0] == 3 && s.quantile.value[1] == 3);
+    EXPECT_EQ(s.median.value[0], 1);
+    EXPECT_TRUE(s.streamed.value[0] == 7 && s.away.value[0] == 7);
+    EXPECT_EQ(s.compute(ORK_SS_QUANTILES, ORK_SS_STREAM, threader), 0);
+    EXPECT_NEAR(s.streamed.value[0], 3, 1) << "a median of 1, 2, 3, 4, 10 by rank";
+    s.n = 0;  // no new values: what was streamed still has its quantiles
+    s.streamed.value[0] = 7;
+    EXPECT_EQ(s.compute(ORK_SS_QUANTILES, ORK_SS_STREAM, threader), 0);
+    EXPECT_NEAR(s.streamed.value[0], 3, 1);
+  }
+}
+
+TYPED_TEST(FrontStatistics, MethodsAndArraysAreChecked) {
   EXPECT_EQ(ork_ss_compute(nullptr, ORK_SS_MEAN, ORK_SS_FAST, nullptr), ORK_SS_NULL_TASK);
-  Statistics<double>().check();
-  Statistics<float>().check();
-  Statistics<double>().check_shape();
-  Statistics<float>().check_shape();
-  Statistics<double>().check_streaming();
-  Statistics<float>().check_streaming();
+  Statistics<TypeParam> s;
+  const StatusRow refused[] = {
+      {"no method", ORK_SS_BAD_METHOD, [&] { return s.compute(some, 0); }},
+      {"an estimate unserved", ORK_SS_BAD_METHOD, [&] { return s.compute(some, ORK_SS_ONE_PASS); }},
+      {"two methods for an estimate", ORK_SS_BAD_METHOD,
+       [&] { return s.compute(some, ORK_SS_FAST | ORK_SS_ONE_PASS); }},
+      {"unknown estimate", ORK_SS_BAD_METHOD,
+       [&] { return s.compute(some | 1ull << 50, ORK_SS_FAST); }},
+      {"array missing", ORK_SS_NULL_RAW4,
+       [&] { return s.compute(ORK_SS_RAW4 | ORK_SS_MIN, ORK_SS_FAST); }}};
+  expect_statuses(refused);
+  EXPECT_TRUE(s.untouched());
+}
+
+// Kernels trust numbers and arrays; nothing is computed when one of the computations has to
+// refuse.
+TYPED_TEST(FrontStatistics, WhatAComputationReadsIsThere) {
+  const int64_t high = int64_t{1} << 32, top = int64_t{1} << 31;
+  for (const bool wide : {false, true})
+    for (const auto& r : readers) {
+      Statistics<TypeParam> s(wide), bare(wide, false);
+      const auto refuse = [&](Statistics<TypeParam>& t, int status, const char* what) {
+        EXPECT_EQ(t.compute(r.estimate, r.method), status) << what << " " << r.estimate;
+        EXPECT_EQ(t.compute(r.estimate | ORK_SS_SUM, r.method | ORK_SS_ONE_PASS), status) << what;
+        EXPECT_TRUE(t.untouched()) << what << " " << r.estimate;
+      };
+      for (const int64_t bad : {int64_t{0}, int64_t{-1}, wide ? top : -top, wide ? high : 0, -high})
+        s.p = bad, refuse(s, ORK_SS_BAD_DIMENSION, "p");
+      s.p = 2;
+      for (const int64_t bad : {int64_t{-1}, wide ? top : -top}) {
+        s.n = bad;
+        refuse(s, ORK_SS_BAD_OBSERVATION_COUNT, "n");
+      }
+      s.n = 0;
+      if (r.method != ORK_SS_STREAM) refuse(s, ORK_SS_BAD_OBSERVATION_COUNT, "n");
+      s.n = 5;
+      refuse(bare, ORK_SS_BAD_OBSERVATION_COUNT, "no n");
+      bare.set(ORK_SS_EDIT_OBSERVATION_COUNT, bare.n);
+      refuse(bare, ORK_SS_NULL_OBSERVATIONS, "no x");
+      Api<TypeParam>::edit(bare.task, ORK_SS_EDIT_OBSERVATIONS, bare.x);
+      refuse(bare, ORK_SS_NULL_STORAGE, "no layout");
+      if (r.estimate == ORK_SS_QUANTILES)
+        for (const int64_t bad : {int64_t{-1}, wide ? high : -1}) {
+          s.orders = bad;
+          refuse(s, r.method == ORK_SS_FAST ? ORK_SS_BAD_QUANTILES : ORK_SS_BAD_STREAM_ORDERS,
+                 "orders");
+        }
+    }
+  // From sums no observation is read, but all variables are.
+  Statistics<TypeParam> sums(false, false);
+  sums.sum.value[0] = 20, sums.sum.value[1] = 15;
+  for (const int64_t bad : {0, -1}) {
+    sums.p = bad;
+    EXPECT_EQ(sums.compute(ORK_SS_MEAN, ORK_SS_FROM_SUMS), ORK_SS_BAD_DIMENSION);
+  }
+  sums.p = 2;
+  EXPECT_EQ(sums.compute(ORK_SS_MEAN, ORK_SS_FROM_SUMS), ORK_SS_NULL_ACCUMULATED_WEIGHT);
+  sums.set(ORK_SS_EDIT_OBSERVATION_COUNT, sums.n);
+  EXPECT_EQ(sums.compute(ORK_SS_MEAN, ORK_SS_FROM_SUMS), 0);
+  EXPECT_TRUE(sums.mean.value[0] == 4 && sums.mean.value[1] == 3);
 }
 
 // ---- Splines ----
@@ -193,20 +235,66 @@ TEST(FrontSplines, ValuesAndIntegralsOfACubic) {
     EXPECT_NEAR(integral[j], primitive(right[j]) - primitive(left[j]), 1e-12) << j;
 }
 
-TEST(FrontSplines, SinglePrecisionTwins) {
-  float x[4] = {0, 1, 2, 3}, y[8] = {0, 1, 4, 9, 1, 3, 5, 7}, coeffs[12], site[2] = {0.5f, 2.5f},
-        value[4], left[2] = {0, 3}, right[2] = {1, 1}, integral[4];
+// Linear splines in the plane, in single precision: functions 0, 1, 4, 9 and 1, 3, 5, 7.
+struct Lines {
+  float x[4] = {0, 1, 2, 3}, y[8] = {0, 1, 4, 9, 1, 3, 5, 7}, coeffs[12];
   ork_df_task* task = nullptr;
-  ASSERT_EQ(ork_df_kernel_sNewTask1D(&task, 4, x, 0, 2, y, 0, 0), 0);
-  ASSERT_EQ(ork_df_kernel_sEditPPSpline1D(task, 2, 0, 0, nullptr, 0, nullptr, coeffs, 0), 0);
-  EXPECT_EQ(ork_sDFConstruct(task, nullptr), 0);
-  EXPECT_EQ(ork_sDFInterpolate(task, 2, site, 0, value, nullptr), 0);
-  EXPECT_EQ(ork_sDFIntegrate(task, 2, left, right, integral, nullptr), 0);
+  explicit Lines(int64_t y_hint = 0, int64_t coeff_hint = 0, int order = 2, int type = 0) {
+    EXPECT_EQ(ork_df_kernel_sNewTask1D(&task, 4, x, 0, 2, y, y_hint, 0), 0);
+    EXPECT_EQ(ork_df_kernel_sEditPPSpline1D(task, order, type, 0, nullptr, 0, nullptr, coeffs,
+                                            coeff_hint),
+              0);
+  }
+  ~Lines() { ork_df_kernel_DeleteTask(&task); }
+};
+
+TEST(FrontSplines, SinglePrecisionTwins) {
+  Lines s;
+  const float site[2] = {0.5f, 2.5f}, left[2] = {0, 3}, right[2] = {1, 1};
+  float value[4], integral[4];
+  EXPECT_EQ(ork_sDFConstruct(s.task, nullptr), 0);
+  EXPECT_EQ(ork_sDFInterpolate(s.task, 2, site, 0, value, nullptr), 0);
+  EXPECT_EQ(ork_sDFIntegrate(s.task, 2, left, right, integral, nullptr), 0);
   const float values[] = {0.5f, 6.5f, 2, 6},
               integrals[] = {0.5f, -9, 2, -10};  // function by function
   for (int j = 0; j < 4; ++j)
     EXPECT_TRUE(value[j] == values[j] && integral[j] == integrals[j]) << j;
-  ork_df_kernel_DeleteTask(&task);
+}
+
+// Of rows apart the first comes with the task, the others one by one.
+TEST(FrontSplines, RowsThatWereNeverSet) {
+  const float site[] = {0.5f, 1.5f, 2.5f};
+  float r[6] = {7};
+  const struct {
+    int y_hint, coeff_hint, order, type, status;
+  } rows[] = {{ORK_DF_ROWS_APART, 0, 2, 0, ORK_DF_BAD_Y},
+              {0, ORK_DF_ROWS_APART, 2, 0, ORK_DF_BAD_COEFFS},
+              {ORK_DF_ROWS_APART, 0, 0, ORK_DF_TYPE_STEP_LEFT, ORK_DF_BAD_Y},
+              {ORK_DF_ROWS_APART, 0, 0, ORK_DF_TYPE_STEP_RIGHT, ORK_DF_BAD_Y}};
+  for (const auto& row : rows) {
+    Lines s(row.y_hint, row.coeff_hint, row.order, row.type);
+    const bool constructed = row.order != 0, ready = row.status == ORK_DF_BAD_Y && constructed;
+    if (constructed) {
+      EXPECT_EQ(ork_sDFConstruct(s.task, nullptr), row.status);
+    }
+    if (!ready) {
+      for (const int n : {1, 3}) {
+        EXPECT_EQ(ork_sDFInterpolate(s.task, n, site, 0, r, nullptr), row.status) << row.type;
+        EXPECT_EQ(ork_sDFIntegrate(s.task, n, site, site + 1 - n / 2, r, nullptr), row.status)
+            << row.type;
+      }
+    }
+    EXPECT_EQ(r[0], 7);
+    if (row.y_hint != 0)
+      EXPECT_EQ(ork_df_kernel_sEditIdxPtr(s.task, ORK_DF_PTR_Y, 1, s.y + 4), 0);
+    else
+      EXPECT_EQ(ork_df_kernel_sEditIdxPtr(s.task, ORK_DF_PTR_COEFFS, 1, s.coeffs + 6), 0);
+    if (constructed) {
+      EXPECT_EQ(ork_sDFConstruct(s.task, nullptr), 0);
+    }
+    EXPECT_EQ(ork_sDFInterpolate(s.task, 3, site, 0, r, nullptr), 0);
+    r[0] = 7;
+  }
 }
 
 TEST(FrontSplines, BadArguments) {
@@ -214,9 +302,24 @@ TEST(FrontSplines, BadArguments) {
   ASSERT_EQ(s.name(2, 0, 0, nullptr, nullptr), 0);
   ASSERT_EQ(step.name(0, ORK_DF_TYPE_DEFAULT, 0, nullptr, nullptr), 0);
   ASSERT_EQ(ork_dDFConstruct(s.task, nullptr), 0);
+  Lines single;
   const double at[] = {1};
+  const float at_single[] = {1};
   double r[1] = {7};
+  float r_single[1] = {7};
   const StatusRow rows[] = {
+      {"construct, other precision", ORK_DF_BAD_TYPE,
+       [&] { return ork_dDFConstruct(single.task, nullptr); }},
+      {"construct, other precision", ORK_DF_BAD_TYPE,
+       [&] { return ork_sDFConstruct(s.task, nullptr); }},
+      {"interpolate, other precision", ORK_DF_BAD_TYPE,
+       [&] { return ork_dDFInterpolate(single.task, 1, at, 0, r, nullptr); }},
+      {"interpolate, other precision", ORK_DF_BAD_TYPE,
+       [&] { return ork_sDFInterpolate(s.task, 1, at_single, 0, r_single, nullptr); }},
+      {"integrate, other precision", ORK_DF_BAD_TYPE,
+       [&] { return ork_dDFIntegrate(single.task, 1, at, at, r, nullptr); }},
+      {"integrate, other precision", ORK_DF_BAD_TYPE,
+       [&] { return ork_sDFIntegrate(s.task, 1, at_single, at_single, r_single, nullptr); }},
       {"construct, null", -1000, [&] { return ork_dDFConstruct(nullptr, nullptr); }},
       {"construct, null, single", -1000, [&] { return ork_sDFConstruct(nullptr, nullptr); }},
       {"construct, order 0", ORK_DF_BAD_TYPE, [&] { return ork_dDFConstruct(step.task, nullptr); }},

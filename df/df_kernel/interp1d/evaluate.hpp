@@ -150,8 +150,7 @@ inline int kind_of(int64_t order, int64_t type, bool all_callbacks) {
 
 // Whether the task lends what the kind reads: functions, or coefficients.
 inline bool has_data(const Task* task, int kind) {
-  if (kind >= step_left_kind) return task->y != nullptr && task->y[0] != nullptr;
-  return task->coeffs != nullptr && task->coeffs[0] != nullptr;
+  return kind >= step_left_kind ? has_functions(task) : has_coefficients(task);
 }
 
 }  // namespace ork::df

@@ -102,6 +102,19 @@ Samples<T> samples(const Task* task, int f) {
   return {static_cast<const T*>(task->y[f]), 1};
 }
 
+// Whether every row of functions, or of coefficients, is there. Rows apart are set one by one, so
+// that row 0 says nothing of the others.
+inline bool all_rows(void* const* table, int rows) {
+  if (table == nullptr) return false;
+  for (int f = 0; f < rows; ++f)
+    if (table[f] == nullptr) return false;
+  return true;
+}
+inline bool has_functions(const Task* task) {
+  return all_rows(task->y, column_storage(task) ? 1 : functions(task));
+}
+inline bool has_coefficients(const Task* task) { return all_rows(task->coeffs, functions(task)); }
+
 // Scratch that cannot be had: the caller answers ORK_DF_NO_MEMORY.
 using ork::Scratch;
 using ork::thread_limit;

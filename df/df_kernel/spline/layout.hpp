@@ -93,13 +93,8 @@ int for_layout(const Task* task, F f) {
 
 // What a construction reads and writes must be there. 0 or a code.
 inline int check_arrays(const Task* task) {
-  const int ny = functions(task);
-  if (task->y == nullptr) return ORK_DF_BAD_Y;
-  for (int f = 0; f < (column_storage(task) ? 1 : ny); ++f)
-    if (task->y[f] == nullptr) return ORK_DF_BAD_Y;
-  if (task->coeffs == nullptr) return ORK_DF_BAD_COEFFS;
-  for (int f = 0; f < ny; ++f)
-    if (task->coeffs[f] == nullptr) return ORK_DF_BAD_COEFFS;
+  if (!has_functions(task)) return ORK_DF_BAD_Y;
+  if (!has_coefficients(task)) return ORK_DF_BAD_COEFFS;
   return ORK_DF_OK;
 }
 
