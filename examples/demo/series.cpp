@@ -19,7 +19,7 @@ int32_t on_log_error(ork_error_record* record) {
 
 // 400 ln(x[t] / x[t-1]): growth from quarter to quarter, in percent a year.
 std::vector<double> growth(const Table& table, const char* name) {
-  const auto& x = table.column(name);
+  const auto x = table.column(name);
   const int n = int(x.size());
   std::vector<double> log(x.size()), r(x.size() - 1);
   culprit_table = &table, culprit_column = name;
@@ -39,7 +39,7 @@ std::vector<double> difference(const std::vector<double>& x) {
 
 // Each row is the quarter after the row before.
 void take_calendar(Quarters& q, const Table& table) {
-  const auto &year = table.column("year"), &quarter = table.column("quarter");
+  const auto year = table.column("year"), quarter = table.column("quarter");
   for (size_t i = 0; i < table.rows(); ++i) {
     const int line = table.lines[i];
     const double y = year[i], k = quarter[i];
@@ -83,7 +83,7 @@ Quarters transform(const Table& table) {
          least_rows, most_rows);
   Quarters q;
   take_calendar(q, table);
-  const auto& bills = table.column("tbilrate");
+  const auto bills = table.column("tbilrate");
   q.unemployment = table.column("unemp");
   q.series = {
       {"gdp", "GDP growth", "GDP", "% a year", growth(table, "realgdp")},

@@ -4,29 +4,14 @@
 #include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <cstring>
-#include <fstream>
+#include <utility>
 
 #include "fail.hpp"
 
 namespace demo {
 namespace {
-
-std::string trimmed(const std::string& text) {
-  const char* blanks = " \t\r\"";
-  const size_t first = text.find_first_not_of(blanks);
-  if (first == std::string::npos) return "";
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-std::vector<std::string> fields_of(const std::string& line) {
-  std::vector<std::string> fields;
-  size_t start = 0;
-  for (size_t comma; (comma = line.find(',', start)) != std::string::npos; start = comma + 1)
-    fields.push_back(trimmed(line.substr(start, comma - start)));
-  fields.push_back(trimmed(line.substr(start)));
-  return fields;
-}
 
 // For messages: short, and nothing that upsets a terminal.
 std::string shown(std::string text) {
@@ -50,57 +35,158 @@ double number_of(const Table& table, int line, const std::string& name, const st
   return value;
 }
 
-void take_names(Table& table, const std::vector<std::string>& fields, int line) {
-  for (const auto& name : fields) {
-    if (name.empty()) fail("%s:%d: a column without a name", table.file.c_str(), line);
-    if (std::count(fields.begin(), fields.end(), name) > 1)
-      fail("%s:%d: column \"%s\" occurs twice", table.file.c_str(), line, shown(name).c_str());
-    table.names.push_back(shown(name));
-  }
-  table.head_line = line;
-  table.columns.resize(fields.size());
+std::string trimmed(const std::string& text) {
+  const char* blanks = " \t\r";
+  const size_t first = text.find_first_not_of(blanks);
+  if (first == std::string::npos) return "";
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
+
+std::string contents(const std::string& file) {
+  FILE* stream = std::fopen(file.c_str(), "r");
+  if (!stream) fail("%s: cannot be opened: %s", file.c_str(), std::strerror(errno));
+  std::string text;
+  char part[4096];
+  while (const size_t n = std::fread(part, 1, sizeof part, stream)) text.append(part, n);
+  if (std::ferror(stream)) fail("%s: cannot be read: %s", file.c_str(), std::strerror(errno));
+  std::fclose(stream);
+  return text;
+}
+
+// Goes through the text, line by line and field by field.
+class Reader {
+ public:
+  Reader(const std::string& file, std::string text) : file_(file), text_(std::move(text)) {
+    if (text_.starts_with("\xEF\xBB\xBF")) at_ = 3;
+  }
+  int line() const { return line_; }
+  bool at_end() const { return at_ == text_.size(); }
+
+  bool at_note() const { return !at_end() && text_[at_] == '#'; }
+  bool at_blank_line() const { return trimmed(rest_of_line()).empty(); }
+  std::string pass_line() {
+    const std::string rest = rest_of_line();
+    at_ += rest.size();
+    pass_line_end();
+    return rest;
+  }
+
+  // What the line at hand has most of, outside quotes.
+  void choose_separator() {
+    size_t most = 0;
+    for (const char candidate : {',', ';', '\t'}) {
+      size_t count = 0;
+      bool quoted = false;
+      for (size_t i = at_; i < text_.size() && (quoted || text_[i] != '\n'); ++i) {
+        quoted ^= text_[i] == '"';
+        count += !quoted && text_[i] == candidate;
+      }
+      if (count > most) most = count, separator_ = candidate;
+    }
+  }
+
+  std::vector<std::string> fields() {
+    std::vector<std::string> all;
+    for (bool more = true; more; all.push_back(field(more))) {
+    }
+    pass_line_end();
+    return all;
+  }
+
+ private:
+  static bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+  std::string rest_of_line() const { return text_.substr(at_, text_.find('\n', at_) - at_); }
+  void pass_line_end() {
+    if (!at_end()) ++at_, ++line_;
+  }
+  bool ends_field() const { return at_end() || text_[at_] == separator_ || text_[at_] == '\n'; }
+  void pass_blanks() {
+    while (!ends_field() && is_blank(text_[at_])) ++at_;
+  }
+
+  std::string field(bool& more) {
+    std::string value;
+    pass_blanks();
+    if (!at_end() && text_[at_] == '"') {
+      value = quoted();
+      pass_blanks();
+      if (!ends_field())
+        fail("%s:%d: text after the quoted field \"%s\"", file_.c_str(), line_,
+             shown(value).c_str());
+    } else {
+      const size_t start = at_;
+      while (!ends_field()) ++at_;
+      value = trimmed(text_.substr(start, at_ - start));
+    }
+    more = !at_end() && text_[at_] == separator_;
+    at_ += more;
+    return value;
+  }
+
+  std::string quoted() {
+    const int first = line_;
+    std::string value;
+    for (++at_;; ++at_) {
+      if (at_end()) fail("%s:%d: a quoted field without end", file_.c_str(), first);
+      if (text_[at_] == '"' && (++at_ == text_.size() || text_[at_] != '"')) return value;
+      line_ += text_[at_] == '\n';
+      value += text_[at_];
+    }
+  }
+
+  const std::string& file_;
+  std::string text_;
+  size_t at_ = 0;
+  int line_ = 1;
+  char separator_ = ',';
+};
 
 }  // namespace
 
-const std::vector<double>& Table::column(const std::string& name) const {
+std::vector<double> Table::column(const std::string& name) const {
   const auto found = std::find(names.begin(), names.end(), name);
   if (found == names.end()) {
     std::string list;
-    for (const auto& n : names) list += (list.empty() ? "" : ", ") + n;
+    for (const auto& n : names) list += (list.empty() ? "" : ", ") + shown(n);
     fail("%s:%d: no column \"%s\"; there are: %s", file.c_str(), head_line, name.c_str(),
          list.c_str());
   }
-  return columns[size_t(found - names.begin())];
+  if (std::find(found + 1, names.end(), name) != names.end())
+    fail("%s:%d: column \"%s\" occurs twice", file.c_str(), head_line, name.c_str());
+  std::vector<double> numbers;
+  for (size_t i = 0; i < rows(); ++i)
+    numbers.push_back(number_of(*this, lines[i], name, fields[i][size_t(found - names.begin())]));
+  return numbers;
 }
 
 Table read_table(const std::string& file) {
   Table table{file, {}, 0, {}, {}, {}};
-  std::ifstream stream(file);
-  if (!stream) fail("%s: cannot be opened: %s", file.c_str(), std::strerror(errno));
-  int number = 0;
-  for (std::string line; std::getline(stream, line);) {
-    ++number;
-    if (line.starts_with("#")) {
-      if (table.names.empty()) table.notes.push_back(trimmed(line.substr(1)));
+  Reader reader(table.file, contents(file));
+  while (!reader.at_end()) {
+    const int line = reader.line();
+    if (reader.at_note()) {
+      const std::string note = trimmed(reader.pass_line().substr(1));
+      if (table.names.empty()) table.notes.push_back(note);
       continue;
     }
-    if (trimmed(line).empty()) continue;
-    const auto fields = fields_of(line);
+    if (reader.at_blank_line()) {
+      reader.pass_line();
+      continue;
+    }
     if (table.names.empty()) {
-      take_names(table, fields, number);
+      reader.choose_separator();
+      table.names = reader.fields();
+      table.head_line = line;
       continue;
     }
-    if (fields.size() != table.names.size())
-      fail("%s:%d: %zu fields, expected %zu as in line %d", file.c_str(), number, fields.size(),
-           table.names.size(), table.head_line);
-    for (size_t i = 0; i < fields.size(); ++i)
-      table.columns[i].push_back(number_of(table, number, table.names[i], fields[i]));
-    table.lines.push_back(number);
+    table.fields.push_back(reader.fields());
+    table.lines.push_back(line);
+    if (table.fields.back().size() != table.names.size())
+      fail("%s:%d: %zu fields, expected %zu as in line %d", file.c_str(), line,
+           table.fields.back().size(), table.names.size(), table.head_line);
   }
-  if (stream.bad()) fail("%s: cannot be read: %s", file.c_str(), std::strerror(errno));
   if (table.names.empty())
-    fail("%s:%d: the file is empty, expected a line of column names", file.c_str(), number + 1);
+    fail("%s:%d: the file is empty, expected a line of column names", file.c_str(), reader.line());
   return table;
 }
 
