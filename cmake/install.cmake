@@ -1,4 +1,8 @@
 # cmake --install: libraries, headers, a pkg-config file and a CMake package.
+foreach(library ork_zem_p4m ork_outer ork_front)  # as pkg-config tells its users
+  target_compile_options(${library} INTERFACE -m32)
+  target_link_options(${library} INTERFACE -m32)
+endforeach()
 install(TARGETS ork_zem_p4m ork_outer ork_front EXPORT ork_targets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ork DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

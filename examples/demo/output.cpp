@@ -42,8 +42,8 @@ Output::Output(const std::string& file) : file_(file), target_(file) {
   std::error_code none;
   const fs::file_status status = fs::status(file, none);
   // A second name of the file would keep the old report.
-  directly_ = fs::exists(status) &&
-              (!fs::is_regular_file(status) || fs::hard_link_count(file, none) > 1);
+  directly_ =
+      fs::exists(status) && (!fs::is_regular_file(status) || fs::hard_link_count(file, none) > 1);
   if (!directly_) target_ = followed(file).string();
   const std::string place = directly_ ? (fs::temp_directory_path() / "demo").string() : target_;
   part_ = place + "." + std::to_string(getpid()) + ".part";

@@ -54,7 +54,8 @@ TEST(FrontProcess, UnloadedWhileThreadsAreIdle) {
 #endif
   const pid_t child = fork();
   if (child == 0) {
-    execl(ORK_BUILD_DIR "/bin/front_unload", "front_unload", ORK_LIB_DIR "/libork_front.so", nullptr);
+    execl(ORK_BUILD_DIR "/bin/front_unload", "front_unload", ORK_LIB_DIR "/libork_front.so",
+          nullptr);
     _exit(127);
   }
   EXPECT_EQ(end_of(child), 0);
