@@ -39,10 +39,10 @@ bool runs_untrapped(F f) {
 // of many binades, none so large that its square leaves the type's range.
 template <class T>
 std::vector<T> ordinary() {
-  std::vector<T> points = {T(0),      T(1),    T(2),     T(3),     T(0.5),  T(6.5),     T(8.3),
-                           T(14),     T(27.5), T(33),    T(34.5),  T(38.6), T(40),      T(88.5),
-                           T(89.2),   T(90),   T(100),   T(103.5), T(171.5), T(700),    T(708.5),
-                           T(709.5),  T(710.2), T(745.2), T(1000), T(70000), T(1e5)};
+  std::vector<T> points = {T(0),     T(1),     T(2),     T(3),     T(0.5),   T(6.5), T(8.3),
+                           T(14),    T(27.5),  T(33),    T(34.5),  T(38.6),  T(40),  T(88.5),
+                           T(89.2),  T(90),    T(100),   T(103.5), T(171.5), T(700), T(708.5),
+                           T(709.5), T(710.2), T(745.2), T(1000),  T(70000), T(1e5)};
   points.push_back(sizeof(T) == 8 ? T(710.474) : T(89.414));
   constexpr int range = sizeof(T) == 8 ? 100 : 60;
   for (int e = -range; e < range; e += sizeof(T) == 8 ? 7 : 5)
@@ -79,9 +79,10 @@ TYPED_TEST(Flags, FiniteResultsTrapNothing) {
       }
     if (call.slot->form == Form::scalar || bad) continue;
     std::vector<T> r(a.size()), r2(a.size());
-    EXPECT_TRUE(
-        runs_untrapped([&] { call(int(a.size()), a.data(), b.data(), r.data(), r2.data()); }))
-        << call.slot->name(call.level) << " of all of them";
+    EXPECT_TRUE(runs_untrapped([&] {
+      call(int(a.size()), a.data(), b.data(), r.data(), r2.data());
+    })) << call.slot->name(call.level)
+        << " of all of them";
   }
 }
 

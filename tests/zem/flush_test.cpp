@@ -59,8 +59,9 @@ std::vector<T> partners(const std::vector<T>& a, bool power) {
 template <class T>
 bool agree(T x, T y, const Claim& claim) {
   if (bits(x) == bits(y)) return true;
-  const T unit = claim.relative ? std::fabs(y) : std::ldexp(T(1), std::ilogb(y) + 1 -
-                                                            std::numeric_limits<T>::digits);
+  const T unit = claim.relative
+                     ? std::fabs(y)
+                     : std::ldexp(T(1), std::ilogb(y) + 1 - std::numeric_limits<T>::digits);
   return std::fabs(x - y) <= T(2 * claim.bound) * unit;
 }
 
@@ -70,11 +71,13 @@ TYPED_TEST(Flush, NormalResultsOfNormalArgumentsKeepTheirClaims) {
   const std::vector<T> all = sweep<T>();
   for (const auto& call : elementwise_kernels<T>()) {
     const std::string name = call.slot->name(call.level);
-    const bool power = !strncmp(call.slot->function, "Pow", 3), scalar = call.slot->form == Form::scalar;
+    const bool power = !strncmp(call.slot->function, "Pow", 3),
+               scalar = call.slot->form == Form::scalar;
     // LinearFrac as a quotient, so that its terms reach the ends.
     if (call.slot->form == Form::linear) linear_scalars[1] = linear_scalars[3] = 0;
     const std::vector<T> a = all, b = partners(a, power);
-    std::vector<T> kept[2] = {std::vector<T>(a.size()), std::vector<T>(a.size())}, flushed[2] = {kept[0], kept[0]};
+    std::vector<T> kept[2] = {std::vector<T>(a.size()), std::vector<T>(a.size())},
+                   flushed[2] = {kept[0], kept[0]};
     const auto run = [&](std::vector<T>* r) {
       if (!scalar) return call(int(a.size()), a.data(), b.data(), r[0].data(), r[1].data());
       for (size_t i = 0; i < a.size(); i += 5) call(1, &a[i], &b[i], &r[0][i], &r[1][i]);
@@ -94,8 +97,8 @@ TYPED_TEST(Flush, NormalResultsOfNormalArgumentsKeepTheirClaims) {
         if (!std::isnormal(kept[k][i]) || (call.inputs() == 2 && !std::isnormal(b[i] / 2)))
           continue;
         if (!agree(flushed[k][i], kept[k][i], claims.bounds.at(name)) && ++bad <= 3)
-          ADD_FAILURE() << name << std::hexfloat << "(" << a[i] << ", " << b[i] << "): "
-                        << flushed[k][i] << " not " << kept[k][i];
+          ADD_FAILURE() << name << std::hexfloat << "(" << a[i] << ", " << b[i]
+                        << "): " << flushed[k][i] << " not " << kept[k][i];
       }
   }
 }
