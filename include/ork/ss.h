@@ -385,7 +385,15 @@ int32_t __ruasSSEditMtxParametrz(ork_ss_task* task, float* cor, const void* corS
  * central, cov, cor, kurtosis, skewness, variation, sums, centred sums, cross-product.
  *
  * With accumulatedWeight set and W above 0 the outputs are taken as the result of earlier
- * calls, and the observations at hand are added to them. */
+ * calls, and the observations at hand are added to them. By ONE_PASS the third centred sum
+ * rests on the second, the fourth on both: where one has no array (of its moment or its sum),
+ * it is made of the raw orders up to its own, and where these have none -4078 or -4079, its
+ * status, refuses the call and nothing changes.
+ *
+ * Central moments and matrices of TWO_PASS are those of the distances from the mean supplied,
+ * whatever it is. An estimate whose divisor W - W2/W is 0, one observation having all the
+ * weight, is 0 (TWO_PASS: unless the distance is not 0), so that blocks can go on from it.
+ * Without a mean, TWO_PASS takes 0. */
 int32_t _ruadSSBasic(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
                      uint32_t method_low, uint32_t method_high, const ork_threader* threader);
 int32_t _ruasSSBasic(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
@@ -399,9 +407,10 @@ int32_t _ruasSSMinmax(ork_ss_task* task, uint32_t estimates_low, uint32_t estima
                       uint32_t method_low, uint32_t method_high, const ork_threader* threader);
 
 /* QUANTILES and ORDER_STATS, by FAST. The quantile of order q is the value at place q (n - 1)
- * of the sorted observations, counted from 0, linear between places. Variable number s of
- * those processed has its quantiles from s * quantileCount on. Its n sorted values lie from
- * s * n on (rows), or from s on with stride p (columns). */
+ * of the sorted observations, counted from 0, linear between places: never outside the two
+ * values it lies between, and NaN only for a NaN order or between the two infinities.
+ * Variable number s of those processed has its quantiles from s * quantileCount on. Its n
+ * sorted values lie from s * n on (rows), or from s on with stride p (columns). */
 int32_t _ruadSSQuantiles(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
                          uint32_t method_low, uint32_t method_high, const ork_threader* threader);
 int32_t _ruasSSQuantiles(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,

@@ -17,7 +17,8 @@ extern "C" {
 /* ---- Selection and sorting, ascending --------------------------------------------------- */
 
 /* The element that sorting would put at place k, 0 <= k < n. Reorders a: nothing before
- * place k is above it, nothing behind is below. Mean time linear in n. */
+ * place k is above it, nothing behind is below. Time linear in n, on any input: up to 20
+ * comparisons an element, about 3 on the mean. */
 double __ruadQSortSelect(int n, double* a, int k);
 float __ruasQSortSelect(int n, float* a, int k);
 
@@ -48,8 +49,10 @@ void v8_ownsZero_8u(uint8_t* destination, int n);
  *
  * dof: degrees of freedom, at least 1. Logarithms and exponentials are calls of vector
  * kernels, whose events go to the caller's error mode; ordinary arguments raise none.
- * Errors grow with dof, as those of a ln x - x - ln Gamma(a) do: some 10^-13 relative at
- * dof = 1000. */
+ * Up to dof = 2000000 errors grow with dof, as those of a ln x - x - ln Gamma(a) do: some
+ * 10^-13 relative at dof = 1000, some 10^-9 at the end. From there on (Q: from a = 1000000)
+ * an expansion around the normal limit is right to some 10^-12 of the smaller tail for any dof,
+ * tails below 10^-305 being 0, and the quantile works on p itself. */
 
 /* P(chi2 <= x); 0 for x <= 0. Series and continued fraction of the incomplete gamma function. */
 double __ruadChi2CDF(double dof, double x);

@@ -108,4 +108,49 @@ TEST(ChiSquare, InverseHitsItsProbability) {
   EXPECT_LT(least, __ruadChi2ICDF(100, 1e-12));
 }
 
+// The table: power series below x = a and continued fraction above, with 50 digits (mpmath).
+TEST(ChiSquare, HugeDegreesOfFreedomHaveNormalTails) {
+  const struct {
+    double dof, z, upper, lower;
+  } cases[] = {
+      {2e6, -30, 1, 4.9209087785911619e-202},
+      {2e6, -4, 0.99996899288178892, 3.1007118211082967e-5},
+      {2e6, -0.25, 0.59858548566454919, 0.40141451433545081},
+      {2e6, 0, 0.49986701923912741, 0.50013298076087259},
+      {2e6, 1, 0.15865521363165971, 0.84134478636834029},
+      {2e6, 5, 2.9874901401146349e-7, 0.99999970125098599},
+      {2e6, 35, 1.2571935231573593e-262, 1.0},
+      {2.5e8, -30, 1, 2.1902144619908116e-198},
+      {2.5e8, -4, 0.99996838856854547, 3.161143145453101e-5},
+      {2.5e8, -0.25, 0.59869551793066245, 0.40130448206933755},
+      {2.5e8, 0, 0.49998810583922512, 0.50001189416077488},
+      {2.5e8, 1, 0.15865525360883131, 0.84134474639116869},
+      {2.5e8, 5, 2.8771699857508018e-7, 0.99999971228300142},
+      {2.5e8, 35, 4.0268840427786818e-268, 1.0},
+  };
+  for (const auto& c : cases) {
+    const double x = c.dof + c.z * std::sqrt(2 * c.dof);
+    SCOPED_TRACE(testing::Message() << c.dof << " " << c.z);
+    EXPECT_NEAR(_vdSSQ(c.dof / 2, x / 2) / c.upper, 1, 4e-12);
+    EXPECT_NEAR(__ruadChi2CDF(c.dof, x) / c.lower, 1, 4e-12);
+    if (c.z <= 0) {
+      EXPECT_NEAR(__ruadChi2ICDF(c.dof, c.lower) / x, 1, 4e-15);
+    }
+  }
+  // Far enough up only the normal law is left, then only the mean.
+  for (const double dof : {1e15, 1e30, 1e100, 1e300, largest<double>}) {
+    EXPECT_NEAR(__ruadChi2CDF(dof, dof), 0.5, 1e-8) << dof;
+    for (const double p : {1e-300, 1e-20, 0.01, 0.5, 0.99, 1 - 1e-15}) {
+      const double x = __ruadChi2ICDF(dof, p);
+      EXPECT_LE(std::abs(x - dof), 40 * std::sqrt(dof) * std::sqrt(2.) + dof * 1e-15) << dof;
+      if (dof == 1e15) {
+        EXPECT_NEAR(__ruadChi2CDF(dof, x) / p, 1, 1e-6) << p;
+      }
+    }
+    EXPECT_EQ(__ruadChi2CDF(dof, dof / 2), 0);
+    EXPECT_EQ(_vdSSQ(dof, 10), 1);
+    EXPECT_EQ(_vdSSQ(dof, inf<double>), 0) << dof;
+  }
+}
+
 }  // namespace

@@ -229,6 +229,20 @@ TYPED_TEST(StatisticsMoments, LayoutsAgreeToTheBit) {
   }
 }
 
+// The sample's columns in blocks of growing length.
+template <class R>
+void call_in_blocks(Arrays<R>& t, const Sample<R>& s, bool weighted, int first, uint64_t estimates,
+                    uint64_t method) {
+  for (int at = 0, length = first; at < s.n; at += t.n, length = length * 2 + 1) {
+    t.n = std::min(length, s.n - at);
+    ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_OBSERVATIONS, &s.columns[at * s.p]), 0);
+    if (weighted) {
+      ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_WEIGHTS, &s.w[at]), 0);
+    }
+    ASSERT_EQ(t.call(Api<R>::basic, estimates, method), 0);
+  }
+}
+
 TYPED_TEST(StatisticsMoments, BlocksInAnySplitAgreeWithOneCall) {
   typedef TypeParam R;
   const int p = 6;
@@ -241,11 +255,8 @@ TYPED_TEST(StatisticsMoments, BlocksInAnySplitAgreeWithOneCall) {
             SCOPED_TRACE(testing::Message() << "weighted " << weighted << " method " << method
                                             << " storage " << storage << " sums " << sums_only);
             const Moments m(s, weighted);
-            // One matrix of the three, so that each has its turn to carry the state. About a
-            // mean that is not the block's own, variances between calls may be negative, and
-            // correlations lost.
+            // One matrix of the three, so that each has its turn to carry the state.
             const uint64_t matrix = kMatrices[storage].estimate;
-            if (method == ORK_SS_TWO_PASS && matrix == ORK_SS_COR) continue;
             const uint64_t estimates =
                 matrix |
                 (sums_only
@@ -261,19 +272,155 @@ TYPED_TEST(StatisticsMoments, BlocksInAnySplitAgreeWithOneCall) {
             t.matrices(matrix, storage);
             if (method == ORK_SS_TWO_PASS) give_mean(t, m);
             R* const total = t.array(ORK_SS_EDIT_ACCUMULATED_WEIGHT, 2, 0);
-            for (int at = 0, length = 20; at < s.n; at += t.n, length = length * 2 + 1) {
-              t.n = std::min(length, s.n - at);
-              ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_OBSERVATIONS, &s.columns[at * p]), 0);
-              if (weighted) {
-                ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_WEIGHTS, &s.w[at]), 0);
-              }
-              ASSERT_EQ(t.call(Api<R>::basic, estimates, method), 0);
-            }
+            call_in_blocks(t, s, weighted, 20, estimates, method);
             EXPECT_NEAR(total[0], double(m.w), 1e-4);
             EXPECT_NEAR(total[1], double(m.w2), 1e-3);
             const bool mean_given = method == ORK_SS_TWO_PASS;
             t.expect(m, mean_given ? estimates & ~uint64_t(ORK_SS_MEAN) : estimates, 60);
           }
+}
+
+// No array for the lower centred sums: they come back from the raw orders, or the call is refused.
+TYPED_TEST(StatisticsMoments, BlocksGoOnWithoutTheLowerCentralOrders) {
+  typedef TypeParam R;
+  const int p = 5;
+  const Sample<R> s(p, 300, 9);
+  const Moments m(s, true);
+  const uint64_t raws = ORK_SS_MEAN | ORK_SS_RAW2 | ORK_SS_RAW3;
+  const struct {
+    uint64_t arrays, asked;
+    int status;  // of the second block
+  } cases[] = {
+      {raws | ORK_SS_RAW4 | ORK_SS_CENTRAL2 | ORK_SS_CENTRAL4, ORK_SS_KURTOSIS, 0},
+      {raws | ORK_SS_RAW4, ORK_SS_CENTRAL4, 0},
+      {raws, ORK_SS_CENTRAL3, 0},
+      {raws, ORK_SS_CENTRAL_SUM4, 0},
+      {ORK_SS_MEAN | ORK_SS_SUM2 | ORK_SS_SUM3, ORK_SS_CENTRAL_SUM4, 0},
+      {ORK_SS_MEAN | ORK_SS_RAW2, ORK_SS_CENTRAL_SUM3, 0},
+      {ORK_SS_MEAN | ORK_SS_CENTRAL2, ORK_SS_CENTRAL_SUM3, 0},
+      {ORK_SS_MEAN, ORK_SS_CENTRAL_SUM3, -4078},
+      {ORK_SS_MEAN, ORK_SS_CENTRAL_SUM4, -4078},
+      {ORK_SS_MEAN | ORK_SS_CENTRAL2, ORK_SS_CENTRAL_SUM4, -4079},
+      {ORK_SS_MEAN | ORK_SS_RAW2, ORK_SS_CENTRAL_SUM4, -4079},
+  };
+  for (const auto& c : cases)
+    for (const bool masked : {false, true}) {
+      SCOPED_TRACE(testing::Message() << &c - cases << " masked " << masked);
+      std::vector<int> mask;
+      for (int j = 0; masked && j < p; ++j) mask.push_back(j != 2);
+      Arrays<R> t(p, 20, ORK_SS_COLUMNS, s.columns.data(), s.w.data(), mask);
+      t.vectors(c.arrays | c.asked);
+      t.array(ORK_SS_EDIT_ACCUMULATED_WEIGHT, 2, 0);
+      if (c.status == 0) {
+        call_in_blocks(t, s, true, 20, c.asked, ORK_SS_ONE_PASS);
+        t.expect(m, c.asked, 60);
+      } else {
+        ASSERT_EQ(t.call(Api<R>::basic, c.asked, ORK_SS_ONE_PASS), 0);
+        const auto first = t.arrays;
+        EXPECT_EQ(t.call(Api<R>::basic, c.asked, ORK_SS_ONE_PASS), c.status);
+        EXPECT_EQ(t.arrays, first);
+      }
+    }
+}
+
+// A first block whose variance is 0/0.
+TYPED_TEST(StatisticsMoments, BlocksGoOnFromOneObservation) {
+  typedef TypeParam R;
+  const int p = 4;
+  Sample<R> s(p, 200, 2);
+  s.w[0] = R(0.3);
+  for (const bool weighted : {false, true})
+    for (const uint64_t method : {ORK_SS_FAST, ORK_SS_ONE_PASS})
+      for (const auto& matrix : kMatrices) {
+        SCOPED_TRACE(testing::Message()
+                     << "weighted " << weighted << " method " << method << " code " << matrix.code);
+        const Moments m(s, weighted);
+        const uint64_t estimates = matrix.estimate | ORK_SS_CENTRAL2 | ORK_SS_KURTOSIS;
+        Arrays<R> t(p, 1, ORK_SS_COLUMNS, s.columns.data(), weighted ? s.w.data() : nullptr);
+        t.vectors(ORK_SS_MEAN | ORK_SS_RAW2 | ORK_SS_RAW3 | ORK_SS_RAW4 | ORK_SS_CENTRAL2 |
+                  ORK_SS_CENTRAL3 | ORK_SS_CENTRAL4 | ORK_SS_KURTOSIS);
+        t.matrices(matrix.estimate, ORK_SS_FULL);
+        t.array(ORK_SS_EDIT_ACCUMULATED_WEIGHT, 2, 0);
+        ASSERT_EQ(t.call(Api<R>::basic, estimates, method), 0);
+        for (int j = 0; j < p; ++j) EXPECT_EQ(t[ORK_SS_EDIT_CENTRAL2][j], 0);
+        t[ORK_SS_EDIT_ACCUMULATED_WEIGHT][0] = t[ORK_SS_EDIT_ACCUMULATED_WEIGHT][1] = 0;
+        call_in_blocks(t, s, weighted, 1, estimates, method);
+        t.expect(m, estimates, 60);
+      }
+}
+
+// Where squares of variances and cubes of deviations leave the range, but no result does. A power
+// of two changes nothing else.
+TYPED_TEST(StatisticsMoments, RatiosDoNotDependOnTheScale) {
+  typedef TypeParam R;
+  const int p = 4, powers = sizeof(R) == 8 ? 220 : 22, products = sizeof(R) == 8 ? 300 : 30;
+  const Sample<R> s(p, 250, 6);
+  const auto run = [&](int exponent, uint64_t method, uint64_t estimates, std::vector<int> codes) {
+    Sample<R> far = s;
+    for (R& x : far.columns) x = std::ldexp(x, exponent);
+    Arrays<R> t(p, 1, ORK_SS_COLUMNS, far.columns.data());
+    t.vectors();
+    t.matrices(estimates, ORK_SS_FULL);
+    t.array(ORK_SS_EDIT_ACCUMULATED_WEIGHT, 2, 0);
+    if (method == ORK_SS_TWO_PASS) give_mean(t, Moments(far, false));
+    call_in_blocks(t, far, false, 60, estimates, method);
+    std::vector<R> results;
+    for (const int code : codes)
+      if (code == ORK_SS_EDIT_COR) {
+        for (int i = 0; i < p; ++i)
+          for (int j = 0; j < i; ++j) results.push_back(t[code][i * p + j]);
+      } else {
+        results.insert(results.end(), t[code], t[code] + p);
+      }
+    return results;
+  };
+  for (const uint64_t method : kMethods)
+    for (const int sign : {1, -1}) {
+      SCOPED_TRACE(testing::Message() << "method " << method << " sign " << sign);
+      const uint64_t ratios = ORK_SS_KURTOSIS | ORK_SS_SKEWNESS | ORK_SS_VARIATION;
+      const std::vector<int> codes = {ORK_SS_EDIT_KURTOSIS, ORK_SS_EDIT_SKEWNESS,
+                                      ORK_SS_EDIT_VARIATION};
+      EXPECT_EQ(run(sign * powers, method, ratios, codes), run(0, method, ratios, codes));
+      EXPECT_EQ(run(sign * products, method, ORK_SS_COR, {ORK_SS_EDIT_COR}),
+                run(0, method, ORK_SS_COR, {ORK_SS_EDIT_COR}));
+    }
+}
+
+// The matrices of two passes are those of the distances from the mean at hand, whatever it is.
+TYPED_TEST(StatisticsMoments, TwoPassesGoAroundTheMeanSupplied) {
+  typedef TypeParam R;
+  const int p = 5;
+  const Sample<R> s(p, 300, 12);
+  const R mean[p] = {0, R(1.5), -4, 7, R(0.25)};
+  for (const bool weighted : {false, true})
+    for (const int layout : kLayouts) {
+      const Moments m(s, weighted, mean);
+      Arrays<R> t(p, s.n, layout, s.data(layout), weighted ? s.w.data() : nullptr);
+      t.vectors();
+      t.matrices(kAllMatrices, ORK_SS_FULL);
+      std::copy(mean, mean + p, t[ORK_SS_EDIT_MEAN]);
+      ASSERT_EQ(t.call(Api<R>::basic, kAllMatrices | ORK_SS_CENTRAL2, ORK_SS_TWO_PASS), 0);
+      t.expect(m, kAllMatrices | ORK_SS_CENTRAL2, 60);
+    }
+  // Far from the origin nothing cancels.
+  Sample<R> far = s;
+  const R shift = sizeof(R) == 8 ? R(0x1p30) : R(0x1p12);
+  for (auto* data : {&far.rows, &far.columns})
+    for (R& x : *data) x += shift;
+  const Moments m(far, false);
+  Arrays<R> t(p, s.n, ORK_SS_ROWS, far.rows.data());
+  t.vectors();
+  t.matrices(ORK_SS_COV, ORK_SS_FULL);
+  give_mean(t, m);
+  ASSERT_EQ(t.call(Api<R>::basic, ORK_SS_COV, ORK_SS_TWO_PASS), 0);
+  for (int i = 0; i < p; ++i)
+    for (int j = 0; j <= i; ++j) {
+      const double want = double(m.matrix_value(ORK_SS_EDIT_COV, i, j));
+      EXPECT_NEAR(t[ORK_SS_EDIT_COV][i * p + j], want,
+                  600 * std::numeric_limits<R>::epsilon() *
+                      double(sqrtl(m.c2(i) * m.c2(j)) + std::abs(want)))
+          << i << " " << j;
+    }
 }
 
 const ork_threader* table_of(int threads) {
@@ -319,6 +466,24 @@ TYPED_TEST(StatisticsMoments, ThreadsAgreeWithOneAndRepeat) {
           }
       }
     }
+}
+
+// Centres of the threads' shares lie far apart: their powers times products of weights leave the
+// range of single.
+TYPED_TEST(StatisticsMoments, ThreadsAgreeOnARamp) {
+  typedef TypeParam R;
+  Sample<R> s(1, 40000);
+  for (int i = 0; i < s.n; ++i) s.rows[i] = s.columns[i] = R(100 * i);
+  const Moments m(s, false);
+  for (const uint64_t method : {ORK_SS_ONE_PASS, ORK_SS_TWO_PASS}) {
+    Arrays<R> t(1, s.n, ORK_SS_ROWS, s.rows.data());
+    t.vectors();
+    t.matrices(ORK_SS_COV, ORK_SS_FULL);
+    if (method == ORK_SS_TWO_PASS) give_mean(t, m);
+    const uint64_t asked = ORK_SS_KURTOSIS | ORK_SS_CENTRAL3 | ORK_SS_COV;
+    ASSERT_EQ(t.call(Api<R>::basic, asked, method, table_of(4)), 0);
+    t.expect(m, asked, 1000);
+  }
 }
 
 TYPED_TEST(StatisticsMoments, ThreadCountFollowsTheObservations) {

@@ -58,6 +58,57 @@ TYPED_TEST(StatisticsQuantiles, MatchASort) {
         }
 }
 
+// Infinite observations give infinite quantiles, not NaN, and rounding leads out of no interval.
+TYPED_TEST(StatisticsQuantiles, StayBetweenTheirNeighbours) {
+  typedef TypeParam R;
+  const R inf = std::numeric_limits<R>::infinity(), tie = R(0.1),
+          beside = std::nextafter(tie, R(1));
+  const std::vector<std::vector<R>> samples = {
+      {inf},
+      {-inf},
+      {1, 2, inf},
+      {-inf, 1, 2},
+      {inf, inf, inf, 3},
+      {-inf, -inf, -inf, -2},
+      {tie, tie, tie, tie, tie, tie, tie, tie},
+      {tie, beside, beside, tie, beside, tie},
+      {std::numeric_limits<R>::max(), std::numeric_limits<R>::max() / 2}};
+  std::vector<R> orders;
+  for (int i = 0; i <= 350; ++i) orders.push_back(R(i) / 350);
+  for (const auto& x : samples)
+    for (const bool sort : {false, true}) {
+      const int n = int(x.size());
+      SCOPED_TRACE(testing::PrintToString(x));
+      std::vector<R> v = x;
+      std::sort(v.begin(), v.end());
+      Task<R> t(1, n, ORK_SS_ROWS, x.data());
+      t.integer(ORK_SS_EDIT_QUANTILE_COUNT, int(orders.size()));
+      ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_QUANTILE_ORDERS, orders.data()), 0);
+      R* const q = t.array(ORK_SS_EDIT_QUANTILES, int(orders.size()));
+      t.array(ORK_SS_EDIT_ORDER_STATS, n);
+      t.integer(ORK_SS_EDIT_ORDER_STATS_STORAGE, ORK_SS_ROWS);
+      ASSERT_EQ(t.call(Api<R>::quantiles, sort ? kBoth : ORK_SS_QUANTILES, ORK_SS_FAST), 0);
+      for (size_t k = 0; k < orders.size(); ++k) {
+        const R place = orders[k] * R(n - 1);
+        const int below = int(place), above = std::min(below + 1, n - 1);
+        ASSERT_GE(q[k], v[below]) << orders[k];
+        ASSERT_LE(q[k], v[above]) << orders[k];
+        if (place == R(below)) {
+          ASSERT_EQ(q[k], v[below]) << orders[k];
+        }
+      }
+      // The median by weights, all alike: equal halves meet in the middle.
+      const std::vector<R> w(n, R(1));
+      ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_WEIGHTS, w.data()), 0);
+      for (const R order : {R(0.5), R(0.4), R(0.9)}) {
+        ASSERT_EQ(Api<R>::edit(t.task, ORK_SS_EDIT_QUANTILE_ORDERS, &order), 0);
+        ASSERT_EQ(Api<R>::median(t.task), 0);
+        EXPECT_GE(q[0], v[0]) << order;
+        EXPECT_LE(q[0], v[n - 1]) << order;
+      }
+    }
+}
+
 TYPED_TEST(StatisticsQuantiles, ChecksInOrder) {
   typedef TypeParam R;
   const Sample<R> s(2, 10);

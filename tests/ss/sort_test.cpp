@@ -5,6 +5,7 @@
 #include <numeric>
 #include <random>
 
+#include "rua_sub_kernel/math/select.hpp"
 #include "ss/api.hpp"
 #include "support/bits.hpp"
 #include "support/memory.hpp"
@@ -167,6 +168,67 @@ TYPED_TEST(Sorting, SelectionSplitsAtTheAnswer) {
     }
     EXPECT_EQ(images(Values<R>(a, a + n)), images(v));
   });
+}
+
+// Keys whose order is made up while they are compared, so that every pivot turns out to be one of
+// the least (M. D. McIlroy, "A killer adversary for quicksort", 1999).
+struct Adversary {
+  static constexpr int kOpen = INT_MAX;
+  std::vector<int> rank;
+  int next = 0, candidate = 0;
+  int64_t comparisons = 0;
+  int fix(int id) { return rank[id] == kOpen ? rank[id] = next++ : rank[id]; }
+  int compare(int x, int y) {
+    ++comparisons;
+    if (rank[x] == kOpen && rank[y] == kOpen) fix(x == candidate ? x : y);
+    if (rank[x] == kOpen)
+      candidate = x;
+    else if (rank[y] == kOpen)
+      candidate = y;
+    return rank[x] < rank[y] ? -1 : rank[x] > rank[y];
+  }
+};
+Adversary* adversary;
+struct MadeUp {
+  int id;
+  bool operator<(MadeUp y) const { return adversary->compare(id, y.id) < 0; }
+  bool operator>(MadeUp y) const { return adversary->compare(id, y.id) > 0; }
+};
+struct MadeUpSequence {
+  struct Item {
+    MadeUp key;
+  };
+  int* ids;
+  MadeUp key(int i) const { return {ids[i]}; }
+  uint32_t image(int i) const { return ++adversary->comparisons, adversary->fix(ids[i]); }
+  Item load(int i) const { return {{ids[i]}}; }
+  void store(int i, Item x) { ids[i] = x.key.id; }
+};
+
+TYPED_TEST(Sorting, SelectionHasABoundOnAnyInput) {
+  typedef TypeParam R;
+  for (const int n : {8, 40, 64, 65, 100, 300, 5003})
+    for (const int k : {n / 2, n - 1, n / 10}) {
+      SCOPED_TRACE(testing::Message() << n << " " << k);
+      Adversary act;
+      adversary = &act;
+      act.rank.assign(n, Adversary::kOpen);
+      Values<int> ids(n);
+      std::iota(ids.begin(), ids.end(), 0);
+      ork::select(MadeUpSequence{ids.data()}, n, k);
+      EXPECT_LE(act.comparisons, 20 * n);
+      // The same input for the library.
+      for (int i = 0; i < n; ++i) act.fix(i);
+      EXPECT_EQ(act.rank[ids[k]], k);
+      R* const a = this->pages.template at_end<R>(n);
+      for (int i = 0; i < n; ++i) a[i] = R(act.rank[i]) - R(n / 3);
+      EXPECT_EQ(Api<R>::select(n, a, k), R(k) - R(n / 3));
+      Values<R> left(a, a + n);
+      EXPECT_LE(*std::max_element(a, a + k + 1), a[k]);
+      EXPECT_GE(*std::min_element(a + k, a + n), a[k]);
+      std::sort(left.begin(), left.end());
+      for (int i = 0; i < n; ++i) ASSERT_EQ(left[i], R(i) - R(n / 3));
+    }
 }
 
 TYPED_TEST(Sorting, NaNsLoseNoValueAndLeaveNoArray) {

@@ -1,5 +1,6 @@
 // The chi-square distribution by the incomplete gamma functions: power series of P below x = a,
-// continued fraction of Q above; quantiles by Newton steps within a bracket, then bisection
+// continued fraction of Q above, and where either would take thousands of steps the uniform
+// expansion around the normal limit; quantiles by Newton steps within a bracket, then bisection
 // with a guess at the place.
 #include "base/export.hpp"
 #include "ork/ss_math.h"
@@ -21,6 +22,8 @@ double ln(double x) { return vector_call(ork_zem_kernel_dLn_ttab[1], x); }
 double exp(double x) { return vector_call(ork_zem_kernel_dExp_ttab[1], x); }
 double sqrt(double x) { return vector_call(ork_zem_kernel_dSqrt_ttab[1], x); }
 double erf_inverse(double x) { return vector_call(ork_zem_kernel_dErfInv_ttab[1], x); }
+double erfc(double x) { return vector_call(ork_zem_kernel_dErfc_ttab[1], x); }
+double erfc_inverse(double x) { return vector_call(ork_zem_kernel_dErfcInv_ttab[1], x); }
 
 // ln(x^a exp(-x) / Gamma(a))
 double log_front(double a, double x) { return a * ln(x) - x - __ruadLGamma(a); }
@@ -68,9 +71,76 @@ double fraction(double a, double x) {
   return value * exp(e);
 }
 
+// From this a on (up to which the series takes some 10^4 terms) the expansion of N. M. Temme, "The
+// asymptotic expansion of the incomplete gamma functions", 1979. With m = (x - a)/a and
+// h = m sqrt(2 (m - ln(1 + m)))/m, y = h sqrt(a/2),
+//
+//   Q, P = erfc(+-y)/2 +- exp(-y^2)/sqrt(2 pi a) (c0(h) + c1(h)/a + ...)
+//
+// The terms left out are below 2e-16 of the result, however far out it lies.
+constexpr double kLargeShape = 1e6;
+
+class LargeShape {
+ public:
+  LargeShape(double a, double x) : a_(a) {
+    const double m = (x - a) / a;
+    beyond_ = a > kLargest ? (x > kLargest ? 0 : -1) : m > 0.1 ? 1 : m < -0.1 ? -1 : 0;
+    if (beyond_ != 0) return;
+    double sum = 0;  // 2 (m - ln(1 + m)) / m^2
+    for (int k = 18; k >= 2; --k) sum = 2. / k - m * sum;
+    h_ = m * __builtin_sqrt(sum);
+    y_ = h_ * __builtin_sqrt(a / 2);
+    if (y_ > kFar) beyond_ = 1;
+    if (y_ < -kFar) beyond_ = -1;
+  }
+  double upper() const { return tail(1); }
+  double lower() const { return tail(-1); }
+  // Of the gamma distribution, relative to 1/12a.
+  double density(double x) const { return exp(-y_ * y_) * __builtin_sqrt(a_ / kTwoPi) / x; }
+
+ private:
+  static constexpr double kFar = 26.5;  // erfc is near the least normal number
+  static constexpr double kTwoPi = 6.283185307179586;
+
+  double tail(double sign) const {
+    if (beyond_ != 0) return beyond_ * sign > 0 ? 0 : 1;
+    static constexpr double c0[] = {-1. / 3,   1. / 12,        -2. / 135, 1. / 864,
+                                    1. / 2835, -139. / 777600, 1. / 25515};
+    static constexpr double c1[] = {-1. / 540, -1. / 288, 1. / 378, -77. / 77760};
+    const auto polynomial = [&](const auto& c) {
+      double value = 0;
+      for (int k = sizeof c / sizeof c[0] - 1; k >= 0; --k) value = value * h_ + c[k];
+      return value;
+    };
+    const double rest = (polynomial(c0) + polynomial(c1) / a_) / __builtin_sqrt(kTwoPi * a_);
+    return erfc(sign * y_) / 2 + sign * exp(-y_ * y_) * rest;
+  }
+
+  double a_, h_ = 0, y_ = 0;
+  int beyond_;  // the side on which nothing is left, or 0
+};
+
 double upper(double a, double x) {
   if (x <= 0 || a <= 0) return 1;
+  if (a >= kLargeShape) return LargeShape(a, x).upper();
   return x < 1 || x < a ? 1 - series(a, x) : fraction(a, x);
+}
+
+// The quantile of a large shape, by Newton steps on the smaller tail from the cube-root
+// transformation, under which it is nearly normal with mean 1 - d and variance d.
+double large_quantile(double a, double p) {
+  const double side = p < 0.5 ? -1 : 1, target = p < 0.5 ? p : 1 - p, d = 1 / 9. / a;
+  const double root = 1 - d + side * 1.4142135623730951 * erfc_inverse(2 * target) * sqrt(d);
+  double x = a * root * root * root;
+  for (int i = 0; i < 4; ++i) {
+    const LargeShape at(a, x);
+    const double tail = side > 0 ? at.upper() : at.lower(), density = at.density(x);
+    if (tail == 0 || tail == 1 || density == 0) break;
+    const double step = side * (tail - target) / density;
+    x += step;
+    if (__builtin_fabs(step) <= kEpsilon * x) break;
+  }
+  return x;
 }
 
 // The x with upper(a, x) = target, within a bracket that closes: upper(a, low) >= target >
@@ -169,6 +239,7 @@ ORK_EXPORT double _vdSSQ(double a, double x) { return upper(a, x); }
 ORK_EXPORT double __ruadChi2CDF(double dof, double x) {
   const double a = dof / 2, y = x / 2;
   if (y <= 0 || a <= 0) return 0;
+  if (a >= kLargeShape) return LargeShape(a, y).lower();
   return y > 1 && y > a ? 1 - upper(a, y) : series(a, y);
 }
 
@@ -183,6 +254,7 @@ ORK_EXPORT double __ruadChi2ICDF(double dof, double p) {
   if (p <= 0) return 0;
   if (p >= 1) return kLargest;
   if (!(dof > 0) || p != p) return __builtin_nan("");
+  if (dof / 2 >= kLargeShape) return dof > kLargest ? dof : 2 * large_quantile(dof / 2, p);
   Search search{dof / 2, 1 - p};
   const double d = 0.1111111111111111 / search.a;
   if (search.target < 1) {

@@ -1,4 +1,4 @@
-// Selection and sorting by partitions, over a sequence that knows how its elements move:
+// Partitions, and sorting by them, over a sequence that knows how its elements move:
 //
 //   R key(i)            what is compared
 //   Item load(i)        an element, and whatever moves with it
@@ -82,19 +82,6 @@ inline __attribute__((always_inline)) void partition(Sequence& a, int l, int r, 
   }
   a.store(l + 1, a.load(j));
   a.store(j, pivot);
-}
-
-// Puts the element of rank k at place k.
-template <class Sequence>
-inline void select(Sequence a, int n, int k) {
-  int l = 0, r = n - 1;
-  while (r > l + 1) {
-    int i, j;
-    partition(a, l, r, i, j);
-    if (j >= k) r = j - 1;
-    if (j <= k) l = i;
-  }
-  if (r == l + 1 && a.key(l) > a.key(r)) exchange(a, l, r);
 }
 
 // Each element moves left past all that are above it.

@@ -1,8 +1,23 @@
 // What quicksort.hpp sorts: reals side by side, reals with a stride, keys with companions.
 #pragma once
 #include <stddef.h>
+#include <stdint.h>
+#include <string.h>
+
+#include <type_traits>
 
 namespace ork {
+
+// The bits of a real as an integer in its order: all inverted when the sign is set, else the sign
+// alone. -0 stands below +0, NaNs beyond the infinities.
+template <class R>
+inline auto ordered_image(R x) {
+  using Image = std::conditional_t<sizeof(R) == 8, uint64_t, uint32_t>;
+  constexpr Image sign = Image{1} << (8 * sizeof(R) - 1);
+  Image image;
+  memcpy(&image, &x, sizeof x);
+  return image & sign ? ~image : image ^ sign;
+}
 
 template <class R>
 struct Reals {
@@ -11,6 +26,7 @@ struct Reals {
   };
   R* a;
   R key(int i) const { return a[i]; }
+  auto image(int i) const { return ordered_image(a[i]); }
   Item load(int i) const { return {a[i]}; }
   void store(int i, Item x) { a[i] = x.key; }
 };

@@ -1,7 +1,7 @@
 // Comparison sorts and selection under their exported names.
 #include "base/export.hpp"
 #include "ork/ss_math.h"
-#include "rua_sub_kernel/math/quicksort.hpp"
+#include "rua_sub_kernel/math/select.hpp"
 
 namespace ork {
 

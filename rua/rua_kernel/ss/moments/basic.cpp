@@ -6,6 +6,7 @@
 #include "base/dense.hpp"
 #include "base/scratch.hpp"
 #include "base/threads.hpp"
+#include "rua_kernel/ss/moments/continuation.hpp"
 #include "rua_kernel/ss/moments/finish.hpp"
 #include "rua_kernel/ss/moments/merge.hpp"
 #include "rua_kernel/ss/moments/tables.hpp"
@@ -18,6 +19,7 @@ struct Work {
   Data<R> data;
   Kernel<R> kernel;
   bool by_products;  // cross-products by the dense layer, not by the kernel
+  bool centred;      // of distances from the caller's mean
   Share<R>* shares;  // of the threads
 };
 
@@ -28,7 +30,20 @@ int block_length(int p, int n) {
   return length < n ? length : n;
 }
 
-// Adds the observations' weighted products to s, block after block while they are in the cache.
+// A block of observations, in one of the two layouts, to <- f(i, j, x), i the observation.
+template <class R, class F>
+void lay_down(bool rows, int p, int count, const R* x, int ld, R* to, F f) {
+  if (rows) {
+    for (int j = 0; j < p; ++j)
+      for (int i = 0; i < count; ++i) to[size_t(j) * count + i] = f(i, j, x[size_t(j) * ld + i]);
+  } else {
+    for (int i = 0; i < count; ++i)
+      for (int j = 0; j < p; ++j) to[size_t(i) * p + j] = f(i, j, x[size_t(i) * ld + j]);
+  }
+}
+
+// Adds the observations' weighted products to s, block after block while they are in the cache:
+// those of their distances from the mean that the caller has supplied, or those about the origin.
 // Row after row, the lower triangle is what the dense layer calls the upper one.
 template <class R>
 void take_products(const Work<R>& work, Share<R>& share, int first, int last) {
@@ -42,30 +57,32 @@ void take_products(const Work<R>& work, Share<R>& share, int first, int last) {
     D::syr("U", &p, &w, share.orders[kMean], &one_step, share.s, &p);
   };
   const int length = block_length<R>(p, n);
-  R* const scaled = share.scratch;
+  const R* const mean = share.orders[kMean];
 
-  shift(one);
+  if (!work.centred) shift(one);
   for (int at = first; at < last; at += length) {
     const int count = last - at < length ? last - at : length;
     work.kernel(data, at, at + count, share.weight, share.orders, nullptr, nullptr);
     const R* x = data.x + (data.rows ? size_t(at) : size_t(at) * p);
-    const int& ld = data.rows ? n : p;
-    if (!data.w) {
-      D::syrk("U", data.rows ? "T" : "N", &p, &count, &one, x, &ld, &one, share.s, &p);
-      continue;
+    const int block_ld = data.rows ? count : p;
+    int ld = data.rows ? n : p;
+    R* to = share.scratch;
+    if (work.centred) {
+      lay_down(data.rows, p, count, x, ld, to, [&](int, int j, R v) { return v - mean[j]; });
+      x = to;
+      ld = block_ld;
+      to += size_t(length) * p;
     }
-    const R* w = data.w + at;
-    if (data.rows) {
-      for (int j = 0; j < p; ++j)
-        for (int i = 0; i < count; ++i) scaled[size_t(j) * count + i] = w[i] * x[size_t(j) * n + i];
-      D::gemm("T", "N", &p, &p, &count, &one, scaled, &count, x, &n, &one, share.s, &p);
+    if (data.w) {
+      const R* const w = data.w + at;
+      lay_down(data.rows, p, count, x, ld, to, [&](int i, int, R v) { return w[i] * v; });
+      D::gemm(data.rows ? "T" : "N", data.rows ? "N" : "T", &p, &p, &count, &one, to, &block_ld, x,
+              &ld, &one, share.s, &p);
     } else {
-      for (int i = 0; i < count; ++i)
-        for (int j = 0; j < p; ++j) scaled[size_t(i) * p + j] = w[i] * x[size_t(i) * p + j];
-      D::gemm("N", "T", &p, &p, &count, &one, scaled, &p, x, &p, &one, share.s, &p);
+      D::syrk("U", data.rows ? "T" : "N", &p, &count, &one, x, &ld, &one, share.s, &p);
     }
   }
-  shift(minus);
+  if (!work.centred) shift(minus);
 }
 
 // The observations of thread `index`.
@@ -146,7 +163,7 @@ Symmetric<R> first_matrix(const Task<R>& t, const Request& q, Form& form) {
 template <class R>
 void start_matrix(const Symmetric<R>& from, Form form, R* s, const Weight<R>& sum) {
   if (sum.w > 0)
-    to_working(from, form, sum.w - sum.w2 / sum.w, s);
+    to_working(from, form, unbiased_divisor(sum), s);
   else if (s != from.a || sum.w == 0)
     memset(s, 0, size_t(from.p) * from.p * sizeof(R));
 }
@@ -212,10 +229,12 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
   const bool given_mean = q.method == Method::kTwoPass, matrix = q.asks_matrix();
   const bool one_pass = q.method == Method::kOnePass;
   const Choice<R> choice = choose<R>(q, data.rows, data.w != nullptr);
-  Work<R> work{data, choice.kernel, matrix && !one_pass, nullptr};
+  Work<R> work{data, choice.kernel, matrix && !one_pass, given_mean, nullptr};
 
   Weight<R> sum{0, 0};
   if (t.accumulatedWeight) sum = {t.accumulatedWeight[0], t.accumulatedWeight[1]};
+  const uint32_t lost = sum.w > 0 ? lost_orders(t, q) : 0;
+  if (const int32_t status = check_continuation(t, lost)) return status;
 
   // The caller's arrays serve thread 0 where they can; with a mask, variables that are left out
   // must keep their results.
@@ -227,10 +246,10 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
     if (t.variableMask) return nullptr;
     return t.sums[order] ? t.sums[order] : t.moments[order];
   };
-  const uint64_t scratch_size = !matrix     ? 0
-                                : one_pass  ? cross_scratch<R>(p)
-                                : t.weights ? uint64_t(block_length<R>(p, n)) * p
-                                            : 0;
+  const uint64_t scratch_size =
+      !matrix    ? 0
+      : one_pass ? cross_scratch<R>(p)
+                 : uint64_t(block_length<R>(p, n)) * p * (given_mean + (t.weights != nullptr));
   const bool need_mean = given_mean && !t.moments[kMean];
 
   Scratch<Share<R>> more;
@@ -272,7 +291,9 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
     const Share<R>& share = work.shares[k];
     for (int order = 0; order < kOrders; ++order) {
       if (!(choice.kept & bit(order))) continue;
-      if (k == 0)
+      if (k == 0 && (lost & bit(order)))
+        bring_back(order, p, sum.w, share.orders);
+      else if (k == 0)
         start_order(t, order, share.orders[order], !borrowed(order), sum);
       else
         memset(share.orders[order], 0, size_t(p) * sizeof(R));

@@ -17,10 +17,11 @@ struct Share {
 template <class R>
 void merge(int p, Share<R>& a, const Share<R>& b, bool keep_mean) {
   if (b.weight.w == 0) return;
+  // Shares of the whole, as products of weights and distances leave the range of single.
   const R wa = a.weight.w, wb = b.weight.w, v = wa + wb;
+  const R ra = wa / v, rb = wb / v, k = wa * rb;
   const R *mean = a.orders[kMean], *other = b.orders[kMean];
   if (a.s) {
-    const R k = wa != 0 ? wa * wb / v : R(0);
     for (int i = 0; i < p; ++i) {
       const R d = k * (other[i] - mean[i]);
       R* row = a.s + size_t(i) * p;
@@ -35,17 +36,17 @@ void merge(int p, Share<R>& a, const Share<R>& b, bool keep_mean) {
     const R d = other[j] - mean[j];
     const R m2a = in(a, kCentral2), m2b = in(b, kCentral2);
     const R m3a = in(a, kCentral3), m3b = in(b, kCentral3);
+    const R between = k * d * d;
     if (R* m4 = a.orders[kCentral4])
-      m4[j] +=
-          in(b, kCentral4) + d * d * d * d * wa * wb * (wa * wa - wa * wb + wb * wb) / (v * v * v) +
-          6 * d * d * (wa * wa * m2b + wb * wb * m2a) / (v * v) + 4 * d * (wa * m3b - wb * m3a) / v;
+      m4[j] += in(b, kCentral4) + between * d * d * (ra * ra - ra * rb + rb * rb) +
+               6 * d * d * (ra * ra * m2b + rb * rb * m2a) + 4 * d * (ra * m3b - rb * m3a);
     if (R* m3 = a.orders[kCentral3])
-      m3[j] += m3b + d * d * d * wa * wb * (wa - wb) / (v * v) + 3 * d * (wa * m2b - wb * m2a) / v;
-    if (R* m2 = a.orders[kCentral2]) m2[j] += m2b + d * d * wa * wb / v;
+      m3[j] += m3b + between * d * (ra - rb) + 3 * d * (ra * m2b - rb * m2a);
+    if (R* m2 = a.orders[kCentral2]) m2[j] += m2b + between;
   }
   for (int order = keep_mean ? kRaw2 : kMean; order <= kRaw4; ++order)
     if (R* raw = a.orders[order])
-      for (int j = 0; j < p; ++j) raw[j] = (wa * raw[j] + wb * b.orders[order][j]) / v;
+      for (int j = 0; j < p; ++j) raw[j] += rb * (b.orders[order][j] - raw[j]);
   a.weight.w = v;
   a.weight.w2 += b.weight.w2;
 }

@@ -3,8 +3,8 @@
 // With W the weight so far, w that of the observation, d = x - mean, r = w / (W + w) and
 // q = W / (W + w):
 //
-//   M4 += a4 d^4 + 6 r^2 M2 d^2 - 4 r M3 d     a4 = r W (W^2 - W w + w^2) / (W + w)^2
-//   M3 += a3 d^3 - 3 r M2 d                    a3 = r W (W - w) / (W + w)
+//   M4 += a4 d^4 + 6 r^2 M2 d^2 - 4 r M3 d     a4 = a2 (q^2 - q r + r^2)
+//   M3 += a3 d^3 - 3 r M2 d                    a3 = a2 (q - r)
 //   M2 += a2 d^2                               a2 = W r
 //   raw = q raw + r x^k, the mean likewise
 //
@@ -85,8 +85,8 @@ struct OnePass : OnePassOrders<index> {
       row[q] = before * inv;
       row[a2] = before * row[r];
       if constexpr (index == 3) {
-        row[a3] = row[r] * inv * before * (before - weight);
-        row[a4] = inv * inv * row[r] * before * (before * before - (before - weight) * weight);
+        row[a3] = row[a2] * (row[q] - row[r]);
+        row[a4] = row[a2] * (row[q] * row[q] - (row[q] - row[r]) * row[r]);
         row[r2] = row[r] + row[r];
         row[r3] = row[r2] + row[r];
       }

@@ -4,6 +4,7 @@
 
 #include "base/scratch.hpp"
 #include "base/threads.hpp"
+#include "rua_kernel/ss/quantiles/between.hpp"
 #include "rua_kernel/ss/service/data.hpp"
 #include "rua_kernel/ss/service/math.hpp"
 #include "rua_kernel/ss/service/private_task.hpp"
@@ -49,9 +50,8 @@ void put_quantiles(const Work<R>& work, R* to, Value value, Next next) {
     int k = int(place);
     if (k < 0) k = 0;        // from NaN
     if (k > last) k = last;  // n - 1 was rounded up
-    const R f = place - R(k);
     const R below = value(k), above = k < last ? next(k + 1) : below;
-    to[i] = (1 - f) * below + f * above;
+    to[i] = between(below, above, place - R(k));
   }
 }
 

@@ -1,6 +1,7 @@
 // The weighted quantile: where the running sum of weights, along the sorted values, crosses the
 // order's share of the whole.
 #include "base/scratch.hpp"
+#include "rua_kernel/ss/quantiles/between.hpp"
 #include "rua_kernel/ss/quantiles/quantiles.hpp"
 #include "rua_kernel/ss/service/data.hpp"
 #include "rua_kernel/ss/service/math.hpp"
@@ -26,12 +27,12 @@ R weighted_quantile(const R* v, const R* w, int n, R total, R q) {
     int at = k - 1;
     while (at > 0 && !(w[at] > 0)) --at;
     if (odd && before == (total - w[k]) * q) return x;
-    return v[at] + (target - before) / w[k] * (x - v[at]);
+    return between(v[at], x, (target - before) / w[k]);
   }
   if (odd || k == n - 1) return x;
   int next = k + 1;
   while (next < n - 1 && !(w[next] > 0)) ++next;
-  return (x + v[next]) * R(0.5);
+  return between(x, v[next], R(0.5));
 }
 
 }  // namespace
