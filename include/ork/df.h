@@ -312,7 +312,8 @@ typedef int32_t ork_df_interp_s(const int64_t* n, const int64_t* pieces, const f
  * Sites beyond the ends belong to the callback of their side, or else to the end piece,
  * extended; sites inside to the interior callback, or else to the spline. A site on the right
  * end counts as inside, but as right when it comes alone on the short road of one site and
- * one function, or under ORK_DF_SITES_SORTED. With more than 512 sites callbacks, searches
+ * one function, or when the sorted search is at work (ORK_DF_SITES_SORTED, neither a uniform
+ * nor a quasi-uniform partition, no searchCallback). With more than 512 sites callbacks, searches
  * among them, may run on several threads at once. Step splines (order 0) give values, other
  * outputs of theirs are 0; a look-up spline takes no other request than the value. Returns 0 or a
  * negative code, and for a single site the status of its callback. */

@@ -299,6 +299,50 @@ TEST_P(Construction, JoinsItsPieces) {
   check_joins<float>(GetParam());
 }
 
+// Powers of two as units of length and value: the coefficients follow to the bit where squares of
+// lengths, or products of slopes, are out of range but no coefficient is.
+template <class T>
+void check_scales(Kind kind) {
+  struct Unit {
+    int x, y;
+  };
+  const std::vector<Unit> units =
+      sizeof(T) == 8 ? std::vector<Unit>{{520, 1000}, {-540, -1000}, {0, 700}, {0, -700}}
+                     : std::vector<Unit>{{66, 120}, {-66, -110}, {0, 70}, {0, -70}};
+  for (int64_t bc : boundaries(kind))
+    for (int64_t xhint : {0, 4})
+      for (int64_t yhint : {0, 32})
+        for (const Unit unit : units) {
+          const int slope = unit.y - unit.x, curvature = slope - unit.x;
+          if (kind == Kind::akima && slope < 0) continue;  // its least weight has no unit
+          Fit<T> fit = make_fit<T>(kind, bc, 9, 2, xhint, yhint);
+          Fit<T> far = fit;
+          const auto scale = [](std::vector<T>& v, int exponent) {
+            for (T& value : v) value = std::ldexp(value, exponent);
+          };
+          scale(far.x, unit.x);
+          scale(far.y, unit.y);
+          scale(far.ic_values, kind == Kind::standard ? curvature : slope);
+          if (bc != 0) {
+            const bool second = bc & 16 || (bc == 64 && kind == Kind::standard);
+            far.bc_values[0] = std::ldexp(far.bc_values[0], bc == 128 ? unit.y
+                                                            : second  ? curvature
+                                                                      : slope);
+            far.bc_values[1] = std::ldexp(far.bc_values[1], bc & 32 ? curvature : slope);
+          }
+          ASSERT_EQ(fit.build(), 0);
+          ASSERT_EQ(far.build(), 0);
+          const int order = fit.facts().order;
+          for (size_t i = 0; i < fit.coeffs.size(); ++i)
+            ASSERT_EQ(far.coeffs[i], std::ldexp(fit.coeffs[i], unit.y - int(i) % order * unit.x))
+                << far.name() << " unit " << unit.x << " at " << i;
+        }
+}
+TEST_P(Construction, HasNoUnits) {
+  check_scales<double>(GetParam());
+  check_scales<float>(GetParam());
+}
+
 // Sub-grids other than the cell middles.
 TEST(SubbotinSpline, TakesListedAndEvenSubgrids) {
   for (int64_t bc : boundaries(Kind::subbotin))

@@ -296,6 +296,20 @@ TEST(Integrate, EqualInfiniteLimitsGiveZero) {
   }
 }
 
+// The array of breakpoints ends at an inaccessible page.
+TEST(Integrate, StepsWithoutALimitLookAtTheirBreakpointsOnly) {
+  std::mt19937 random(12);
+  const double inf = std::numeric_limits<double>::infinity(), nan = std::nan("");
+  for (int type : {ORK_DF_TYPE_STEP_LEFT, ORK_DF_TYPE_STEP_RIGHT})
+    for (Grid grid : {Grid::even, Grid::near_even, Grid::free}) {
+      Spline<double> s(grid, 9, 1, 0, type, random);
+      const double end = s.x[8];
+      Ask<double> ask{{nan, nan, end, end + 1, nan, inf}, {end, end + 1, nan, nan, inf, nan}};
+      ASSERT_EQ(ask.run(s), 0);
+      for (double value : ask.result) EXPECT_TRUE(std::isnan(value));
+    }
+}
+
 TEST(Integrate, FailingCallbackEndsTheWork) {
   std::mt19937 random(11);
   Spline<double> s(Grid::free, 25, 2, 4, 0, random);

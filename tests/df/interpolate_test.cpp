@@ -398,20 +398,37 @@ TEST(Interpolate, LookUpTakesBreakpointsOnly) {
   check_look_up<float>();
 }
 
-TEST(Interpolate, StepsDifferAtBreakpointsOnly) {
-  std::mt19937 random(20);
-  Spline<double> right(Grid::even, 9, 1, 0, 7, random), left(Grid::even, 9, 1, 0, 8, random);
-  Ask<double> a{{}, {1}}, b{{}, {1}};
-  for (int i = 0; i < 9; ++i) a.site.push_back(right.x[i]), a.site.push_back(right.x[i] + 0.25);
-  b.site = a.site;
-  ASSERT_EQ(a.run(right), 0);
-  ASSERT_EQ(b.run(left), 0);
-  for (int i = 0; i < 9; ++i) {
-    EXPECT_EQ(a.result[2 * i], right.y[i]);
-    EXPECT_EQ(b.result[2 * i], left.y[std::max(i - 1, 0)]);
-    EXPECT_EQ(a.result[2 * i + 1], right.y[i]);
-    EXPECT_EQ(b.result[2 * i + 1], left.y[i]);
+template <class T>
+void check_steps(Grid grid, int nx) {
+  std::mt19937 random(20), again(20);
+  Spline<T> right(grid, nx, 1, 0, 7, random), left(grid, nx, 1, 0, 8, again);
+  std::vector<T> site;
+  for (int i = 0; i < nx; ++i) {
+    const T x = right.x[i];
+    site.insert(site.end(), {x, i < nx - 1 ? (x + right.x[i + 1]) / 2 : x + 1});
   }
+  const auto expect = [&](const Ask<T>& ask, const Spline<T>& s, int at, int j) {
+    const bool before = &s == &left && j % 2 == 0;
+    ASSERT_EQ(ask.result[at], s.y[std::max(j / 2 - before, 0)]) << int(grid) << " " << j;
+  };
+  for (const Spline<T>* s : {&right, &left}) {
+    Ask<T> together{site, {1}};
+    ASSERT_EQ(together.run(*s), 0);
+    for (int j = 0; j < 2 * nx; ++j) {
+      expect(together, *s, j, j);
+      Ask<T> alone{{site[j]}, {1}};
+      ASSERT_EQ(alone.run(*s), 0);
+      expect(alone, *s, 0, j);
+    }
+  }
+}
+
+TEST(Interpolate, StepsDifferAtBreakpointsOnly) {
+  for (Grid grid : {Grid::even, Grid::near_even, Grid::free})
+    for (int nx : {9, 41}) {
+      check_steps<double>(grid, nx);
+      check_steps<float>(grid, nx);
+    }
 }
 
 TEST(Interpolate, RefusesInOrder) {

@@ -10,7 +10,7 @@ template <class T, class V>
 V weighted_slope(V t_before, V w_before, V t_after, V w_after) {
   const V s = w_after + w_before;
   return T(1e-10) > s ? (t_before + t_after) * T(0.5)
-                      : (w_after * t_before + w_before * t_after) / s;
+                      : (w_after / s) * t_before + (w_before / s) * t_after;
 }
 template <class T, class V>
 V bend(V t_before, V t_after) {

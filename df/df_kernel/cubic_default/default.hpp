@@ -32,7 +32,7 @@ Cubic<T> first_cell(int boundary, const T* bc, T y, T h, T t, T m, T c3) {
     case Condition::free:
       return through(y, h, t, T(0), m / (6 * h));
     case Condition::slope: {
-      const T third = (bc[0] - t) / (2 * h * h) + m / (4 * h);
+      const T third = ((bc[0] - t) / h + m / 2) / (2 * h);
       return {y, bc[0], m / 2 - 3 * h * third, third};
     }
     default:

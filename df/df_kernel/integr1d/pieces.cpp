@@ -137,7 +137,8 @@ struct Steps : OneByOne<T, Steps<T>> {
 
   T F(int i, T d) const { return y[i] * d; }
   T start(int) const { return 0; }
-  T end(int i) const { return fit.point(i + 1) - fit.point(i); }
+  // The last value has no end. Only limits out of order, a NaN among them, ask for it.
+  T end(int i) const { return i < fit.nx - 1 ? fit.point(i + 1) - fit.point(i) : T(0); }
 };
 
 template <class T>

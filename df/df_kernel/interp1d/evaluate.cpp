@@ -79,12 +79,16 @@ int locate_in_subgrid(const Fit<T>& fit, int n, const T* site, const int32_t* ce
 }
 
 // The breakpoint whose value holds at the site: the cell's left one, and at a breakpoint
-// itself the one before for the step that is continuous from the left.
+// itself the one before for the step that is continuous from the left. A search by a guess of
+// equal spacing may leave a site on a breakpoint in the cell before it: the other step goes on.
 template <class T, bool from_left>
 int locate_step(const Fit<T>& fit, int n, const T* site, const int32_t* cell, Located<T>& located) {
   for (int j = 0; j < n; ++j) {
     int i = piece_of_cell(cell[j], fit.nx - 1);
-    if (from_left && i > 0 && site[j] == fit.point(i)) --i;
+    if (from_left)
+      i -= i > 0 && site[j] == fit.point(i);
+    else
+      i += i < fit.nx - 1 && site[j] == fit.point(i + 1);
     located.piece[j] = i;
   }
   return ORK_DF_OK;

@@ -34,9 +34,11 @@ struct Quadratic {
       T* coeffs = coefficients<T>(task, f);
       sweep<T>(0, n - 1, [&]<class V>(int i) {
         const V left = y.template lanes<V>(i), right = y.template lanes<V>(i + 1);
-        const V middle = get<V>(m + i), a = x.template lengths<V>(i) * T(0.5);
-        const V c2 = (left + right - T(2) * middle) / (T(2) * a * a);
-        put_records(coeffs + 3 * static_cast<size_t>(i), left, (middle - left) / a - a * c2, c2);
+        // By the reciprocal of half the length, whose square may be out of range.
+        const V middle = get<V>(m + i), r = T(2) / x.template lengths<V>(i);
+        const V bend = (left + right - T(2) * middle) * T(0.5) * r;
+        put_records(coeffs + 3 * static_cast<size_t>(i), left, (middle - left) * r - bend,
+                    bend * r);
       });
     }
   }

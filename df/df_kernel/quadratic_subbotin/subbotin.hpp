@@ -37,7 +37,7 @@ struct Subbotin {
   void system(const typename Y::template View<T>& y, const T* bc) const {
     for (int i = 1; i < n - 1; ++i) {
       const T before = length(i - 1), after = length(i), H = before + after;
-      const T to_left = after / (H * b[i - 1]), to_right = before / (H * a[i]);
+      const T to_left = after / H / b[i - 1], to_right = before / H / a[i];
       lower[i - 1] = a[i - 1] * to_left, upper[i] = b[i] * to_right;
       diagonal[i] = 2 + lower[i - 1] + upper[i];
       z[i] = 2 * ((y[i] - y[i - 1]) * to_left + (y[i + 1] - y[i]) * to_right);
@@ -64,10 +64,10 @@ struct Subbotin {
     T c = 0;
     for (int i = 0; i < n; ++i) {
       if (i < n - 2 || i == 0)
-        c = (2 * (y[i + 1] - y[i]) - length(i) * (z[i] + z[i + 1])) / (2 * a[i] * length(i)) +
+        c = (2 * (y[i + 1] - y[i]) - length(i) * (z[i] + z[i + 1])) / (2 * a[i]) / length(i) +
             (z[i + 1] - z[i]) / (2 * length(i));
       else
-        c -= (y[i] - y[i - 1] - length(i - 1) * (z[i - 1] + z[i]) / 2) / (a[i - 1] * b[i - 1]);
+        c -= (y[i] - y[i - 1] - length(i - 1) * (z[i - 1] + z[i]) / 2) / a[i - 1] / b[i - 1];
       put_records(coeffs + 3 * static_cast<size_t>(i), y[i], z[i], c);
     }
   }

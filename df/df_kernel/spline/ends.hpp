@@ -48,7 +48,8 @@ struct EndRow {
 };
 
 // Not-a-knot: one cubic on the two end cells. The row is divided by the step when the grid
-// is uniform, to match the rows 1 4 1 of the interior.
+// is uniform, to match the rows 1 4 1 of the interior. Lengths meet as ratios: their squares
+// leave the range first.
 template <class T>
 EndRow<T> end_row(const End<T>& e, bool uniform) {
   switch (e.condition) {
@@ -59,7 +60,7 @@ EndRow<T> end_row(const End<T>& e, bool uniform) {
     case Condition::not_a_knot: {
       if (uniform) return {1, 2, (e.t1 + 5 * e.t0) / 2};
       const T H = e.h0 + e.h1;
-      return {e.h1, H, (e.h0 * e.h0 * e.t1 + (e.h0 + 2 * H) * e.h1 * e.t0) / H};
+      return {e.h1, H, e.h0 * (e.h0 / H) * e.t1 + (e.h0 + 2 * H) * (e.h1 / H) * e.t0};
     }
     default:
       return {2, 1, 3 * e.t0};  // free: no curvature

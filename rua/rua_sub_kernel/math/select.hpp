@@ -13,9 +13,9 @@ template <class Sequence>
 __attribute__((noinline)) void select_by_digits(Sequence a, int l, int r, int k) {
   using Image = decltype(a.image(0));
   constexpr int bits = 8 * sizeof(Image), digit_bits = 11;
-  Image answer = 0;    // its digits so far
-  int rank = k - l;    // among the elements that begin with them
-  int shift = bits;    // of the lowest one
+  Image answer = 0;  // its digits so far
+  int rank = k - l;  // among the elements that begin with them
+  int shift = bits;  // of the lowest one
   while (shift > 0) {
     const int width = shift < digit_bits ? shift : digit_bits, above = shift;
     shift -= width;

@@ -36,9 +36,8 @@ void from_working(const Task<R>& t, const R* s, Form form, R f, bool own_mean,
   };
   put_matrix(t, to, [&](int i, int j) {
     if (is_nothing(at(i, j))) return R(0);
-    return form == Form::kCorrelation && i != j
-               ? R(at(i, j) / root_of_product(at(i, i), at(j, j)))
-               : factor * at(i, j);
+    return form == Form::kCorrelation && i != j ? R(at(i, j) / root_of_product(at(i, i), at(j, j)))
+                                                : factor * at(i, j);
   });
 }
 
