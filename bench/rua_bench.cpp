@@ -3,6 +3,8 @@
 // bound.
 #include <dlfcn.h>
 
+#include <chrono>
+#include <cmath>
 #include <random>
 
 #include "ork/rua.h"
@@ -136,6 +138,68 @@ int quasi_random(Report& report) {
   return over;
 }
 
+struct Skip {
+  const char* name;
+  int32_t id;
+  uint32_t seed;
+  int64_t count;
+  double microseconds;  // bound, 0: none
+};
+constexpr Skip kSkips[] = {
+    {"MT19937", RUA_BRNG_MT19937, 1, (1 << 20) - 1, 0},
+    {"MT19937", RUA_BRNG_MT19937, 1, 1 << 20, 0},
+    {"MT19937", RUA_BRNG_MT19937, 1, int64_t{1} << 62, 2000},
+    {"SFMT19937", RUA_BRNG_SFMT19937, 1, (1 << 20) - 1, 0},
+    {"SFMT19937", RUA_BRNG_SFMT19937, 1, 1 << 20, 0},
+    {"SFMT19937", RUA_BRNG_SFMT19937, 1, int64_t{1} << 62, 12000},
+    {"Sobol", RUA_BRNG_SOBOL, 40, int64_t{0xAAAAAAAA} * 40, 20},
+    {"Niederr", RUA_BRNG_NIEDERR, 318, int64_t{0xAAAAAAAA} * 318, 0},
+};
+
+// The time of the fastest of some runs, in microseconds.
+template <class Before, class F>
+double least_microseconds(int runs, Before before, F f) {
+  double least = HUGE_VAL;
+  for (int i = 0; i < runs; ++i) {
+    before();
+    const auto start = std::chrono::steady_clock::now();
+    f();
+    const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
+    least = std::min(least, time.count());
+  }
+  return least;
+}
+
+int skips(Report& report) {
+  report.line("# skips, microseconds; generating as many integers where that takes no age");
+  report.line(
+      format("%-12s %20s %10s %8s %10s", "generator", "numbers", "skip", "bound", "generate"));
+  int over = 0;
+  for (const Skip& c : kSkips) {
+    if (!report.wants(c.name)) continue;
+    RuaBrngProperties row;
+    __ruaGetBrngProperties(c.id, &row);
+    RuaStream* s = nullptr;
+    const auto begin = [&] {
+      __ruaDeleteStream(&s);
+      __ruaNewStreamEx(&s, c.id, 1, &c.seed);
+    };
+    const double skip = least_microseconds(40, begin, [&] { __ruaSkipAheadStream(s, c.count); });
+    double generate = 0;
+    if (c.count <= 1 << 20) {
+      std::vector<uint32_t> numbers(size_t(c.count));
+      generate = least_microseconds(40, begin,
+                                    [&] { row.iGenerate(s, int32_t(c.count), numbers.data()); });
+    }
+    __ruaDeleteStream(&s);
+    const bool late = c.microseconds != 0 && skip > c.microseconds;
+    over += late;
+    report.line(format("%-12s %20lld %10.1f %8.0f %10.1f%s", c.name, (long long)c.count, skip,
+                       c.microseconds, generate, late ? "  over" : ""));
+  }
+  return over;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -166,5 +230,6 @@ int main(int argc, char** argv) {
   report.line(with_gsl != 0 ? format("%-12s %8.2f", "GSL mt19937", with_gsl)
                             : std::string("GSL mt19937: libgsl.so.27 is not there, skipped"));
   over += quasi_random(report);
+  over += skips(report);
   return over != 0;
 }

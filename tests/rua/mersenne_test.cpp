@@ -89,41 +89,6 @@ TEST_F(Mersenne, CopyState) {
   EXPECT_EQ(d.state<int32_t>()[629], 0);
 }
 
-// Skips of all kinds, in the middle of blocks too, against numbers thrown away.
-TEST_F(Mersenne, SkipAheadCommutesWithGeneration) {
-  for (int32_t id : {RUA_BRNG_MT19937, RUA_BRNG_SFMT19937})
-    for (int before : {0, 1, 3, 4, 621, 624, 1000})
-      for (int skip : {1, 2, 3, 5, 620, 623, 624, 625, 2500, 19936, 19937, 19938, 79872,
-                       (1 << 20) - 1, (1 << 20) + 700, (4 << 20) + 2500}) {
-        if (before > 4 && skip > 100000) continue;
-        Stream skipped(id, {77, 78}), drawn(id, {77, 78});
-        skipped.integers(before);
-        drawn.integers(before + skip);
-        ASSERT_EQ(__ruaSkipAheadStream(skipped, skip), 0);
-        ASSERT_EQ(skipped.integers(5), drawn.integers(5)) << before << ' ' << skip;
-        ASSERT_EQ(skipped.integers(2000), drawn.integers(2000)) << before << ' ' << skip;
-      }
-}
-
-TEST_F(Mersenne, LongSkipsAdd) {
-  for (int32_t id : {RUA_BRNG_MT19937, RUA_BRNG_SFMT19937}) {
-    Stream once(id, {77}), parts(id, {77});
-    once.integers(2);
-    parts.integers(2);
-    ASSERT_EQ(__ruaSkipAheadStream(once, 0x7FFFFFFFFFFFFFFF), 0);
-    for (int64_t part : {int64_t{1} << 62, (int64_t{1} << 62) - (int64_t{1} << 33) - 3,
-                         int64_t{1} << 33, int64_t{2}})
-      ASSERT_EQ(__ruaSkipAheadStream(parts, part), 0);
-    EXPECT_EQ(once.integers(2000), parts.integers(2000));
-    const auto before = record(once);
-    EXPECT_EQ(__ruaSkipAheadStream(once, -1), -1003);
-    EXPECT_EQ(record(once), before);
-    blocks::fail(1);
-    EXPECT_EQ(__ruaSkipAheadStream(once, int64_t{1} << 40), -4);
-    EXPECT_EQ(record(once), before);
-  }
-}
-
 struct Member {
   uint32_t a, b, c;
 };

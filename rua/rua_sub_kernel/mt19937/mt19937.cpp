@@ -2,7 +2,7 @@
 #include "base/export.hpp"
 #include "rua_sub_kernel/mt19937/mersenne_twister.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
-#include "rua_sub_kernel/skip_ahead/skip_ahead.hpp"
+#include "rua_sub_kernel/skip_ahead/ring.hpp"
 
 using namespace ork::rua;
 
@@ -12,23 +12,21 @@ constexpr uint32_t kN = 624, kM = 397, kLower = 0x7FFFFFFF, kMatrixA = 0x9908B0D
 constexpr Tempering<11> kTempering{0x9D2C5680, 0xEFC60000};
 constexpr double kStep = 0x1p-32;
 
-struct Mt19937 {
-  uint32_t mt[kN];
-  int32_t index;  // kN: the block is used up
-};
-static_assert(sizeof(RuaStream) + sizeof(Mt19937) == 2516);
+using Mt19937 = Ring;  // index kN: the block is used up
+static_assert(kN == kRingWords && sizeof(RuaStream) + sizeof(Mt19937) == 2516);
 
 template <class Output>
 int32_t generate(RuaStream* stream, int32_t n, Output out) {
   Mt19937& s = state<Mt19937>(stream);
-  emit<kM, kLower>(s.mt, s.index, kMatrixA, kTempering, n, out);
+  emit<kM, kLower>(s.w, s.index, kMatrixA, kTempering, n, out);
   return RUA_STATUS_OK;
 }
 
-constexpr uint16_t kExponents[] = {
+constexpr int32_t _rua_mt19937_poly[] = {
 #include "rua_sub_kernel/mt19937/mt19937_poly.inc"
 };
-constexpr SparsePolynomial kCharacteristic{kExponents, sizeof kExponents / sizeof kExponents[0]};
+constexpr Characteristic kCharacteristic{_rua_mt19937_poly,
+                                         sizeof _rua_mt19937_poly / sizeof _rua_mt19937_poly[0]};
 
 struct Step {
   static constexpr uint32_t kUnit = 1;
@@ -40,17 +38,42 @@ struct Step {
   static void round(uint32_t (&w)[kN]) { rewrite_block<kN, kM, kLower>(w, kMatrixA); }
 };
 
-int32_t skip(Mt19937& s, int64_t n) {
+using Operations = RingOperations<Step>;
+
+// The skip within the block, or to its end.
+int32_t process_index(RuaStream* stream, uint64_t* nskip, int32_t* flag) {
+  Mt19937& s = state<Mt19937>(stream);
+  const uint64_t left = kN - uint32_t(s.index);
+  if (*nskip <= left) {
+    s.index += int32_t(*nskip);
+    return 0;
+  }
+  *nskip -= left;
+  s.index = kN;
+  *flag = 0;
+  return 1;
+}
+
+void finish(RuaStream* stream, const RuaStream* from, int32_t) {
+  Mt19937& s = state<Mt19937>(stream);
+  state<Mt19937>(from).unroll(s.w);
+  s.index = kN;
+}
+
+int32_t skip(RuaStream* stream, int64_t n) {
   if (n < 0) return RUA_STATUS_NO_SKIPAHEAD;
+  Mt19937& s = state<Mt19937>(stream);
   s.index = int32_t(std::min(uint32_t(s.index), kN));  // matters for a damaged state only
-  const int64_t left = int64_t{kN} - s.index;          // of the block
-  if (n <= left) {
-    s.index += int32_t(n);
+  uint64_t steps = uint64_t(n);
+  int32_t flag;
+  if (n < kSteppedSkip) {
+    if (process_index(stream, &steps, &flag)) Operations::advance(s, steps);
     return RUA_STATUS_OK;
   }
-  const int32_t status = skip_ahead<Step>(s.mt, uint64_t(n - left), kCharacteristic);
-  if (status == RUA_STATUS_OK) s.index = kN;
-  return status;
+  return __rua_SkipAheadSWin(stream, Operations::zero, Operations::add, Operations::copy,
+                             Operations::update, finish, process_index, steps, kN,
+                             kCharacteristic.degree(), sizeof(RuaStream) + sizeof(Mt19937),
+                             kCharacteristic.terms, kCharacteristic.exponents);
 }
 
 }  // namespace
@@ -60,13 +83,13 @@ ORK_EXPORT int32_t __ruaBRngMT19937InitStream(int32_t method, RuaStream* stream,
   Mt19937& s = state<Mt19937>(stream);
   switch (method) {
     case kSeed:
-      seed_by_array(s.mt, n, params);
+      seed_by_array(s.w, n, params);
       s.index = kN;
       return RUA_STATUS_OK;
     case kLeapfrog:
       return RUA_STATUS_NO_LEAPFROG;
     case kSkipAhead:
-      return skip(s, int64_t(join(params[0], params[1])));
+      return skip(stream, int64_t(join(params[0], params[1])));
     default:
       return RUA_STATUS_BAD_METHOD;
   }

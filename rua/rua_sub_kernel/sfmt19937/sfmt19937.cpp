@@ -6,7 +6,7 @@
 #include "base/export.hpp"
 #include "rua_sub_kernel/service/stream.hpp"
 #include "rua_sub_kernel/service/words.hpp"
-#include "rua_sub_kernel/skip_ahead/skip_ahead.hpp"
+#include "rua_sub_kernel/skip_ahead/ring.hpp"
 
 using namespace ork::rua;
 
@@ -15,24 +15,23 @@ namespace {
 constexpr uint32_t kN = 624;  // in 32-bit words
 constexpr uint32_t kAhead = 4 * 122;
 
-struct Sfmt19937 {
-  uint32_t sfmt[kN];
-  int32_t index;     // the next word that is in no opened block, a multiple of 4
+// `index` is the next word that is in no opened block, a multiple of 4.
+struct Sfmt19937 : Ring {
   uint32_t rest[3];  // what is left of the block opened last
   int32_t restNext, restEnd;
 };
-static_assert(sizeof(RuaStream) + sizeof(Sfmt19937) == 2536);
+static_assert(kN == kRingWords && sizeof(RuaStream) + sizeof(Sfmt19937) == 2536);
 
 void seed(Sfmt19937& s, int32_t n, const uint32_t* params) {
   constexpr uint32_t kMid = 306, kLate = kMid + 11;
   const uint32_t one = 1;
   const uint32_t* key = n > 0 ? params : &one;
   const uint32_t length = n > 0 ? uint32_t(n) : 1;
-  uint32_t* w = s.sfmt;
+  uint32_t* w = s.w;
   const auto at = [w](uint32_t i) -> uint32_t& { return w[i < kN ? i : i - kN]; };
   const auto mixed = [](uint32_t v) { return v ^ v >> 27; };
 
-  std::memset(w, 0x8B, sizeof s.sfmt);
+  std::memset(w, 0x8B, sizeof s.w);
   uint32_t i = 0;
   const uint32_t count = std::max(length + 1, kN);
   for (uint32_t k = 0; k < count; ++k) {
@@ -82,10 +81,11 @@ void rewrite_block(uint32_t (&w)[kN]) {
   stretch(kN - kAhead, kN, kAhead - kN);  // i + kAhead - kN, modulo 2^32
 }
 
-constexpr uint16_t kExponents[] = {
+constexpr int32_t _rua_sfmt19937_poly[] = {
 #include "rua_sub_kernel/sfmt19937/sfmt19937_poly.inc"
 };
-constexpr SparsePolynomial kCharacteristic{kExponents, sizeof kExponents / sizeof kExponents[0]};
+constexpr Characteristic kCharacteristic{
+    _rua_sfmt19937_poly, sizeof _rua_sfmt19937_poly / sizeof _rua_sfmt19937_poly[0]};
 
 struct Step {
   static constexpr uint32_t kUnit = 4;
@@ -106,29 +106,58 @@ void bring_into_bounds(Sfmt19937& s) {
 // Leaves the words of the block that ends at `index`, from place `from` of it on, to be delivered.
 void keep_rest(Sfmt19937& s, uint32_t from) {
   s.restNext = s.restEnd = 0;
-  for (uint32_t i = from; i < 4; ++i) s.rest[s.restEnd++] = s.sfmt[s.index - 4 + i];
+  for (uint32_t i = from; i < 4; ++i) s.rest[s.restEnd++] = s.w[s.index - 4 + i];
 }
 
-int32_t skip(Sfmt19937& s, int64_t n) {
-  if (n < 0) return RUA_STATUS_NO_SKIPAHEAD;
-  bring_into_bounds(s);
-  const int64_t rest = s.restEnd - s.restNext;
-  if (n <= rest) {
-    s.restNext += int32_t(n);
-    return RUA_STATUS_OK;
+using Operations = RingOperations<Step>;
+
+// The skip within what is left of an opened block and within the ring, or to its end. Then the
+// steps are blocks, and `flag` the words that are passed over of the last one, 0 for all.
+int32_t process_index(RuaStream* stream, uint64_t* nskip, int32_t* flag) {
+  Sfmt19937& s = state<Sfmt19937>(stream);
+  const uint64_t rest = uint32_t(s.restEnd - s.restNext);
+  if (*nskip <= rest) {
+    s.restNext += int32_t(*nskip);
+    return 0;
   }
-  const uint64_t end = uint64_t(s.index) + uint64_t(n - rest);  // the first place not passed over
+  const uint64_t end = uint32_t(s.index) + (*nskip - rest);  // the first place not passed over
+  const uint32_t part = uint32_t(end % 4);
+  s.restNext = s.restEnd;
   if (end <= kN) {
     s.index = int32_t(end + 3) & ~3;
-  } else {
-    const uint64_t blocks = (end - kN + 3) / 4;
-    const int32_t status = skip_ahead<Step>(s.sfmt, blocks, kCharacteristic);
-    if (status != RUA_STATUS_OK) return status;
-    s.index = kN;
+    if (part != 0) keep_rest(s, part);
+    return 0;
   }
-  s.restNext = s.restEnd;
-  if (end % 4 != 0) keep_rest(s, uint32_t(end % 4));
-  return RUA_STATUS_OK;
+  s.index = kN;
+  *nskip = (end - kN + 3) / 4;
+  *flag = int32_t(part);
+  return 1;
+}
+
+void finish(RuaStream* stream, const RuaStream* from, int32_t flag) {
+  Sfmt19937& s = state<Sfmt19937>(stream);
+  state<Sfmt19937>(from).unroll(s.w);
+  s.index = kN;
+  keep_rest(s, flag != 0 ? uint32_t(flag) : 4);
+}
+
+int32_t skip(RuaStream* stream, int64_t n) {
+  if (n < 0) return RUA_STATUS_NO_SKIPAHEAD;
+  Sfmt19937& s = state<Sfmt19937>(stream);
+  bring_into_bounds(s);
+  uint64_t steps = uint64_t(n);
+  if (n < kSteppedSkip) {
+    int32_t flag;
+    if (process_index(stream, &steps, &flag)) {
+      Operations::advance(s, steps);
+      keep_rest(s, flag != 0 ? uint32_t(flag) : 4);
+    }
+    return RUA_STATUS_OK;
+  }
+  return __rua_SkipAheadSWin(stream, Operations::zero, Operations::add, Operations::copy,
+                             Operations::update, finish, process_index, steps, kN,
+                             kCharacteristic.degree(), sizeof(RuaStream) + sizeof(Sfmt19937),
+                             kCharacteristic.terms, kCharacteristic.exponents);
 }
 
 // The word as a signed number: word t + c, c being the middle of the interval.
@@ -170,15 +199,15 @@ int32_t generate(RuaStream* stream, int32_t n, Output out) {
   uint32_t k = uint32_t(s.index);
   while (n > 0) {
     if (k == kN) {
-      rewrite_block(s.sfmt);
+      rewrite_block(s.w);
       k = 0;
     }
     const uint32_t end = k + std::min(uint32_t(n), kN - k);
     n -= end - k;
-    for (; k + 4 <= end; k += 4) out.put4(load4(s.sfmt + k));
+    for (; k + 4 <= end; k += 4) out.put4(load4(s.w + k));
     s.index = int32_t(k);
     if (k == end) continue;
-    for (s.index += 4; k < end; ++k) out.put(s.sfmt[k]);
+    for (s.index += 4; k < end; ++k) out.put(s.w[k]);
     keep_rest(s, k % 4);
   }
   return RUA_STATUS_OK;
@@ -195,7 +224,7 @@ ORK_EXPORT int32_t __ruaBRngSFMT19937InitStream(int32_t method, RuaStream* strea
     case kLeapfrog:
       return RUA_STATUS_NO_LEAPFROG;
     case kSkipAhead:
-      return skip(state<Sfmt19937>(stream), int64_t(join(params[0], params[1])));
+      return skip(stream, int64_t(join(params[0], params[1])));
     default:
       return RUA_STATUS_BAD_METHOD;
   }
