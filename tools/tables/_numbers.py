@@ -44,7 +44,7 @@ def number(x, t):
     return digits + "p" + exponent + ("" if t == "d" else "f")
 
 
-def given(x, t):
+def frozen(x, t):
     """The number that a decimal literal stands for in type t."""
     return rounded(mpf(x), width[t])
 
@@ -58,9 +58,9 @@ def table(command, rule, rows):
 
 def fit(f, powers, low, high, t, fixed=None, scale=None, points=160, rounds=60):
     """Minimax coefficients c_n of sum c_n x^n for f on [low, high]: error relative to f, or to
-    scale(x) where given.
+    scale(x) where there is one.
 
-    `fixed` maps powers to given coefficients. The coefficients are rounded to type t lowest
+    `fixed` maps powers to frozen coefficients. The coefficients are rounded to type t lowest
     power first, and those left are fitted anew after each. Lawson's iteration: least squares,
     each weight multiplied by the error at its point. Returns ({power: c}, worst error)."""
     low, high = mpf(low), mpf(high)

@@ -1,7 +1,7 @@
 """Logarithm rows and near-zero series of the inverse hyperbolic functions."""
 from mpmath import acosh, asinh, atanh, log, mpf, sqrt
 
-from _numbers import coefficients, fit, given, number, rounded, table
+from _numbers import coefficients, fit, frozen, number, rounded, table
 
 
 def log_rows():
@@ -39,7 +39,7 @@ def generate():
             fit(lambda z: asinh(sqrt(z)) / sqrt(z), near, 0, mpf(1) / 64, "d", {0: mpf(1)}, points=80), "d", near),
         "zem/zem_core/acosh/near_one_d.inc": coefficients(
             "asinh", "c2 to c4 of acosh x = sqrt(2 t) (1 + c1 t + ... + c4 t^4), t = x - 1 <= 0.00048876;\n"
-            "c1 = -0.083333333332859 is given.",
+            "c1 = -0.083333333332859 is frozen.",
             fit(lambda t: acosh(1 + t) / sqrt(2 * t), one, 0, "0.00048876", "d",
-                {0: mpf(1), 1: given("-0.083333333332859", "d")}, points=80), "d", one),
+                {0: mpf(1), 1: frozen("-0.083333333332859", "d")}, points=80), "d", one),
     }

@@ -19,7 +19,7 @@ def text(command, binades, parts, degree, terms, normalized=True, scale=1, split
         found[0] = [number(mpf(c), "d") for c in first]
     more = "\nLow parts of c0 and c1, c2 and up, high parts (26 bits) of c0 and c1." if split else ""
     more += "\nTimes sqrt(2)." if scale != 1 else ""
-    more += "\nThe first row is given." if first else ""
+    more += "\nThe first row is frozen." if first else ""
     more += "\nThe last row is sqrt(pi)/2, the limit at w = 1." if upward else ""
     return table(command, rule.format(parts=parts, binades=binades, degree=degree, more=more,
                                       order="next to 1 last" if upward else "next to 1 first",

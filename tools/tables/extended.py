@@ -2,7 +2,7 @@
 from mpmath import (acosh, asin, asinh, atan, atanh, ceil, cos, cosh, exp, factorial, floor, ldexp, log, log1p,
                     lu_solve, matrix, mp, mpf, pi, sin, sinh, sqrt, tanh)
 
-from _numbers import given, number, on_grid, rounded, table
+from _numbers import frozen, number, on_grid, rounded, table
 
 AT = "zem/zem_core/heap/real/"
 
@@ -150,8 +150,8 @@ def trigonometry():
     s.series("tangent_small", "", [mpf(1) / 3, mpf(2) / 15, mpf(17) / 315, mpf(62) / 2835], mpf(2)**-12, mpf(2)**-13)
     s.constant("two_over_pi", "2/pi", 2 / pi)
     # pi/2 in parts: their products with 17 bits (three parts) and with 30 (five) are exact.
-    three = [given("0.7853981633974456", "d"), given("2.6951514290790658e-15", "d")]
-    five = [given(x, "d") for x in ("0.7853981633670628", "3.038550253151983e-11", "1.0111331243555832e-21",
+    three = [frozen("0.7853981633974456", "d"), frozen("2.6951514290790658e-15", "d")]
+    five = [frozen(x, "d") for x in ("0.7853981633670628", "3.038550253151983e-11", "1.0111331243555832e-21",
                                     "4.2392138301741147e-32")]
     for name, parts in (("half_pi_3", three), ("half_pi_5", five)):
         parts = parts + [pi / 4 - sum(parts)]

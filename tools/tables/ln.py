@@ -1,9 +1,9 @@
 """Tables of Ln: c near 1/m and -ln c, by rows of m in [1, 2]."""
 from mpmath import log, mpf
 
-from _numbers import given, number, on_grid, rounded, table
+from _numbers import frozen, number, on_grid, rounded, table
 
-LN2_EP = given("0.6931471805601177", "d")
+LN2_EP = frozen("0.6931471805601177", "d")
 
 
 def rows_ha():

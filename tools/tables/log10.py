@@ -1,12 +1,12 @@
 """Tables of Log10: c near 0.43359375/m and -log10 of it, by rows of m; coefficients."""
 from mpmath import log, log10, mpf
 
-from _numbers import coefficients, fit, given, image, number, on_grid, table
+from _numbers import coefficients, fit, frozen, image, number, on_grid, table
 
 C0 = mpf("0.43359375")  # 111/256, a short number close to log10 e
 LG2 = log10(mpf(2))
 LG2_HI = on_grid(LG2, -43)
-LG2_EP = given("0.30102999566406652", "d")
+LG2_EP = frozen("0.30102999566406652", "d")
 
 
 def rows_ha():
@@ -51,7 +51,7 @@ L_hi is a multiple of 2^-43.""", rows)
 
 
 def rows_s_ha():
-    l1, l2 = given("0.30103302", "s"), given("-3.02435365e-06", "s")
+    l1, l2 = frozen("0.30103302", "s"), frozen("-3.02435365e-06", "s")
     rows = []
     for i in range(0x435E - 0x42DE + 1):
         c = (111 + mpf(i) / 2) if i < 34 else 128 + mpf(i - 34)
@@ -68,7 +68,7 @@ def generate():
     at = "zem/zem_core/log10/"
     f = lambda u: log(1 + u) / log(mpf(10)) if u else mpf(0)
     la = fit(f, range(3, 9), mpf(-1) / 3, mpf(1) / 3, "s",
-             {1: given("0.434294492", "s"), 2: given("-0.217146948", "s"), 9: given("0.0626901686", "s")},
+             {1: frozen("0.434294492", "s"), 2: frozen("-0.217146948", "s"), 9: frozen("0.0626901686", "s")},
              # Below u = -0.33 the result is under 1/8, where the roundings of p count double.
              scale=lambda u: min(abs(f(u)), f(u) + LG2) * (mpf("0.3") if u < mpf("-0.33") else 1))
     root = mpf(2)**0.5
@@ -77,7 +77,7 @@ def generate():
                "-0.1666666651884978", "0.1428756883852146", "-0.1250214602960357"]
     ln10 = log(mpf(10))
     rare = [[number(1 / (C0 * ln10) - 1, "d")]]
-    rare += [[number(given(c, "d") / (ln10 * C0**(n + 2)), "d")] for n, c in enumerate(natural)]
+    rare += [[number(frozen(c, "d") / (ln10 * C0**(n + 2)), "d")] for n, c in enumerate(natural)]
     return {
         at + "rows_d_ha.inc": rows_ha(),
         at + "rows_d_ep.inc": rows_ep(),
@@ -86,7 +86,7 @@ def generate():
         at + "rows_s_ha.inc": rows_s_ha(),
         at + "poly_s_la.inc": coefficients("log10", "q0 to q8 of u (q0 + q1 u + ... + q8 u^8) for log10(1 + u) on [-1/3, 1/3];\n"
                                            "relative to the smaller of it and log10(2 + 2 u), below -0.33 to 0.3 times that; q0, q1\n"
-                                           "and q8 are given.", la, "s", range(1, 10)),
+                                           "and q8 are frozen.", la, "s", range(1, 10)),
         at + "poly_s_ep.inc": coefficients("log10", "q0 to q4 of u (q0 + q1 u + ... + q4 u^4) for log10(1 + u) on\n"
                                            "[sqrt(1/2) - 1, sqrt(2) - 1].", ep, "s", range(1, 6)),
         at + "poly_rare.inc": table("log10", "e0 to e7 of r (e0 + e1 r + ... + e7 r^7) for log10(1 + r/0.43359375) - r: the\n"

@@ -1,7 +1,7 @@
 """Tables of Log1p: -ln c for the short factor c, and the coefficients of sLog1p LA."""
 from mpmath import ldexp, log, mpf
 
-from _numbers import coefficients, fit, given, number, on_grid, table
+from _numbers import coefficients, fit, frozen, number, on_grid, table
 
 LN2 = log(mpf(2))
 
@@ -29,16 +29,16 @@ def generate():
     third = mpf(1) / 3
     f = lambda u: log(1 + u) if u else mpf(0)
     la = fit(f, range(3, 9), -third, third, "s",
-             {1: mpf(1), 2: mpf(-0.5), 9: given("0.138202384", "s")},
+             {1: mpf(1), 2: mpf(-0.5), 9: frozen("0.138202384", "s")},
              scale=lambda u: min(abs(f(u)), f(u) + LN2))
     return {
-        at + "rows_d_ha.inc": split("d", 10, 1023, given("0.69314718055829871", "d"),
-                                    given("1.6465949582866463e-12", "d"), -36),
+        at + "rows_d_ha.inc": split("d", 10, 1023, frozen("0.69314718055829871", "d"),
+                                    frozen("1.6465949582866463e-12", "d"), -36),
         at + "rows_d_la.inc": table(
             "log1p", "-ln(c/1024), from c = 724 down -ln(c/512); c = 512..1024.",
             [[number(-log(mpf(c) / (1024 if c > 724 else 512)), "d")] for c in range(512, 1025)]),
-        at + "rows_s_ha.inc": split("s", 8, 127, given("0.693145752", "s"), given("1.42859062e-06", "s"), -17),
+        at + "rows_s_ha.inc": split("s", 8, 127, frozen("0.693145752", "s"), frozen("1.42859062e-06", "s"), -17),
         at + "poly_s_la.inc": coefficients(
             "log1p", "q0 to q7 of u + u^2 (q0 + q1 u + ... + q7 u^7) for ln(1 + u) on [-1/3, 1/3],\n"
-            "relative to the smaller of it and ln(2 + 2 u); q0 and q7 are given.", la, "s", range(2, 10)),
+            "relative to the smaller of it and ln(2 + 2 u); q0 and q7 are frozen.", la, "s", range(2, 10)),
     }

@@ -1,9 +1,9 @@
 """Tables of Pow: 1/m with its logarithm to base 2, and powers of two; polynomials of sPow."""
 from mpmath import floor, log, mp, mpf, sign
 
-from _numbers import coefficients, fit, given, mantissa, number, rounded, table
+from _numbers import coefficients, fit, frozen, mantissa, number, rounded, table
 
-LOG2E = given("1.4426949024200439", "d")  # high part, 23 bits
+LOG2E = frozen("1.4426949024200439", "d")  # high part, 23 bits
 
 
 def log2(x):

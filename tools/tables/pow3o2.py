@@ -18,11 +18,11 @@ def generate():
     split = [[number(v, "d"), number(v - rounded(v, 53), "d")] for v, _ in values]
     pairs = {t: [[number(v, t), number(c, t)] for v, c in values] for t in "ds"}
     rule = "{(2^odd c_j)^(3/2), 1/c_j}; row 32 odd + j."
-    given = {0: mpf(1), 1: mpf(1.5), 2: mpf(0.375), 3: mpf(-0.0625), 4: mpf(0.0234375)}
+    series = {0: mpf(1), 1: mpf(1.5), 2: mpf(0.375), 3: mpf(-0.0625), 4: mpf(0.0234375)}
 
     def polynomial(highest, fixed):
         powers = list(range(fixed + 1, highest + 1))
-        known = {n: c for n, c in given.items() if n <= fixed}
+        known = {n: c for n, c in series.items() if n <= fixed}
         what = f"c{powers[0]} to c{highest} of 1 + c1 r + ... + c{highest} r^{highest} for (1 + r)^(3/2) on [-2^-6, 2^-6]."
         result = fit(lambda r: three_halves(1 + r), powers, -mpf(2)**-6, mpf(2)**-6, "d", fixed=known)
         return coefficients("pow3o2", what, result, "d", powers)

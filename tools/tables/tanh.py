@@ -1,7 +1,7 @@
 """Rows of Tanh: a polynomial for each eighth of a binade from 0.125 up."""
 from mpmath import cos, lu_solve, matrix, mp, mpf, pi, tanh
 
-from _numbers import fit, given, number, rounded, table, width
+from _numbers import fit, frozen, number, rounded, table, width
 
 
 def around(centre, half, degree):
@@ -27,7 +27,7 @@ def interval(i):
 
 def near_zero(t, degree, limit, fixed):
     """Coefficients of x, x^2, ... for tanh x on [0, limit]; `fixed` gives some of them."""
-    known = {0: mpf(1), **{n: given(c, t) for n, c in fixed.items()}}
+    known = {0: mpf(1), **{n: frozen(c, t) for n, c in fixed.items()}}
     free = [n for n in range(1, degree) if n not in known]
     found, worst = fit(lambda x: tanh(x) / x, free, 0, limit, t, known, points=80)
     return [found[n] for n in range(degree)], worst

@@ -36,7 +36,7 @@ def row(a):
 
 def sincos_rows(divisor, rows, repeated=0):
     out = [f"// {rows} rows for the angles j*pi/{divisor}: C_lo, S_hi, S_lo, C_hi; sin = S_hi + S_lo,",
-           "// cos = C_hi + C_lo, C_hi the power of two next to the cosine (rule). " + COMMAND.strip()]
+           "// cos = C_hi + C_lo, C_hi the power of two next to the cosine. " + COMMAND.strip()]
     out += ["{" + row(pi * j / divisor) + "}," for j in range(rows)]
     if repeated:
         out += [f"// The first {repeated} again."] + out[2:2 + repeated]
@@ -44,7 +44,7 @@ def sincos_rows(divisor, rows, repeated=0):
 
 
 def quadrant_rows():
-    out = ["// 128 rows for the angles j*pi/256 of a quarter turn: sine, cosine (rule).",
+    out = ["// 128 rows for the angles j*pi/256 of a quarter turn: sine, cosine.",
            "// " + COMMAND.strip()]
     out += [f"{{{hex_double(sin(pi * j / 256))}, {hex_double(cos(pi * j / 256))}}}," for j in range(128)]
     return "\n".join(out) + "\n"
@@ -52,7 +52,7 @@ def quadrant_rows():
 
 def reduction_table():
     """The constants of the scalar reduction, and 4/pi in chunks of 25 bits, times 2^200."""
-    given = [("0.0, -1.0", "correction of the fraction by the parity of the integer part"),
+    fixed = [("0.0, -1.0", "correction of the fraction by the parity of the integer part"),
              ("1.0, -1.0", "sign of the argument"),
              ("100663296.0, 134217728.0", "splitting constants"),
              ("0.78539812564849853516, 3.7748949774459412182e-08", "pi/4 in two parts"),
@@ -63,9 +63,9 @@ def reduction_table():
              ("0.78539752960205078125, 6.3379548009834252298e-07, -8.2569910110630306832e-14, "
               "-6.6751510879074519921e-20, 8.2231284681621288008e-27", "pi/4 for |x| < 2^30"),
              ('-__builtin_nan("0xfffffffffffff")', "all ones")]
-    out = ["// Rows 0 to 19: given constants. Rows 20 to 69: 0, then 4/pi in chunks of 25 bits, each times",
-           "// 2^200 for an argument times 2^-200 (rule). " + COMMAND.strip()]
-    out += [f"{values}," + (f"  // {what}" if what else "") for values, what in given]
+    out = ["// Rows 0 to 19: frozen constants. Rows 20 to 69: 0, then 4/pi in chunks of 25 bits, each times",
+           "// 2^200 for an argument times 2^-200. " + COMMAND.strip()]
+    out += [f"{values}," + (f"  // {what}" if what else "") for values, what in fixed]
     value, chunks = 4 / pi, [mpf(0)]
     for k in range(1, 50):
         weight = mpf(2) ** (25 * k - 1)      # the chunk's last bit is worth 1/weight
@@ -83,7 +83,7 @@ GROUPS, DIGITS = 128, 6
 
 def inverse_two_pi():
     out = ["// 128 rows of six digits of 30 bits, two words unused: the fraction of 2^(8 g - 52)/(2 pi) for",
-           "// row g, cut after 180 bits (rule). " + COMMAND.strip()]
+           "// row g, cut after 180 bits. " + COMMAND.strip()]
     for g in range(GROUPS):
         v = mpf(2) ** (8 * g - 52) / (2 * pi)
         v -= floor(v)
@@ -191,7 +191,7 @@ def sine_coefficients():
             f"// Relative errors 2^{nstr(log(error, 2), 4)}, 2^{nstr(log(cosine_error, 2), 4)} (fits)."]
     out += fitted("quarter_ep", "s", list(enumerate(p, 1))) + fitted("quarter_ep", "c", list(enumerate(q, 1)))
     singles, error = short_sine()
-    out += ["// Sin, Cos single, LA, |r| <= pi/2: four coefficients, the first two given, the others searched as floats.",
+    out += ["// Sin, Cos single, LA, |r| <= pi/2: four coefficients, the first two frozen, the others searched as floats.",
             f"// Error {error:.3f} ulp at most (fit)."]
     out += [f"constexpr float sine_s{k} = {hex_double(v)}f;" for k, v in enumerate(singles, 1)]
     mp.prec = 1400

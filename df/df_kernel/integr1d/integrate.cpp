@@ -261,5 +261,4 @@ int integrate_task(const Call<T>& call, const ork_threader* threader) {
          searchParams},                                                                            \
         threader);                                                                                 \
   }
-ORK_INTEGRATE(d, double)
-ORK_INTEGRATE(s, float)
+ORK_TWINS(ORK_INTEGRATE)

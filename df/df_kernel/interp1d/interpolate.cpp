@@ -268,8 +268,7 @@ static int interpolate_scalar(const Call<double>& call, int kind, int search_kin
          interiorParams, searchCallback, searchParams},                                            \
         threader);                                                                                 \
   }
-ORK_INTERPOLATE(d, double)
-ORK_INTERPOLATE(s, float)
+ORK_TWINS(ORK_INTERPOLATE)
 
 ORK_EXPORT int _Interp1DKernel_scalar(const ork_df_task* task, int splineIndex, int searchKind,
                                       double site, int64_t nDerivFlags, const void* derivFlags,

@@ -132,5 +132,4 @@ int search_sites(const Task* task, int64_t nsite, const T* site, int64_t site_hi
     return ork::df::search_sites(task, nsite, site, siteHint, dataHint, cell, searchCallback,    \
                                  searchParams, threader);                                        \
   }
-ORK_SEARCH(d, double)
-ORK_SEARCH(s, float)
+ORK_TWINS(ORK_SEARCH)

@@ -134,6 +134,12 @@ int32_t make_scaled(RuaStream** stream, int32_t brng, int32_t n, T* ring, T a, T
   return make(stream, brng, 10, block);
 }
 
+// A stream of numbers of one type does not have the forms of the others.
+template <class... Arguments>
+int32_t wrong_form(const Arguments&...) {
+  return RUA_STATUS_ABSTRACT_WRONG_FORM;
+}
+
 }  // namespace
 
 ORK_EXPORT int32_t __ruaiNewAbstractStream(RuaStream** stream, int32_t n, uint32_t* ibuf,
@@ -153,46 +159,17 @@ ORK_EXPORT int32_t __ruasNewAbstractStream(RuaStream** stream, int32_t n, float*
   return make_scaled(stream, RUA_BRNG_SABSTRACT, n, sbuf, a, b, scallback);
 }
 
-ORK_EXPORT int32_t __ruaBRngiAbstractInitStream(int32_t method, RuaStream* stream, int32_t,
-                                                const uint32_t* params) {
-  return init<uint32_t>(method, stream, params);
-}
-ORK_EXPORT int32_t __ruaBRngdAbstractInitStream(int32_t method, RuaStream* stream, int32_t,
-                                                const uint32_t* params) {
-  return init<double>(method, stream, params);
-}
-ORK_EXPORT int32_t __ruaBRngsAbstractInitStream(int32_t method, RuaStream* stream, int32_t,
-                                                const uint32_t* params) {
-  return init<float>(method, stream, params);
-}
+#define ORK_INIT(t, T)                                                                            \
+  ORK_EXPORT int32_t __ruaBRng##t##AbstractInitStream(int32_t method, RuaStream* stream, int32_t, \
+                                                      const uint32_t* params) {                   \
+    return init<T>(method, stream, params);                                                       \
+  }
+ORK_INIT(i, uint32_t)
+ORK_TWINS(ORK_INIT)
 
-ORK_EXPORT int32_t __ruaiBRngiAbstract(RuaStream* stream, int32_t n, void* r) {
-  return deliver(stream, n, static_cast<uint32_t*>(r), [](uint32_t v) { return v; });
-}
-ORK_EXPORT int32_t __ruadBRngdAbstract(RuaStream* stream, int32_t n, double* r, double a,
-                                       double b) {
-  return deliver_scaled(stream, n, r, a, b);
-}
-ORK_EXPORT int32_t __ruasBRngsAbstract(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return deliver_scaled(stream, n, r, a, b);
-}
-
-// The forms that a stream of numbers of another type does not have.
-ORK_EXPORT int32_t __ruadBRngiAbstract(RuaStream*, int32_t, double*, double, double) {
-  return RUA_STATUS_ABSTRACT_WRONG_FORM;
-}
-ORK_EXPORT int32_t __ruasBRngiAbstract(RuaStream*, int32_t, float*, float, float) {
-  return RUA_STATUS_ABSTRACT_WRONG_FORM;
-}
-ORK_EXPORT int32_t __ruaiBRngdAbstract(RuaStream*, int32_t, void*) {
-  return RUA_STATUS_ABSTRACT_WRONG_FORM;
-}
-ORK_EXPORT int32_t __ruasBRngdAbstract(RuaStream*, int32_t, float*, float, float) {
-  return RUA_STATUS_ABSTRACT_WRONG_FORM;
-}
-ORK_EXPORT int32_t __ruadBRngsAbstract(RuaStream*, int32_t, double*, double, double) {
-  return RUA_STATUS_ABSTRACT_WRONG_FORM;
-}
-ORK_EXPORT int32_t __ruaiBRngsAbstract(RuaStream*, int32_t, void*) {
-  return RUA_STATUS_ABSTRACT_WRONG_FORM;
-}
+ORK_GENERATE(iAbstract, wrong_form(stream, n, r, a, b), wrong_form(stream, n, r, a, b),
+             deliver(stream, n, r, [](uint32_t v) { return v; }))
+ORK_GENERATE(dAbstract, wrong_form(stream, n, r, a, b), deliver_scaled(stream, n, r, a, b),
+             wrong_form(stream, n, r))
+ORK_GENERATE(sAbstract, deliver_scaled(stream, n, r, a, b), wrong_form(stream, n, r, a, b),
+             wrong_form(stream, n, r))

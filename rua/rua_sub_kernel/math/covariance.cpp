@@ -90,9 +90,11 @@ int32_t invert(int p, R* a) {
 
 }  // namespace
 
-ORK_EXPORT int32_t __ruadTestCovRank(int p, double* a) { return test_rank(p, a); }
-ORK_EXPORT int32_t __ruasTestCovRank(int p, float* a) { return test_rank(p, a); }
-ORK_EXPORT int32_t __ruadInvCov(int p, double* a) { return invert(p, a); }
-ORK_EXPORT int32_t __ruasInvCov(int p, float* a) { return invert(p, a); }
+#define ORK_TEST_COV_RANK(t, R) \
+  ORK_EXPORT int32_t __rua##t##TestCovRank(int p, R* a) { return test_rank(p, a); }
+ORK_TWINS(ORK_TEST_COV_RANK)
+#define ORK_INV_COV(t, R) \
+  ORK_EXPORT int32_t __rua##t##InvCov(int p, R* a) { return invert(p, a); }
+ORK_TWINS(ORK_INV_COV)
 
 }  // namespace ork

@@ -88,7 +88,7 @@ struct Floats {
 };
 
 template <class Form>
-void generate(RuaStream* stream, int32_t n, typename Form::Item* r, double a, double b) {
+int32_t generate(RuaStream* stream, int32_t n, typename Form::Item* r, double a, double b) {
   Mcg31m1& s = state<Mcg31m1>(stream);
   Constants constants = {_mm_set1_epi64x(kModulus), {}, Affine(a, b, kStep)};
   uint32_t x = s.x;
@@ -112,6 +112,7 @@ void generate(RuaStream* stream, int32_t n, typename Form::Item* r, double a, do
   }
   for (; n > 0; --n, ++r, x = multiply(x, s.a)) Form::put(r, x, constants);
   s.x = x;
+  return RUA_STATUS_OK;
 }
 
 }  // namespace
@@ -141,17 +142,5 @@ ORK_EXPORT int32_t __ruaBRngMCG31M1InitStream(int32_t method, RuaStream* stream,
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngMCG31M1(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  generate<Floats>(stream, n, r, a, b);
-  return RUA_STATUS_OK;
-}
-
-ORK_EXPORT int32_t __ruadBRngMCG31M1(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  generate<Doubles>(stream, n, r, a, b);
-  return RUA_STATUS_OK;
-}
-
-ORK_EXPORT int32_t __ruaiBRngMCG31M1(RuaStream* stream, int32_t n, void* r) {
-  generate<Integers>(stream, n, static_cast<uint32_t*>(r), 0, 1);
-  return RUA_STATUS_OK;
-}
+ORK_GENERATE(MCG31M1, generate<Floats>(stream, n, r, a, b), generate<Doubles>(stream, n, r, a, b),
+             generate<Integers>(stream, n, r, 0, 1))

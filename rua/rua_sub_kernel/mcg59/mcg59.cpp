@@ -155,14 +155,5 @@ ORK_EXPORT int32_t __ruaBRngMCG59InitStream(int32_t method, RuaStream* stream, i
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngMCG59(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return generate(stream, n, Floats(r, a, b));
-}
-
-ORK_EXPORT int32_t __ruadBRngMCG59(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  return generate(stream, n, Doubles(r, a, b));
-}
-
-ORK_EXPORT int32_t __ruaiBRngMCG59(RuaStream* stream, int32_t n, void* r) {
-  return generate(stream, n, Integers{static_cast<uint32_t*>(r)});
-}
+ORK_GENERATE(MCG59, generate(stream, n, Floats(r, a, b)), generate(stream, n, Doubles(r, a, b)),
+             generate(stream, n, Integers{r}))

@@ -203,14 +203,6 @@ ORK_EXPORT int32_t __ruaBRngMRG32K3AInitStream(int32_t method, RuaStream* stream
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngMRG32K3A(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return generate(stream, n, r, Floats{Affine(a, b, kStep)});
-}
-
-ORK_EXPORT int32_t __ruadBRngMRG32K3A(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  return generate(stream, n, r, Doubles{Affine(a, b, kStep)});
-}
-
-ORK_EXPORT int32_t __ruaiBRngMRG32K3A(RuaStream* stream, int32_t n, void* r) {
-  return generate(stream, n, static_cast<uint32_t*>(r), Integers{});
-}
+ORK_GENERATE(MRG32K3A, generate(stream, n, r, Floats{Affine(a, b, kStep)}),
+             generate(stream, n, r, Doubles{Affine(a, b, kStep)}),
+             generate(stream, n, r, Integers{}))

@@ -56,14 +56,6 @@ ORK_EXPORT int32_t __ruaBRngMT2203InitStream(int32_t method, RuaStream* stream, 
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngMT2203(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return generate(stream, n, WordsAsFloats(r, a, b, kStep));
-}
-
-ORK_EXPORT int32_t __ruadBRngMT2203(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  return generate(stream, n, WordsAsDoubles(r, a, b, kStep));
-}
-
-ORK_EXPORT int32_t __ruaiBRngMT2203(RuaStream* stream, int32_t n, void* r) {
-  return generate(stream, n, WordsAsIntegers{static_cast<uint32_t*>(r)});
-}
+ORK_GENERATE(MT2203, generate(stream, n, WordsAsFloats(r, a, b, kStep)),
+             generate(stream, n, WordsAsDoubles(r, a, b, kStep)),
+             generate(stream, n, WordsAsIntegers{r}))

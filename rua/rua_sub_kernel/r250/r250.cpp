@@ -50,7 +50,7 @@ void unroll(R250& s) {
 }
 
 template <class Output>
-void generate(R250& s, int32_t n, Output out) {
+int32_t generate(R250& s, int32_t n, Output out) {
   const bool whole = n >= int32_t{kLag};  // then the state is left unrolled
   if (s.i >= kLag) s.i = 0;               // only in a state that was not made here
   if (s.j >= kLag) s.j = (s.i + kTap) % kLag;
@@ -69,6 +69,7 @@ void generate(R250& s, int32_t n, Output out) {
     if ((s.j += run) == kLag) s.j = 0;
   }
   if (whole) unroll(s);
+  return RUA_STATUS_OK;
 }
 
 }  // namespace
@@ -88,17 +89,6 @@ ORK_EXPORT int32_t __ruaBRngR250InitStream(int32_t method, RuaStream* stream, in
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngR250(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  generate(state<R250>(stream), n, WordsAsFloats(r, a, b, kStep));
-  return RUA_STATUS_OK;
-}
-
-ORK_EXPORT int32_t __ruadBRngR250(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  generate(state<R250>(stream), n, WordsAsDoubles(r, a, b, kStep));
-  return RUA_STATUS_OK;
-}
-
-ORK_EXPORT int32_t __ruaiBRngR250(RuaStream* stream, int32_t n, void* r) {
-  generate(state<R250>(stream), n, WordsAsIntegers{static_cast<uint32_t*>(r)});
-  return RUA_STATUS_OK;
-}
+ORK_GENERATE(R250, generate(state<R250>(stream), n, WordsAsFloats(r, a, b, kStep)),
+             generate(state<R250>(stream), n, WordsAsDoubles(r, a, b, kStep)),
+             generate(state<R250>(stream), n, WordsAsIntegers{r}))

@@ -8,6 +8,7 @@
 //     registry.cpp; each begins with `State& s = state<State>(stream)`.
 // The init function is a switch over Method; generate functions return RUA_STATUS_OK.
 #pragma once
+#include "base/export.hpp"
 #include "ork/rua.h"
 
 namespace ork::rua {
@@ -60,3 +61,18 @@ inline int32_t family_member(const RuaStream* stream) {
 inline uint64_t join(uint32_t low, uint32_t high) { return uint64_t{high} << 32 | low; }
 
 }  // namespace ork::rua
+
+// The three generate functions of a generator, each the status of an expression in stream, n, r
+// and, but for the integers, the interval's ends a and b. r of the integers is a uint32_t*.
+#define ORK_GENERATE(name, floats, doubles, integers)                                             \
+  ORK_EXPORT int32_t __ruasBRng##name(RuaStream* stream, int32_t n, float* r, float a, float b) { \
+    return floats;                                                                                \
+  }                                                                                               \
+  ORK_EXPORT int32_t __ruadBRng##name(RuaStream* stream, int32_t n, double* r, double a,          \
+                                      double b) {                                                 \
+    return doubles;                                                                               \
+  }                                                                                               \
+  ORK_EXPORT int32_t __ruaiBRng##name(RuaStream* stream, int32_t n, void* words) {                \
+    uint32_t* const r = static_cast<uint32_t*>(words);                                            \
+    return integers;                                                                              \
+  }

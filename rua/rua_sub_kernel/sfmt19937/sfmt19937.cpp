@@ -230,15 +230,5 @@ ORK_EXPORT int32_t __ruaBRngSFMT19937InitStream(int32_t method, RuaStream* strea
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngSFMT19937(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return generate(stream, n, Floats(r, a, b));
-}
-
-ORK_EXPORT int32_t __ruadBRngSFMT19937(RuaStream* stream, int32_t n, double* r, double a,
-                                       double b) {
-  return generate(stream, n, Doubles(r, a, b));
-}
-
-ORK_EXPORT int32_t __ruaiBRngSFMT19937(RuaStream* stream, int32_t n, void* r) {
-  return generate(stream, n, WordsAsIntegers{static_cast<uint32_t*>(r)});
-}
+ORK_GENERATE(SFMT19937, generate(stream, n, Floats(r, a, b)), generate(stream, n, Doubles(r, a, b)),
+             generate(stream, n, WordsAsIntegers{r}))

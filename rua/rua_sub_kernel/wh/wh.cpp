@@ -234,14 +234,5 @@ ORK_EXPORT int32_t __ruaBRngWHInitStream(int32_t method, RuaStream* stream, int3
   }
 }
 
-ORK_EXPORT int32_t __ruasBRngWH(RuaStream* stream, int32_t n, float* r, float a, float b) {
-  return generate(stream, n, Floats(stream, r, a, b));
-}
-
-ORK_EXPORT int32_t __ruadBRngWH(RuaStream* stream, int32_t n, double* r, double a, double b) {
-  return generate(stream, n, Doubles(stream, r, a, b));
-}
-
-ORK_EXPORT int32_t __ruaiBRngWH(RuaStream* stream, int32_t n, void* r) {
-  return generate(stream, n, Integers{static_cast<uint32_t*>(r)});
-}
+ORK_GENERATE(WH, generate(stream, n, Floats(stream, r, a, b)),
+             generate(stream, n, Doubles(stream, r, a, b)), generate(stream, n, Integers{r}))

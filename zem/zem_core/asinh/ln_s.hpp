@@ -31,7 +31,7 @@ ORK_INLINE f64x2 ln_short(f64x2 y) {
 }
 
 // ln(1 + u) for 0 <= u < 2^100 in single: s + e = 1 + u, s = 2^k m, m in [2/3, 4/3),
-// v = (m - 1) + e 2^-k; ln = k ln 2 + (v + v^2 q(v)). Constants of LA: given, those of Ln HA.
+// v = (m - 1) + e 2^-k; ln = k ln 2 + (v + v^2 q(v)). Constants of LA: frozen, those of Ln HA.
 template <bool ep>
 ORK_INLINE f32x4 log1p_s(f32x4 u) {
   const f32x4 s = 1.0f + u;

@@ -4,7 +4,7 @@
 //   a <= 2.29    t = (a - 1)/(1 + a)                base pi/4
 //   above        t = -1/a                           base pi/2
 // atan t = t + t z Q(z), z = t^2, |t| <= 0.4375. No lane is rare: an infinity gives t = -0, a
-// NaN flows through. Constants: given. Bound: 0.95 ulp: the roundings of t.
+// NaN flows through. Constants: frozen. Bound: 0.95 ulp: the roundings of t.
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 

@@ -64,7 +64,7 @@ ORK_INLINE f64x2 cubic(f64x2 e, f64x2 e2, double c0, double c1, double c2, doubl
   return (c0 + c1 * e) + e2 * (c2 + c3 * e);
 }
 
-// P to 2^-54 of the result, in fours for the sake of latency. Coefficients: rule.
+// P to 2^-54 of the result, in fours for the sake of latency. Coefficients: of the series.
 ORK_INLINE f64x2 cdfnorm_long(const CdfNormReduced& r) {
   const f64x2 e = r.e, e2 = e * e, e4 = e2 * e2;
   const f64x2 in_e =

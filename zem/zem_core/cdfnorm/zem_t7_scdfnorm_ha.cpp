@@ -1,4 +1,4 @@
-// CdfNorm, single, HA: P to 2^-31 of the result. Coefficients: rule.
+// CdfNorm, single, HA: P to 2^-31 of the result. Coefficients: of the series.
 #include "cdfnorm/cdfnorm_s.hpp"
 
 namespace ork {

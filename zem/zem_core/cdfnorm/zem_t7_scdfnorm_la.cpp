@@ -1,4 +1,4 @@
-// CdfNorm, single, LA: P to 2^-27 of the result. Coefficients: rule.
+// CdfNorm, single, LA: P to 2^-27 of the result. Coefficients: of the series.
 #include "cdfnorm/cdfnorm_s.hpp"
 
 namespace ork {

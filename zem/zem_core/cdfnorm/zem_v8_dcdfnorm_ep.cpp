@@ -1,4 +1,4 @@
-// CdfNorm, double, EP: steps of 1/64. Coefficients: given.
+// CdfNorm, double, EP: steps of 1/64. Coefficients: frozen.
 #include "cdfnorm/cdfnorm.hpp"
 
 namespace ork {

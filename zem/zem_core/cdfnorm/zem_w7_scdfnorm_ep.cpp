@@ -1,4 +1,4 @@
-// CdfNorm, single, EP: P to 2^-18 of the result. Coefficients: rule.
+// CdfNorm, single, EP: P to 2^-18 of the result. Coefficients: of the series.
 #include "cdfnorm/cdfnorm_s.hpp"
 
 namespace ork {

@@ -1,4 +1,4 @@
-// Erf, double, LA: the series of P to e^5, g e^3, g^2 e, g^3. Coefficients: rule.
+// Erf, double, LA: the series of P to e^5, g e^3, g^2 e, g^3. Coefficients: of the series.
 #include "erf/erf.hpp"
 
 namespace ork {

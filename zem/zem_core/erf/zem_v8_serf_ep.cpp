@@ -1,4 +1,5 @@
-// Erf, single, EP: the scheme in single precision, P = -e + 2/3 e^2 - g/3. Coefficients: rule.
+// Erf, single, EP: the scheme in single precision, P = -e + 2/3 e^2 - g/3. Coefficients: of the
+// series.
 #include "erf/erf.hpp"
 
 namespace ork {

@@ -1,4 +1,4 @@
-// Erf, single, HA: in double, the series of P to e^3, g e, g^2. Coefficients: rule.
+// Erf, single, HA: in double, the series of P to e^3, g e, g^2. Coefficients: of the series.
 #include "erf/erf_s.hpp"
 
 namespace ork {

@@ -3,6 +3,7 @@
 // (row 0: all below 0.25), g polynomials near exp(x^2) erfc(x). x < 0 gives 2 - erfc(|x|).
 // -x^2 = N ln 2/128 + r, exp(-x^2) = 2^k T_j exp(r), N = 128 k + j.
 // Rare: from where erfc is below the normal range (all of these report it), and NaN.
+#include "base/round.hpp"
 #include "erfinv/inverse.hpp"
 
 namespace ork {
@@ -23,8 +24,8 @@ struct ErfcSteps {
   u64x2 k;
   int j[2];
   __attribute__((always_inline)) explicit ErfcSteps(f64x2 square) {
-    const f64x2 shifted = square * -184.66496523378731 + 6755399441055744.0;
-    n = shifted - 6755399441055744.0;
+    const f64x2 shifted = square * -184.66496523378731 + integer_shifter<double>;
+    n = shifted - integer_shifter<double>;
     const u32x4 image = as<u32x4>(shifted), row = image & 127;
     k = as<u64x2>(image & u32x4{0xFFFFFF80, 0, 0xFFFFFF80, 0}) << 45;
     j[0] = word<0>(row), j[1] = word<4>(row);

@@ -1,14 +1,15 @@
 // Exp, single, EP: e^x = 2^n 2^f, u = x log2 e, n = round(u), f = u - n; 2^f by a cubic of
 // relative error 1.3e-4 on [-1/2, 1/2]; 2^n is added to the exponent field.
-// Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: given.
+// Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: frozen.
 #include "base/image.hpp"
+#include "base/round.hpp"
 #include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
 namespace {
 
-constexpr float shifter = 12582912.0f;  // 1.5 * 2^23
+constexpr float shifter = integer_shifter<float>;
 
 int vsexp_cout_rare(const float* a, float* out) {
   if (sign(a) && magnitude(a) == infinity_bits<float>) {

@@ -4,6 +4,7 @@
 // Rare are |x| beyond a limit a little below the overflow, and NaN; there -1 is lost.
 #include <type_traits>
 
+#include "base/round.hpp"
 #include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"
 
@@ -36,7 +37,7 @@ struct Expm1D : Core<double> {
     rare |= as<u32x4>(far);
     return and_bits(x, ~far);
   }
-  static f64x2 round(f64x2 y) { return y + 6755399441055744.0 - 6755399441055744.0; }
+  static f64x2 round(f64x2 y) { return y + integer_shifter<double> - integer_shifter<double>; }
   static int special(const double* x, double* r) { return vdexpm1_cout_rare(x, r); }
 };
 

@@ -1,5 +1,6 @@
 // Expm1 of one element beyond the fast range: -1 below, e^x above, where e^x - 1 rounds to it.
 #include "base/image.hpp"
+#include "base/round.hpp"
 #include "exp/tables.hpp"
 #include "expm1/expm1.hpp"
 
@@ -7,9 +8,9 @@ namespace ork {
 namespace {
 
 // x > 0, not above the overflow limit. N = 64, T_hi + (T_lo + (T_hi + T_lo) p): T_lo reaches
-// 2^-45, so that its product with p counts. Constants: given.
+// 2^-45, so that its product with p counts. Constants: frozen.
 double exp_of_large(double x) {
-  const double t = x * 92.33248261689366 + 6755399441055744.0, n = t - 6755399441055744.0;
+  const double t = x * 92.33248261689366 + integer_shifter<double>, n = t - integer_shifter<double>;
   const double r = x - n * 0.010830424696223417 - n * 2.572804622327669e-14;
   const double p = r + r * r *
                            horner(r, 0.5, 0.1666666666665788, 0.04166666666677052,

@@ -1,6 +1,6 @@
 #pragma once
 // Ln, single, V8: p = u + u^2 q(u), u in [-1/3, 1/3); a level gives q and adds k ln 2.
-// Fast range: positive normal numbers; beyond it vsln_cout_rare. Constants: given.
+// Fast range: positive normal numbers; beyond it vsln_cout_rare. Constants: frozen.
 #include "frame/chunk.hpp"
 #include "ln/log_rare.hpp"
 #include "ln/log_s.hpp"

@@ -3,11 +3,12 @@
 // integer next to rcpps(m), so that r = m c - 1 is exact for m of 43 bits, |r| < 2^-9.5. Next to 1,
 // within 2^-10, a lane of `near` makes c a power of two: r is exact for every m, |r| < 2^-10, and
 // -log(c/1024) is 0, so that no sum cancels.
+#include "base/round.hpp"
 #include "base/vec.hpp"
 
 namespace ork {
 
-constexpr double short_shifter = 6755399441055744.0;  // 1.5 * 2^52: c in the low words of t
+constexpr double short_shifter = integer_shifter<double>;  // c in the low words of t
 
 struct ShortD {
   f64x2 m, t, c;

@@ -3,7 +3,7 @@
 namespace ork {
 namespace {
 
-// Base e. Constants: given; log_2 is short, the row of m = 2 holds the same number.
+// Base e. Constants: frozen; log_2 is short, the row of m = 2 holds the same number.
 struct Natural {
   static constexpr char name[] = "vdLn";
   static constexpr double log_2 = 0.6931471805601177;

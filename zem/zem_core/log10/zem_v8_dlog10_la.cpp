@@ -1,6 +1,6 @@
 // Log10, double, LA: m = m_hi + m_lo with m_hi of 43 bits, v = (m_hi c - 1) + m_lo c,
 // log10 x = K log10 2 + (T(c) + p(v)), p of degree 5, |v| < 2^-9.5. Next to 1, v = m - 1.
-// Fast range: positive normal numbers. Constants: given.
+// Fast range: positive normal numbers. Constants: frozen.
 #include "frame/chunk.hpp"
 #include "ln/log_short_d.hpp"
 #include "log10/log10.hpp"

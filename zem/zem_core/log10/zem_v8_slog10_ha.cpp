@@ -1,7 +1,8 @@
 // Log10, single, HA: x = 2^k m, c an integer near 111/(256 m) from rcpps, r = m c - 111/256,
 // log10 x = k log10 2 + L(c) + r + q(r) with a compensated sum.
-// Fast range: positive normal numbers. Constants: given.
+// Fast range: positive normal numbers. Constants: frozen.
 #include "base/pair.hpp"
+#include "base/round.hpp"
 #include "frame/chunk.hpp"
 #include "log10/log10.hpp"
 #include "ork/zem_kernels.h"
@@ -20,7 +21,7 @@ struct Log10HaS : Core<float> {
             as<u32x4>((f32x4)_mm_cmpnle_ps(x, splat(3.40282347e+38f)));
     const u32x4 image = as<u32x4>(x);
     const f32x4 m = as<f32x4>((image & 0x007FFFFF) | 0x3B000000);  // [2^-9, 2^-8)
-    const f32x4 c = rcp_est(m) * 0.43359375f + 12582912.0f - 12582912.0f;
+    const f32x4 c = rcp_est(m) * 0.43359375f + integer_shifter<float> - integer_shifter<float>;
     const f32x4 m_hi = and_bits(m, splat_u32(0xFFFFFF00)), m_lo = m - m_hi;
     const f32x4 r = (m_hi * c - 0.43359375f) + m_lo * c;
     const f32x4 k = _mm_cvtepi32_ps((__m128i)((image >> 23) - 127));

@@ -3,7 +3,7 @@
 namespace ork {
 namespace {
 
-// Base 10. Constants: given; log_2 is short, the row of m = 2 holds the same number.
+// Base 10. Constants: frozen; log_2 is short, the row of m = 2 holds the same number.
 struct Decimal {
   static constexpr char name[] = "vdLog10";
   static constexpr double log_2 = 0.30102999566406652;

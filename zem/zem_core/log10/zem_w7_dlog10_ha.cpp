@@ -7,12 +7,12 @@ constexpr double log10_2[][2] = {
 #include "log10/log10_2.inc"
 };
 
-// Base 10, in the variable scaled by c0 = 111/256. Coefficients: given; p(r) for
+// Base 10, in the variable scaled by c0 = 111/256. Coefficients: frozen; p(r) for
 // log10(1 + r/c0) - r, degree 5, |r| <= 2^-11.
 struct Decimal {
   static constexpr char name[] = "vdLog10";
   static constexpr double c0 = 0.43359375, l1 = log10_2[0][0], l2 = log10_2[0][1];
-  static constexpr double log_2_52 = 15.653559774527023;  // rule: 52 log10 2
+  static constexpr double log_2_52 = 15.653559774527023;  // 52 log10 2
   // k is the exponent as it stands: the row of m = 2 cancels k = -1.
   static constexpr uint32_t k_from = 0x3FF00000;
   alignas(16) static constexpr double rows[513][4] = {

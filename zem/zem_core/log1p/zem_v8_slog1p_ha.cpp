@@ -1,8 +1,9 @@
 // Log1p, single, HA: s + e = 1 + x, s of 16 bits unless x is small; m in [2^-8, 2^-7), c the
 // integer next to rcpps(m), r = m c - 1 exact, v = r + e c; ln(1 + x) = K ln 2 + L(c) +
 // v + p(v), p of degree 3, |v| < 2^-7.8, with the errors of the sums kept.
-// Fast range: -1 < x <= 2^118. Constants: given.
+// Fast range: -1 < x <= 2^118. Constants: frozen.
 #include "base/pair.hpp"
+#include "base/round.hpp"
 #include "log1p/log1p_s.hpp"
 
 namespace ork {
@@ -19,7 +20,8 @@ struct Log1pHaS : Log1pS {
     const f32x4 s = and_bits(x + 1.0f, keep), e = rest(x, s);
     const u32x4 image = as<u32x4>(s);
     const f32x4 m = as<f32x4>((image & 0x007FFFFF) | 0x3B800000);
-    const f32x4 t = rcp_est(m) + 12582912.0f, c = t - 12582912.0f, r = m * c - 1.0f;
+    const f32x4 t = rcp_est(m) + integer_shifter<float>, c = t - integer_shifter<float>,
+                r = m * c - 1.0f;
     const f32x4 scale = as<f32x4>(0x7B000000 - (image & 0x7F800000));
     const f32x4 e2 = e * (scale * c);
 

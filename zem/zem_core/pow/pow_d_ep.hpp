@@ -4,6 +4,7 @@
 // 2^-41, counts b times.
 // Fast: normal a > 0, -674.8 < q < 708.4, so that no term of the scaled sum is denormal.
 // vdpow_cout_rare: the others. ln 2/2048 is rounded to double; the other constants are fits.
+#include "base/round.hpp"
 #include "ln/log_short_d.hpp"
 #include "pow/pow_d.hpp"
 
@@ -27,7 +28,7 @@ ORK_INLINE f64x2 pow_main_ep(f64x2 a, f64x2 b, u32x4& rare) {
   rare |= as<u32x4>(out);
   const f64x2 q = and_bits(any, ~out);
 
-  constexpr double shifter = 6755399441055744.0;  // 1.5 * 2^52
+  constexpr double shifter = integer_shifter<double>;
   const f64x2 t = q * 2954.639443740597 + shifter;
   const f64x2 f = q - (t - shifter) * 0.00033845077175778576;
   const u32x4 j = as<u32x4>(t) & 2047;

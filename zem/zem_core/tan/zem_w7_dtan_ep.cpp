@@ -4,8 +4,8 @@
 
 namespace ork::trig {
 
-// Tangent, double, EP: see tan.hpp, P and Q quadratic; relative error of P/Q 2.6e-11 (given;
-// the cubic terms of LA do not belong to these: with them it is 5.6e-5). Bound 2^-26.
+// Tangent, double, EP: see tan.hpp, P and Q quadratic; relative error of P/Q 2.6e-11:
+// the cubic terms of LA do not belong to these, with them it is 5.6e-5. Bound 2^-26.
 struct TanEpD : Core<double> {
   static constexpr char name[] = "dTan_A11";
   static constexpr unsigned x87 = x87_double;

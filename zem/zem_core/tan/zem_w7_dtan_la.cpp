@@ -5,8 +5,8 @@
 
 namespace ork::trig {
 
-// Tangent, double, LA: see tan.hpp, P and Q cubic; relative error of P/Q 5.3e-17 (given). Q is
-// summed as (1 - z/2) + z (1/2 + q1 + ...), and what rounding takes from r P and Q is given back
+// Tangent, double, LA: see tan.hpp, P and Q cubic; relative error of P/Q 5.3e-17. Q is
+// summed as (1 - z/2) + z (1/2 + q1 + ...), and what rounding takes from r P and Q goes back
 // after the division, which a rough 1/Q is enough for: left are the roundings of z, of the quotient
 // and of the result. Bound 2 ulp.
 struct TanLaD : Core<double> {

@@ -4,8 +4,8 @@
 
 namespace ork::trig {
 
-// Sign bit of a lane (of a double: of its high word) set where |x| is at or above a limit given
-// by its image (of a double: its high word); infinities and NaN are.
+// Sign bit of a lane (of a double: of its high word) set where |x| is at or above a limit, itself
+// an image (of a double: its high word); infinities and NaN are.
 template <uint32_t limit, class V>
 ORK_INLINE u32x4 at_least(V ax) {
   return as<u32x4>(ax) + splat_u32(0x80000000u - limit);

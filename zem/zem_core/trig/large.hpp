@@ -6,7 +6,7 @@
 //   2^(8 g - 52) / (2 pi) as digits of 30 bits; the product's fraction f has 120 of them right
 //   f = q/4 + j/512 + f', |f'| <= 1/1024, z = 2 pi f', a = j pi/256
 //   sine of a + z + q pi/2: sine and cosine of a change places for an odd q
-//   sin z / z - 1 and cos z - 1, |z| <= pi/512: given, error 2^-61
+//   sin z / z - 1 and cos z - 1, |z| <= pi/512: frozen, error 2^-61
 // For 1 <= |x| < infinity; other lanes give no fault and no sense.
 #include "trig/pi_kernel.hpp"
 

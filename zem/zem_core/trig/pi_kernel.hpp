@@ -5,6 +5,7 @@
 //   pi in parts so short that n times all but the last is exact, |r| <= pi/2
 //   sin r = r + r^3 (c_0 + c_1 r^2 + ...)
 // On |x|, so that a zero keeps its sign. `Constants` has type, inverse, half_pi, shifter, parts, c.
+#include "base/round.hpp"
 #include "frame/kernel.hpp"
 #include "trig/bits.hpp"
 #include "trig/scalar.hpp"
@@ -87,18 +88,18 @@ ORK_INLINE V odd_sine(const ModuloPi<V>& x) {
   }
 }
 
-// Double, EP: relative error of the polynomial 6.1e-9 (given).
+// Double, EP: relative error of the polynomial 6.1e-9.
 struct PiEpD {
   using type = double;
   static constexpr double inverse = 0.31830988618379069, half_pi = 1.5707963267948966,
-                          shifter = 6755399441055744.0;  // 1.5 * 2^52
+                          shifter = integer_shifter<double>;
   static constexpr double parts[] = {3.1415925025939941, 1.5099578831723193e-07,
                                      1.0780605716316238e-14};
   static constexpr double c[] = {-0.16666659550427829, 0.0083330662460856901,
                                  -0.00019809602902257352, 2.605780638722852e-06};
 };
 
-// Double, LA: relative error of the polynomial 1.9e-16 (given). Of the first coefficient, -1/8 is
+// Double, LA: relative error of the polynomial 1.9e-16. Of the first coefficient, -1/8 is
 // multiplied exactly, so that the roundings of the sum count for a sixth: 0.3 ulp less.
 struct PiLaD : PiEpD {
   static constexpr double parts[] = {3.1415925025939941, 1.5099578831723193e-07,
@@ -113,16 +114,16 @@ struct PiLaD : PiEpD {
 #include "trig/sine_fits.inc"
 
 // Single, LA: error of the polynomial below 0.1 ulp (fit). pi in parts of 8, 11 and 11 bits and the
-// rest (rule).
+// rest.
 struct PiLaS {
   using type = float;
   static constexpr float inverse = 0.318309873f, half_pi = 1.57079637f,
-                         shifter = 12582912.0f;  // 1.5 * 2^23
+                         shifter = integer_shifter<float>;
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 0x1.444p-23f, 5.1266883e-12f};
   static constexpr float c[] = {sine_s1, sine_s2, sine_s3, sine_s4};
 };
 
-// Single, EP: relative error of the polynomial 6e-9 (given); 1.509958e-07 is all that the first
+// Single, EP: relative error of the polynomial 6e-9; 1.509958e-07 is all that the first
 // two parts leave.
 struct PiEpS : PiLaS {
   static constexpr float parts[] = {3.140625f, 0.00096750259f, 1.509958e-07f};

@@ -5,6 +5,7 @@
 #include "trig/scalar.hpp"
 
 #include "base/export.hpp"
+#include "base/round.hpp"
 #include "trig/table.hpp"
 
 namespace ork::trig {
@@ -15,7 +16,7 @@ constexpr int large = 1040;  // from here on, reduced first: 2^17
 
 int biased_exponent(double x) { return (int)(as<uint64_t>(x) >> 52) & 0x7FF; }
 
-// What pi/32 exceeds its three parts by (rule): an ulp's fraction next to multiples of pi/2.
+// What pi/32 exceeds its three parts by: an ulp's fraction next to multiples of pi/2.
 constexpr double fourth_part = 6.30365877242032e-39;
 
 struct Split {
@@ -27,7 +28,7 @@ Split split(double x, int exponent) {
   double r[2] = {x, 0};
   const unsigned quadrant = exponent >= large ? (unsigned)ork_zem_kernel_reduce_pio2d(x, r) : 0;
 
-  constexpr double shifter = 6755399441055744.0;  // 1.5 * 2^52
+  constexpr double shifter = integer_shifter<double>;
   const double t = r[0] * 10.185916357881302 + shifter, n = t - shifter;
   const double u = r[0] - n * 0.09817477042088285, second = n * 3.798187816439979e-12;
   const double z1 = u - second;

@@ -1,7 +1,7 @@
 #pragma once
 // Sine and cosine, single, HA, in double: modulo pi, r in two parts, then
 //   sin r = r (1.000000002 + r^2 (c_0 + c_1 r^2 + ...)), |r| <= pi/2
-// relative error of the polynomial 1.8e-8 = 0.3 ulp of single precision (given). Fast range
+// relative error of the polynomial 1.8e-8 = 0.3 ulp of single precision. Fast range
 // |x| < 10000. special: the scalar routine, any argument. Bound 0.85 ulp.
 #include "frame/kernel.hpp"
 #include "trig/pi_kernel.hpp"

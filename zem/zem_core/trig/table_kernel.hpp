@@ -5,6 +5,7 @@
 //   sin(a + z + low): Taylor polynomials of sin z / z - 1 and cos z - 1 (below 2^-61)
 //   cos x = sin(a + pi/2 + z + low)
 // Fast range |x| < 90112: n times a part is exact. special: the scalar routine, any argument.
+#include "base/round.hpp"
 #include "frame/kernel.hpp"
 #include "trig/bits.hpp"
 #include "trig/scalar.hpp"
@@ -19,7 +20,7 @@ struct Reduced {
 
 // Steps of pi/64, for |x| >= 0.
 ORK_INLINE Reduced reduce_pi64(f64x2 ax) {
-  const f64x2 shifter = splat(6755399441055744.0);  // 1.5 * 2^52
+  const f64x2 shifter = splat(integer_shifter<double>);
   const f64x2 t = ax * splat(20.371832715762604) + shifter, n = t - shifter;
   const f64x2 u = ax - n * splat(0.049087385210441425), second = n * splat(1.8990939082199894e-12);
   const f64x2 z = u - second;

@@ -10,6 +10,7 @@
 #include "rua_kernel/ss/moments/finish.hpp"
 #include "rua_kernel/ss/moments/merge.hpp"
 #include "rua_kernel/ss/moments/tables.hpp"
+#include "rua_kernel/ss/service/computation.hpp"
 
 namespace ork::ss {
 namespace {
@@ -319,17 +320,6 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
 template int32_t basic(Task<double>&, uint64_t, uint64_t, const ork_threader*);
 template int32_t basic(Task<float>&, uint64_t, uint64_t, const ork_threader*);
 
-ORK_EXPORT int32_t _ruadSSBasic(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
-                                uint32_t method_low, uint32_t method_high,
-                                const ork_threader* threader) {
-  return basic(record_of<double>(task), join(estimates_low, estimates_high),
-               join(method_low, method_high), threader);
-}
-ORK_EXPORT int32_t _ruasSSBasic(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
-                                uint32_t method_low, uint32_t method_high,
-                                const ork_threader* threader) {
-  return basic(record_of<float>(task), join(estimates_low, estimates_high),
-               join(method_low, method_high), threader);
-}
+ORK_COMPUTATION(Basic, basic)
 
 }  // namespace ork::ss

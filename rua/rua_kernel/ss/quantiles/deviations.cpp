@@ -3,6 +3,7 @@
 #include "base/threads.hpp"
 #include "rua_kernel/ss/moments/basic.hpp"
 #include "rua_kernel/ss/quantiles/quantiles.hpp"
+#include "rua_kernel/ss/service/computation.hpp"
 #include "rua_kernel/ss/service/data.hpp"
 #include "rua_kernel/ss/service/private_task.hpp"
 
@@ -77,17 +78,6 @@ int32_t deviations(const Task<R>& t, uint64_t estimates, uint64_t method,
 
 }  // namespace
 
-ORK_EXPORT int32_t _ruadSSMAD(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
-                              uint32_t method_low, uint32_t method_high,
-                              const ork_threader* threader) {
-  return deviations(record_of<double>(task), join(estimates_low, estimates_high),
-                    join(method_low, method_high), threader);
-}
-ORK_EXPORT int32_t _ruasSSMAD(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
-                              uint32_t method_low, uint32_t method_high,
-                              const ork_threader* threader) {
-  return deviations(record_of<float>(task), join(estimates_low, estimates_high),
-                    join(method_low, method_high), threader);
-}
+ORK_COMPUTATION(MAD, deviations)
 
 }  // namespace ork::ss

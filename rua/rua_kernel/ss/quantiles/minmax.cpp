@@ -3,6 +3,7 @@
 
 #include "base/scratch.hpp"
 #include "base/vec.hpp"
+#include "rua_kernel/ss/service/computation.hpp"
 #include "rua_kernel/ss/service/task.hpp"
 
 namespace ork::ss {
@@ -84,7 +85,7 @@ void run(const Task<R>& t, R* now, R* copy) {
 }
 
 template <class R>
-int32_t minmax(const Task<R>& t, uint64_t estimates, uint64_t method) {
+int32_t minmax(const Task<R>& t, uint64_t estimates, uint64_t method, const ork_threader*) {
   const bool min = estimates & ORK_SS_MIN, max = estimates & ORK_SS_MAX;
   if (!(t.integer(t.storageFormat) & kLayouts)) return ORK_SS_BAD_STORAGE;
   if (min && !t.min) return ORK_SS_NULL_MIN;
@@ -102,15 +103,6 @@ int32_t minmax(const Task<R>& t, uint64_t estimates, uint64_t method) {
 
 }  // namespace
 
-ORK_EXPORT int32_t _ruadSSMinmax(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
-                                 uint32_t method_low, uint32_t method_high, const ork_threader*) {
-  return minmax(record_of<double>(task), join(estimates_low, estimates_high),
-                join(method_low, method_high));
-}
-ORK_EXPORT int32_t _ruasSSMinmax(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
-                                 uint32_t method_low, uint32_t method_high, const ork_threader*) {
-  return minmax(record_of<float>(task), join(estimates_low, estimates_high),
-                join(method_low, method_high));
-}
+ORK_COMPUTATION(Minmax, minmax)
 
 }  // namespace ork::ss

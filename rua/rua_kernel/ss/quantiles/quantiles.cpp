@@ -5,6 +5,7 @@
 #include "base/scratch.hpp"
 #include "base/threads.hpp"
 #include "rua_kernel/ss/quantiles/between.hpp"
+#include "rua_kernel/ss/service/computation.hpp"
 #include "rua_kernel/ss/service/data.hpp"
 #include "rua_kernel/ss/service/math.hpp"
 #include "rua_kernel/ss/service/private_task.hpp"
@@ -148,17 +149,6 @@ template int32_t median(const float*, int, float*, const ork_threader*);
 template int32_t quantiles(Task<double>&, uint64_t, uint64_t, const ork_threader*);
 template int32_t quantiles(Task<float>&, uint64_t, uint64_t, const ork_threader*);
 
-ORK_EXPORT int32_t _ruadSSQuantiles(ork_ss_task* task, uint32_t estimates_low,
-                                    uint32_t estimates_high, uint32_t method_low,
-                                    uint32_t method_high, const ork_threader* threader) {
-  return quantiles(record_of<double>(task), join(estimates_low, estimates_high),
-                   join(method_low, method_high), threader);
-}
-ORK_EXPORT int32_t _ruasSSQuantiles(ork_ss_task* task, uint32_t estimates_low,
-                                    uint32_t estimates_high, uint32_t method_low,
-                                    uint32_t method_high, const ork_threader* threader) {
-  return quantiles(record_of<float>(task), join(estimates_low, estimates_high),
-                   join(method_low, method_high), threader);
-}
+ORK_COMPUTATION(Quantiles, quantiles)
 
 }  // namespace ork::ss

@@ -5,6 +5,7 @@
 #include "base/threads.hpp"
 #include "rua_kernel/ss/quantiles/quantiles.hpp"
 #include "rua_kernel/ss/quantiles/stream_state.hpp"
+#include "rua_kernel/ss/service/computation.hpp"
 #include "rua_kernel/ss/service/data.hpp"
 #include "rua_kernel/ss/service/math.hpp"
 
@@ -218,7 +219,7 @@ int32_t estimate(const Task<R>& t) {
 }
 
 template <class R>
-int32_t stream_quantiles(Task<R>& t, uint64_t method, const ork_threader* threader) {
+int32_t stream_quantiles(Task<R>& t, uint64_t, uint64_t method, const ork_threader* threader) {
   if (const int32_t status = check(t, method)) return status;
   if (const int32_t status = add(t, threader)) return status;
   return method & ORK_SS_STREAM ? estimate(t) : ORK_SS_OK;
@@ -226,16 +227,7 @@ int32_t stream_quantiles(Task<R>& t, uint64_t method, const ork_threader* thread
 
 }  // namespace
 
-ORK_EXPORT int32_t _ruadSSStreamQuantiles(ork_ss_task* task, uint32_t, uint32_t,
-                                          uint32_t method_low, uint32_t method_high,
-                                          const ork_threader* threader) {
-  return stream_quantiles(record_of<double>(task), join(method_low, method_high), threader);
-}
-ORK_EXPORT int32_t _ruasSSStreamQuantiles(ork_ss_task* task, uint32_t, uint32_t,
-                                          uint32_t method_low, uint32_t method_high,
-                                          const ork_threader* threader) {
-  return stream_quantiles(record_of<float>(task), join(method_low, method_high), threader);
-}
+ORK_COMPUTATION(StreamQuantiles, stream_quantiles)
 
 // What it needs stands at the same place in records of both precisions.
 ORK_EXPORT void __ruaSQuantilesFreeBuffers(ork_ss_task* task) {

@@ -58,11 +58,10 @@ int32_t weighted_quantiles(const Task<R>& t) {
 template int32_t weighted_quantiles(const Task<double>&);
 template int32_t weighted_quantiles(const Task<float>&);
 
-ORK_EXPORT int32_t _ruadSSWMedian(ork_ss_task* task) {
-  return weighted_quantiles(record_of<double>(task));
-}
-ORK_EXPORT int32_t _ruasSSWMedian(ork_ss_task* task) {
-  return weighted_quantiles(record_of<float>(task));
-}
+#define ORK_WMEDIAN(t, R)                                    \
+  ORK_EXPORT int32_t _rua##t##SSWMedian(ork_ss_task* task) { \
+    return weighted_quantiles(record_of<R>(task));           \
+  }
+ORK_TWINS(ORK_WMEDIAN)
 
 }  // namespace ork::ss

@@ -113,12 +113,11 @@ void set_field(ork_ss_task* task, int code, const void* value) {
   memcpy(reinterpret_cast<char*>(task) + 4 * rows[code - 1].word, &value, sizeof value);
 }
 
-ORK_EXPORT int32_t __ruadSSEditTask(ork_ss_task* task, int64_t code, const double* value) {
-  return edit(task, code, real, value);
-}
-ORK_EXPORT int32_t __ruasSSEditTask(ork_ss_task* task, int64_t code, const float* value) {
-  return edit(task, code, real, value);
-}
+#define ORK_EDIT_TASK(t, R)                                                                  \
+  ORK_EXPORT int32_t __rua##t##SSEditTask(ork_ss_task* task, int64_t code, const R* value) { \
+    return edit(task, code, real, value);                                                    \
+  }
+ORK_TWINS(ORK_EDIT_TASK)
 ORK_EXPORT int32_t __ruaiSSEditTask(ork_ss_task* task, int64_t code, const void* value) {
   return edit(task, code, integer, value);
 }

@@ -56,164 +56,108 @@ int32_t set_all(ork_ss_task* task, const uint8_t (&codes)[N], V*... values) {
 
 }  // namespace
 
-ORK_EXPORT int32_t __ruadSSEditMoments(ork_ss_task* task, double* mean, double* raw2, double* raw3,
-                                       double* raw4, double* central2, double* central3,
-                                       double* central4) {
-  return set_all(task, moments_codes, mean, raw2, raw3, raw4, central2, central3, central4);
-}
-ORK_EXPORT int32_t __ruasSSEditMoments(ork_ss_task* task, float* mean, float* raw2, float* raw3,
-                                       float* raw4, float* central2, float* central3,
-                                       float* central4) {
-  return set_all(task, moments_codes, mean, raw2, raw3, raw4, central2, central3, central4);
-}
+#define ORK_EDIT_MOMENTS(t, R)                                                                 \
+  ORK_EXPORT int32_t __rua##t##SSEditMoments(ork_ss_task* task, R* mean, R* raw2, R* raw3,     \
+                                             R* raw4, R* central2, R* central3, R* central4) { \
+    return set_all(task, moments_codes, mean, raw2, raw3, raw4, central2, central3, central4); \
+  }
+ORK_TWINS(ORK_EDIT_MOMENTS)
 
-ORK_EXPORT int32_t __ruadSSEditSums(ork_ss_task* task, double* sum, double* sum2, double* sum3,
-                                    double* sum4, double* centralSum2, double* centralSum3,
-                                    double* centralSum4) {
-  return set_all(task, sums_codes, sum, sum2, sum3, sum4, centralSum2, centralSum3, centralSum4);
-}
-ORK_EXPORT int32_t __ruasSSEditSums(ork_ss_task* task, float* sum, float* sum2, float* sum3,
-                                    float* sum4, float* centralSum2, float* centralSum3,
-                                    float* centralSum4) {
-  return set_all(task, sums_codes, sum, sum2, sum3, sum4, centralSum2, centralSum3, centralSum4);
-}
+#define ORK_EDIT_SUMS(t, R)                                                                     \
+  ORK_EXPORT int32_t __rua##t##SSEditSums(ork_ss_task* task, R* sum, R* sum2, R* sum3, R* sum4, \
+                                          R* centralSum2, R* centralSum3, R* centralSum4) {     \
+    return set_all(task, sums_codes, sum, sum2, sum3, sum4, centralSum2, centralSum3,           \
+                   centralSum4);                                                                \
+  }
+ORK_TWINS(ORK_EDIT_SUMS)
 
-ORK_EXPORT int32_t __ruadSSEditCovCor(ork_ss_task* task, double* mean, double* cov,
-                                      const void* covStorage, double* cor, const void* corStorage) {
-  return set_all(task, cov_cor_codes, mean, cov, covStorage, cor, corStorage);
-}
-ORK_EXPORT int32_t __ruasSSEditCovCor(ork_ss_task* task, float* mean, float* cov,
-                                      const void* covStorage, float* cor, const void* corStorage) {
-  return set_all(task, cov_cor_codes, mean, cov, covStorage, cor, corStorage);
-}
+#define ORK_EDIT_COV_COR(t, R)                                                   \
+  ORK_EXPORT int32_t __rua##t##SSEditCovCor(ork_ss_task* task, R* mean, R* cov,  \
+                                            const void* covStorage, R* cor,      \
+                                            const void* corStorage) {            \
+    return set_all(task, cov_cor_codes, mean, cov, covStorage, cor, corStorage); \
+  }
+ORK_TWINS(ORK_EDIT_COV_COR)
 
-ORK_EXPORT int32_t __ruadSSEditCP(ork_ss_task* task, double* mean, double* sum,
-                                  double* crossProduct, const void* crossProductStorage) {
-  return set_all(task, cp_codes, mean, sum, crossProduct, crossProductStorage);
-}
-ORK_EXPORT int32_t __ruasSSEditCP(ork_ss_task* task, float* mean, float* sum, float* crossProduct,
-                                  const void* crossProductStorage) {
-  return set_all(task, cp_codes, mean, sum, crossProduct, crossProductStorage);
-}
+#define ORK_EDIT_CP(t, R)                                                                    \
+  ORK_EXPORT int32_t __rua##t##SSEditCP(ork_ss_task* task, R* mean, R* sum, R* crossProduct, \
+                                        const void* crossProductStorage) {                   \
+    return set_all(task, cp_codes, mean, sum, crossProduct, crossProductStorage);            \
+  }
+ORK_TWINS(ORK_EDIT_CP)
 
-ORK_EXPORT int32_t __ruadSSEditPartialCovCor(ork_ss_task* task, const void* partialIndex,
-                                             double* cov, const void* covStorage, double* cor,
-                                             const void* corStorage, double* partialCov,
-                                             const void* partialCovStorage, double* partialCor,
-                                             const void* partialCorStorage) {
-  return set_all(task, partial_cov_cor_codes, partialIndex, cov, covStorage, cor, corStorage,
-                 partialCov, partialCovStorage, partialCor, partialCorStorage);
-}
-ORK_EXPORT int32_t __ruasSSEditPartialCovCor(ork_ss_task* task, const void* partialIndex,
-                                             float* cov, const void* covStorage, float* cor,
-                                             const void* corStorage, float* partialCov,
-                                             const void* partialCovStorage, float* partialCor,
-                                             const void* partialCorStorage) {
-  return set_all(task, partial_cov_cor_codes, partialIndex, cov, covStorage, cor, corStorage,
-                 partialCov, partialCovStorage, partialCor, partialCorStorage);
-}
+#define ORK_EDIT_PARTIAL_COV_COR(t, R)                                                          \
+  ORK_EXPORT int32_t __rua##t##SSEditPartialCovCor(                                             \
+      ork_ss_task* task, const void* partialIndex, R* cov, const void* covStorage, R* cor,      \
+      const void* corStorage, R* partialCov, const void* partialCovStorage, R* partialCor,      \
+      const void* partialCorStorage) {                                                          \
+    return set_all(task, partial_cov_cor_codes, partialIndex, cov, covStorage, cor, corStorage, \
+                   partialCov, partialCovStorage, partialCor, partialCorStorage);               \
+  }
+ORK_TWINS(ORK_EDIT_PARTIAL_COV_COR)
 
-ORK_EXPORT int32_t __ruadSSEditPooledCovariance(ork_ss_task* task, const void* groupIndex,
-                                                double* pooledMean, double* pooledCov,
-                                                const void* groupRequest, double* groupMeans,
-                                                double* groupCov) {
-  return set_all(task, pooled_covariance_codes, groupIndex, pooledMean, pooledCov, groupRequest,
-                 groupMeans, groupCov);
-}
-ORK_EXPORT int32_t __ruasSSEditPooledCovariance(ork_ss_task* task, const void* groupIndex,
-                                                float* pooledMean, float* pooledCov,
-                                                const void* groupRequest, float* groupMeans,
-                                                float* groupCov) {
-  return set_all(task, pooled_covariance_codes, groupIndex, pooledMean, pooledCov, groupRequest,
-                 groupMeans, groupCov);
-}
+#define ORK_EDIT_POOLED_COVARIANCE(t, R)                                                           \
+  ORK_EXPORT int32_t __rua##t##SSEditPooledCovariance(                                             \
+      ork_ss_task* task, const void* groupIndex, R* pooledMean, R* pooledCov,                      \
+      const void* groupRequest, R* groupMeans, R* groupCov) {                                      \
+    return set_all(task, pooled_covariance_codes, groupIndex, pooledMean, pooledCov, groupRequest, \
+                   groupMeans, groupCov);                                                          \
+  }
+ORK_TWINS(ORK_EDIT_POOLED_COVARIANCE)
 
-ORK_EXPORT int32_t __ruadSSEditQuantiles(ork_ss_task* task, const void* quantileCount,
-                                         const double* quantileOrders, double* quantiles,
-                                         double* orderStatistics,
-                                         const void* orderStatisticsStorage) {
-  return set_all(task, quantiles_codes, quantileCount, quantileOrders, quantiles, orderStatistics,
-                 orderStatisticsStorage);
-}
-ORK_EXPORT int32_t __ruasSSEditQuantiles(ork_ss_task* task, const void* quantileCount,
-                                         const float* quantileOrders, float* quantiles,
-                                         float* orderStatistics,
-                                         const void* orderStatisticsStorage) {
-  return set_all(task, quantiles_codes, quantileCount, quantileOrders, quantiles, orderStatistics,
-                 orderStatisticsStorage);
-}
+#define ORK_EDIT_QUANTILES(t, R)                                                           \
+  ORK_EXPORT int32_t __rua##t##SSEditQuantiles(                                            \
+      ork_ss_task* task, const void* quantileCount, const R* quantileOrders, R* quantiles, \
+      R* orderStatistics, const void* orderStatisticsStorage) {                            \
+    return set_all(task, quantiles_codes, quantileCount, quantileOrders, quantiles,        \
+                   orderStatistics, orderStatisticsStorage);                               \
+  }
+ORK_TWINS(ORK_EDIT_QUANTILES)
 
-ORK_EXPORT int32_t __ruadSSEditStreamQuantiles(ork_ss_task* task, const void* streamOrderCount,
-                                               const double* streamOrders, double* streamQuantiles,
-                                               const void* streamParamCount,
-                                               const double* streamParams) {
-  return set_all(task, stream_quantiles_codes, streamOrderCount, streamOrders, streamQuantiles,
-                 streamParamCount, streamParams);
-}
-ORK_EXPORT int32_t __ruasSSEditStreamQuantiles(ork_ss_task* task, const void* streamOrderCount,
-                                               const float* streamOrders, float* streamQuantiles,
-                                               const void* streamParamCount,
-                                               const float* streamParams) {
-  return set_all(task, stream_quantiles_codes, streamOrderCount, streamOrders, streamQuantiles,
-                 streamParamCount, streamParams);
-}
+#define ORK_EDIT_STREAM_QUANTILES(t, R)                                                           \
+  ORK_EXPORT int32_t __rua##t##SSEditStreamQuantiles(                                             \
+      ork_ss_task* task, const void* streamOrderCount, const R* streamOrders, R* streamQuantiles, \
+      const void* streamParamCount, const R* streamParams) {                                      \
+    return set_all(task, stream_quantiles_codes, streamOrderCount, streamOrders, streamQuantiles, \
+                   streamParamCount, streamParams);                                               \
+  }
+ORK_TWINS(ORK_EDIT_STREAM_QUANTILES)
 
-ORK_EXPORT int32_t __ruadSSEditOutDetect(ork_ss_task* task, const void* outlierParamCount,
-                                         const double* outlierParams, double* outlierWeights) {
-  return set_all(task, out_detect_codes, outlierParamCount, outlierParams, outlierWeights);
-}
-ORK_EXPORT int32_t __ruasSSEditOutDetect(ork_ss_task* task, const void* outlierParamCount,
-                                         const float* outlierParams, float* outlierWeights) {
-  return set_all(task, out_detect_codes, outlierParamCount, outlierParams, outlierWeights);
-}
+#define ORK_EDIT_OUT_DETECT(t, R)                                                                \
+  ORK_EXPORT int32_t __rua##t##SSEditOutDetect(ork_ss_task* task, const void* outlierParamCount, \
+                                               const R* outlierParams, R* outlierWeights) {      \
+    return set_all(task, out_detect_codes, outlierParamCount, outlierParams, outlierWeights);    \
+  }
+ORK_TWINS(ORK_EDIT_OUT_DETECT)
 
-ORK_EXPORT int32_t __ruadSSEditRCov(ork_ss_task* task, const void* robustCovStorage,
-                                    const void* robustParamCount, const double* robustParams,
-                                    double* robustMean, double* robustCov) {
-  return set_all(task, rcov_codes, robustCovStorage, robustParamCount, robustParams, robustMean,
-                 robustCov);
-}
-ORK_EXPORT int32_t __ruasSSEditRCov(ork_ss_task* task, const void* robustCovStorage,
-                                    const void* robustParamCount, const float* robustParams,
-                                    float* robustMean, float* robustCov) {
-  return set_all(task, rcov_codes, robustCovStorage, robustParamCount, robustParams, robustMean,
-                 robustCov);
-}
+#define ORK_EDIT_RCOV(t, R)                                                                        \
+  ORK_EXPORT int32_t __rua##t##SSEditRCov(ork_ss_task* task, const void* robustCovStorage,         \
+                                          const void* robustParamCount, const R* robustParams,     \
+                                          R* robustMean, R* robustCov) {                           \
+    return set_all(task, rcov_codes, robustCovStorage, robustParamCount, robustParams, robustMean, \
+                   robustCov);                                                                     \
+  }
+ORK_TWINS(ORK_EDIT_RCOV)
 
-ORK_EXPORT int32_t __ruadSSEditMissingVals(ork_ss_task* task, const void* missingParamCount,
-                                           const double* missingParams,
-                                           const void* initEstimateCount,
-                                           const double* initEstimates, const void* priorCount,
-                                           const double* prior, const void* simulatedCount,
-                                           double* simulated, const void* estimateCount,
-                                           double* estimates) {
-  return set_all(task, missing_vals_codes, missingParamCount, missingParams, initEstimateCount,
-                 initEstimates, priorCount, prior, simulatedCount, simulated, estimateCount,
-                 estimates);
-}
-ORK_EXPORT int32_t __ruasSSEditMissingVals(ork_ss_task* task, const void* missingParamCount,
-                                           const float* missingParams,
-                                           const void* initEstimateCount,
-                                           const float* initEstimates, const void* priorCount,
-                                           const float* prior, const void* simulatedCount,
-                                           float* simulated, const void* estimateCount,
-                                           float* estimates) {
-  return set_all(task, missing_vals_codes, missingParamCount, missingParams, initEstimateCount,
-                 initEstimates, priorCount, prior, simulatedCount, simulated, estimateCount,
-                 estimates);
-}
+#define ORK_EDIT_MISSING_VALS(t, R)                                                               \
+  ORK_EXPORT int32_t __rua##t##SSEditMissingVals(                                                 \
+      ork_ss_task* task, const void* missingParamCount, const R* missingParams,                   \
+      const void* initEstimateCount, const R* initEstimates, const void* priorCount,              \
+      const R* prior, const void* simulatedCount, R* simulated, const void* estimateCount,        \
+      R* estimates) {                                                                             \
+    return set_all(task, missing_vals_codes, missingParamCount, missingParams, initEstimateCount, \
+                   initEstimates, priorCount, prior, simulatedCount, simulated, estimateCount,    \
+                   estimates);                                                                    \
+  }
+ORK_TWINS(ORK_EDIT_MISSING_VALS)
 
-ORK_EXPORT int32_t __ruadSSEditMtxParametrz(ork_ss_task* task, double* cor, const void* corStorage,
-                                            double* paramCorrelation,
-                                            const void* paramCorrelationStorage) {
-  return set_all(task, mtx_parametrz_codes, cor, corStorage, paramCorrelation,
-                 paramCorrelationStorage);
-}
-ORK_EXPORT int32_t __ruasSSEditMtxParametrz(ork_ss_task* task, float* cor, const void* corStorage,
-                                            float* paramCorrelation,
-                                            const void* paramCorrelationStorage) {
-  return set_all(task, mtx_parametrz_codes, cor, corStorage, paramCorrelation,
-                 paramCorrelationStorage);
-}
+#define ORK_EDIT_MTX_PARAMETRZ(t, R)                                                           \
+  ORK_EXPORT int32_t __rua##t##SSEditMtxParametrz(ork_ss_task* task, R* cor,                   \
+                                                  const void* corStorage, R* paramCorrelation, \
+                                                  const void* paramCorrelationStorage) {       \
+    return set_all(task, mtx_parametrz_codes, cor, corStorage, paramCorrelation,               \
+                   paramCorrelationStorage);                                                   \
+  }
+ORK_TWINS(ORK_EDIT_MTX_PARAMETRZ)
 
 }  // namespace ork::ss

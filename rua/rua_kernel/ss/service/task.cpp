@@ -39,16 +39,13 @@ int32_t new_task(ork_ss_task** task, const void* p, const void* n, const void* s
 
 }  // namespace
 
-ORK_EXPORT int32_t __ruadSSNewTask(ork_ss_task** task, const void* p, const void* n,
-                                   const void* storage, const double* x, const double* w,
-                                   const void* indices, int32_t wideIntegers) {
-  return new_task(task, p, n, storage, x, w, indices, wideIntegers);
-}
-ORK_EXPORT int32_t __ruasSSNewTask(ork_ss_task** task, const void* p, const void* n,
-                                   const void* storage, const float* x, const float* w,
-                                   const void* indices, int32_t wideIntegers) {
-  return new_task(task, p, n, storage, x, w, indices, wideIntegers);
-}
+#define ORK_NEW_TASK(t, R)                                                                 \
+  ORK_EXPORT int32_t __rua##t##SSNewTask(ork_ss_task** task, const void* p, const void* n, \
+                                         const void* storage, const R* x, const R* w,      \
+                                         const void* indices, int32_t wideIntegers) {      \
+    return new_task(task, p, n, storage, x, w, indices, wideIntegers);                     \
+  }
+ORK_TWINS(ORK_NEW_TASK)
 
 ORK_EXPORT int32_t __ruaSSDeleteTask(ork_ss_task** task) {
   if (!task || !*task) return ORK_SS_NULL_TASK;
