@@ -36,6 +36,17 @@ int ork_sRngWeibull(int method, RuaStream* stream, int n, float* r, float alpha,
                     float beta);
 int ork_dRngGumbel(int method, RuaStream* stream, int n, double* r, double a, double beta);
 int ork_sRngGumbel(int method, RuaStream* stream, int n, float* r, float a, float beta);
+int ork_dRngGamma(int method, RuaStream* stream, int n, double* r, double alpha, double a,
+                  double beta);
+int ork_sRngGamma(int method, RuaStream* stream, int n, float* r, float alpha, float a, float beta);
+int ork_dRngBeta(int method, RuaStream* stream, int n, double* r, double p, double q, double a,
+                 double beta);
+int ork_sRngBeta(int method, RuaStream* stream, int n, float* r, float p, float q, float a,
+                 float beta);
+int ork_dRngGaussianMV(int method, RuaStream* stream, int n, double* r, int32_t dim,
+                       int32_t mstorage, const double* a, const double* t);
+int ork_sRngGaussianMV(int method, RuaStream* stream, int n, float* r, int32_t dim,
+                       int32_t mstorage, const float* a, const float* t);
 
 #ifdef __cplusplus
 }

@@ -27,6 +27,13 @@ extern "C" {
 /* Added to the method of Uniform: results are kept within the bounds. */
 #define RUA_METHOD_ACCURATE 0x40000000
 
+/* How GaussianMV's t holds a lower triangular matrix. */
+enum {
+  RUA_MATRIX_FULL = 0,     /* dim * dim values, row after row */
+  RUA_MATRIX_PACKED = 1,   /* the triangle, column after column */
+  RUA_MATRIX_DIAGONAL = 2  /* dim values, the others being 0 */
+};
+
 /* ---- Continuous distributions by transformation -------------------------------------------- *
  * `method` is read by Uniform, Gaussian and Lognormal only. u is a uniform number from 0 to 1,
  * one for each output unless said otherwise. */
@@ -102,6 +109,49 @@ int32_t _ruasRngWeibull(int32_t method, RuaStream* stream, int32_t n, float* r, 
 int32_t _ruadRngGumbel(int32_t method, RuaStream* stream, int32_t n, double* r, double a,
                        double beta);
 int32_t _ruasRngGumbel(int32_t method, RuaStream* stream, int32_t n, float* r, float a, float beta);
+
+/* ---- Gamma, beta, multivariate Gaussian ---------------------------------------------------- *
+ * By rejection: how many uniform numbers an output takes varies. Gamma does not read `method`;
+ * Beta accepts RUA_METHOD_ACCURATE, which matters only for shapes that are no numbers. */
+
+/* a + beta x, never below a, x gamma of shape alpha. Above shape 1 by a Gaussian number's cube
+ * (Marsaglia, Tsang 2000): a candidate that a call has no use for stays with the stream, in
+ * chunk 7 (d) or 8 (s), and is the first of the next call with such a shape; a copied or saved
+ * stream keeps it, a failed call loses it. At 1 the exponential distribution; from 0.6 on a
+ * Weibull envelope (Vaduva 1977), below an envelope of x^alpha. After a failure what r holds is
+ * not yet scaled. NO_MEMORY: the chunk could not be made; BAD_GENERATOR: it is shorter than a
+ * candidate. Range: alpha > 0, beta > 0. */
+int32_t _ruadRngGamma(int32_t method, RuaStream* stream, int32_t n, double* r, double alpha,
+                      double a, double beta);
+int32_t _ruasRngGamma(int32_t method, RuaStream* stream, int32_t n, float* r, float alpha, float a,
+                      float beta);
+
+/* a + beta x, from a to a + beta, x beta of shapes p and q. Two shapes above 1: Cheng 1978; one
+ * or both below: Atkinson, Whittaker 1976; both small: Johnk 1964; one of them 1: a power of a
+ * uniform number. The law suffers where the type has no room for it: p + q below 0.015 (s:
+ * 0.15), and for s above 3e4. After a failure what r holds is not yet scaled. Range: p > 0, q >
+ * 0, beta > 0. */
+int32_t _ruadRngBeta(int32_t method, RuaStream* stream, int32_t n, double* r, double p, double q,
+                     double a, double beta);
+int32_t _ruasRngBeta(int32_t method, RuaStream* stream, int32_t n, float* r, float p, float q,
+                     float a, float beta);
+
+/* Methods of GaussianMV. */
+enum {
+  RUA_GAUSSIANMV_BOXMULLER = 0,
+  RUA_GAUSSIANMV_BOXMULLER2 = 1,
+  RUA_GAUSSIANMV_ICDF = 2
+};
+
+/* n vectors of dim coordinates, one after the other: a + T z with z from Gaussian by the same
+ * method (coordinate j of vector i is number i dim + j), mean a, covariance T T'. t holds the
+ * lower triangular factor T as mstorage says; its strict upper part is not read. dim 1 is
+ * Gaussian itself with deviation t[0], whatever mstorage is. Range: dim > 0, mstorage >= 0,
+ * mstorage <= 2. */
+int32_t _ruadRngGaussianMV(int32_t method, RuaStream* stream, int32_t n, double* r, int32_t dim,
+                           int32_t mstorage, const double* a, const double* t);
+int32_t _ruasRngGaussianMV(int32_t method, RuaStream* stream, int32_t n, float* r, int32_t dim,
+                           int32_t mstorage, const float* a, const float* t);
 
 #ifdef __cplusplus
 }

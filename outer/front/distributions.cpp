@@ -65,3 +65,30 @@ ORK_OUTER int ork_dRngGumbel(int method, RuaStream* stream, int n, double* r, do
 ORK_OUTER int ork_sRngGumbel(int method, RuaStream* stream, int n, float* r, float a, float beta) {
   return draw(_ruasRngGumbel, 1, beta > 0, true, method, stream, n, r, a, beta);
 }
+ORK_OUTER int ork_dRngGamma(int method, RuaStream* stream, int n, double* r, double alpha, double a,
+                  double beta) {
+  return draw(_ruadRngGamma, 1, alpha > 0 && beta > 0, true, method, stream, n, r, alpha, a, beta);
+}
+ORK_OUTER int ork_sRngGamma(int method, RuaStream* stream, int n, float* r, float alpha, float a, float beta) {
+  return draw(_ruasRngGamma, 1, alpha > 0 && beta > 0, true, method, stream, n, r, alpha, a, beta);
+}
+ORK_OUTER int ork_dRngBeta(int method, RuaStream* stream, int n, double* r, double p, double q, double a,
+                 double beta) {
+  return draw(_ruadRngBeta, 1, p > 0 && q > 0 && beta > 0, true, method, stream, n, r, p, q, a, beta);
+}
+ORK_OUTER int ork_sRngBeta(int method, RuaStream* stream, int n, float* r, float p, float q, float a,
+                 float beta) {
+  return draw(_ruasRngBeta, 1, p > 0 && q > 0 && beta > 0, true, method, stream, n, r, p, q, a, beta);
+}
+ORK_OUTER int ork_dRngGaussianMV(int method, RuaStream* stream, int n, double* r, int32_t dim,
+                       int32_t mstorage, const double* a, const double* t) {
+  const bool there = a != nullptr && t != nullptr;
+  const bool valid = fits(n, dim) && dim > 0 && mstorage >= 0 && mstorage <= 2 && (!there || (all(dim, a, [](auto x) { return isfinite(x); })));
+  return draw(_ruadRngGaussianMV, 3, valid, there, method, stream, n, r, dim, mstorage, a, t);
+}
+ORK_OUTER int ork_sRngGaussianMV(int method, RuaStream* stream, int n, float* r, int32_t dim,
+                       int32_t mstorage, const float* a, const float* t) {
+  const bool there = a != nullptr && t != nullptr;
+  const bool valid = fits(n, dim) && dim > 0 && mstorage >= 0 && mstorage <= 2 && (!there || (all(dim, a, [](auto x) { return isfinite(x); })));
+  return draw(_ruasRngGaussianMV, 3, valid, there, method, stream, n, r, dim, mstorage, a, t);
+}

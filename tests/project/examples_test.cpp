@@ -35,6 +35,13 @@ const Example examples[] = {
       {"5 of 5 numbers after skipping", {}, 0},
       {"0 of 60000", {3}, 0},
       {"status", {0}, 0}}},
+    // Five standard errors of 100000 numbers.
+    {"distributions",
+     {{"mean claim", {1100, 1}, 10},
+      {"mean share", {0.4, 440}, 7},
+      {"mean of the second return", {0.02, 0.02}, 0.005},
+      {"shape 0: status", {-3}, 0},
+      {"status", {0}, 0}}},
     // Of 1 to n: mean (n + 1)/2, variance n (n + 1)/12, quantiles to 200 places.
     {"statistics_in_blocks",
      {{"observations", {20000}, 0},

@@ -164,7 +164,11 @@ def ranges(b):
 
 def header(blocks):
     out = ["/* Added to the method of Uniform: results are kept within the bounds. */",
-           "#define RUA_METHOD_ACCURATE 0x40000000", ""]
+           "#define RUA_METHOD_ACCURATE 0x40000000", "",
+           "/* How GaussianMV's t holds a lower triangular matrix. */", "enum {",
+           "  RUA_MATRIX_FULL = 0,     /* dim * dim values, row after row */",
+           "  RUA_MATRIX_PACKED = 1,   /* the triangle, column after column */",
+           "  RUA_MATRIX_DIAGONAL = 2  /* dim values, the others being 0 */", "};", ""]
     for b in blocks:
         if b.title:
             out.append(f"/* ---- {b.title} {'-' * (86 - len(b.title))} *")
@@ -261,6 +265,8 @@ def benches(blocks):
     for b in blocks:
         for label, call, bounds, standard, gsl in b.benches:
             method, *values = call.split()
+            place = [p.name for p in b.parameters].index(b.values) if b.values != "1" else -1
+            count = "n" if place < 0 else f"n / {values[place]}"
             arguments = "".join(f", Value{v}" if v.startswith("{") else f", {v}" for v in values)
             peer = gsl.split()
             result = "unsigned" if b.letters == "i" else "double"
@@ -268,7 +274,7 @@ def benches(blocks):
             gnu = f'gsl.run<{result}>({", ".join([chr(34) + "gsl_ran_" + peer[0] + chr(34)] + [number(w) for w in peer[1:]])})' if peer else "0"
             for letter, bound in zip(b.letters, bounds.split()):
                 out.append(f'BENCH({letter}, {b.element(letter)}, {b.name}, "{label}", {bound}, '
-                           f"({method}, s, n, r{arguments}), {std}, {gnu})")
+                           f"({method}, s, {count}, r{arguments}), {std}, {gnu})")
                 std = gnu = "0"
     return "\n".join(out) + "\n"
 

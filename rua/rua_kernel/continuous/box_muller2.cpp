@@ -1,12 +1,10 @@
 // Gaussian numbers from sine and cosine of the Box-Muller transformation, in this order. When
 // the count is odd, the last pair of uniform numbers waits in a chunk of the stream, and its
 // cosine is the first output of the next call.
-#include "ork/serv.h"
 #include "rua_kernel/continuous/gaussian.hpp"
 #include "rua_kernel/service/elementwise.hpp"
+#include "rua_kernel/service/kept.hpp"
 #include "rua_kernel/service/uniform.hpp"
-#include "rua_sub_kernel/service/chunks.hpp"
-#include "rua_sub_kernel/service/stream.hpp"
 
 namespace ork::rua {
 
@@ -18,18 +16,6 @@ struct Pending {
   static constexpr uint32_t kChunk = sizeof(R) == 8 ? 2 : 1;
   R u[2];
 };
-
-// The stream's pending pair, made on first use.
-template <class R>
-int32_t find_pending(RuaStream* stream, Pending<R>*& pending) {
-  using P = Pending<R>;
-  const int32_t status = find_chunk(stream, pending);
-  if (status < 0 || pending) return status;
-  pending = static_cast<P*>(ork_serv_allocate(sizeof(P), kAlignment));
-  if (!pending) return RUA_STATUS_NO_MEMORY;
-  *pending = {{-1, -1}};
-  return give_chunk(stream, P::kChunk, nullptr, pending, sizeof(P));
-}
 
 // The two outputs of one pair, by the kernels of the blocks: a number has the same bits wherever
 // a call ends.
@@ -43,15 +29,6 @@ inline Halves<R> halves(const Pending<R>& pair) {
   sin_cos(1, &sine, &cosine);
   radii(1, pair.u, &radius);
   return {radius * sine, radius * cosine};
-}
-
-ORK_INLINE void store_pairs(double* r, f64x2 first, f64x2 second) {
-  store(r, _mm_unpacklo_pd(first, second));
-  store(r + 2, _mm_unpackhi_pd(first, second));
-}
-ORK_INLINE void store_pairs(float* r, f32x4 first, f32x4 second) {
-  store(r, _mm_unpacklo_ps(first, second));
-  store(r + 4, _mm_unpackhi_ps(first, second));
 }
 
 constexpr int32_t kBlock = 512;  // pairs
@@ -90,7 +67,7 @@ template <class R>
 int32_t box_muller2(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
   if (n < 1) return RUA_STATUS_OK;
   Pending<R>* pending;
-  int32_t status = find_pending(stream, pending);
+  int32_t status = find_or_make(stream, pending, {{-1, -1}});
   if (status < 0) return status;
   // The pair stays pending until the whole call has succeeded.
   Pending<R> left = {{-1, -1}};

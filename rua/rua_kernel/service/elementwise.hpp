@@ -107,6 +107,16 @@ ORK_INLINE void split(int32_t n, const R* pairs, R* first, R* second, F f) {
   }
 }
 
+// first[0], second[0], first[1] ... to r on.
+ORK_INLINE void store_pairs(double* r, f64x2 first, f64x2 second) {
+  store(r, _mm_unpacklo_pd(first, second));
+  store(r + 2, _mm_unpackhi_pd(first, second));
+}
+ORK_INLINE void store_pairs(float* r, f32x4 first, f32x4 second) {
+  store(r, _mm_unpacklo_ps(first, second));
+  store(r + 4, _mm_unpackhi_ps(first, second));
+}
+
 // t, but the displacement where that is above t: rounding never leads below it.
 ORK_INLINE f64x2 at_least(double a, f64x2 t) { return _mm_max_pd(splat(a), t); }
 ORK_INLINE f32x4 at_least(float a, f32x4 t) { return _mm_max_ps(splat(a), t); }

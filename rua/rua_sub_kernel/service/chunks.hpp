@@ -17,6 +17,8 @@ struct ChunkReader {
 inline constexpr ChunkReader kChunkReaders[] = {
     {1, 2 * sizeof(float)},   // BoxMuller2, single: the pending pair
     {2, 2 * sizeof(double)},  // BoxMuller2, double
+    {7, 2 * sizeof(double)},  // Gamma, double: the pending candidate
+    {8, 2 * sizeof(float)},   // Gamma, single
 };
 
 // 0 for chunks of others.
