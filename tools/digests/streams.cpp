@@ -1,6 +1,6 @@
 // Generators in every form, with skips and leaps, and the distributions drawn from one of them.
 #include "digests/digests.hpp"
-#include "ork/rua_distributions.h"
+#include "registry/distributions.hpp"
 
 namespace {
 
@@ -71,20 +71,23 @@ constexpr Generator kGenerators[] = {
     {"MT2203", RUA_BRNG_MT2203 + 3001}, {"SFMT19937", RUA_BRNG_SFMT19937},
 };
 
-// d and s forms of a distribution; `more` are the parameters after r.
-template <class D, class S, class... More>
-void digest_distribution(const std::string& name, int method, D* d, S* s, More... more) {
-  if (!wanted(name)) return;
-  Digest digest;
-  for (const int32_t brng : {RUA_BRNG_MCG59, RUA_BRNG_MT19937}) {
-    Stream stream(brng);
-    for (const int n : {3, 4 * kCount, 1, kCount}) {
-      add<double>(digest, n, [&](int k, double* r) { return d(method, stream, k, r, more...); });
-      add<float>(digest, n,
-                 [&](int k, float* r) { return s(method, stream, k, r, float(more)...); });
-    }
+// A distribution's entry by each of its methods, with the parameters of its row.
+void digest_distribution(const Distribution& d) {
+  for (int method = 0; method < d.methods; ++method) {
+    const std::string name = "draws " + d.full_name() + ' ' + std::to_string(method);
+    if (!wanted(name)) continue;
+    Digest digest;
+    for (const int32_t brng : {RUA_BRNG_MCG59, RUA_BRNG_MT19937})
+      for (const int32_t flag : {0, RUA_METHOD_ACCURATE}) {
+        if (flag && d.methods > 1) continue;
+        Stream stream(brng);
+        for (const int n : {3, 4 * kCount, 1, kCount})
+          add<uint8_t>(digest, int(d.bytes(n)), [&](int, uint8_t* r) {
+            return d.kernel(method | flag, stream, n, r, d.sample);
+          });
+      }
+    print(name, digest);
   }
-  print(name, digest);
 }
 
 }  // namespace
@@ -98,19 +101,5 @@ void digest_streams() {
     digest_generator(name + " leap", g.brng,
                      [](RuaStream* s) { return __ruaLeapfrogStream(s, 2, 5); });
   }
-#define ORK_BOTH(name) _ruadRng##name, _ruasRng##name
-  digest_distribution("draws Uniform", 0, ORK_BOTH(Uniform), -2.5, 7.25);
-  digest_distribution("draws Uniform accurate", RUA_METHOD_ACCURATE, ORK_BOTH(Uniform), -2.5, 7.25);
-  digest_distribution("draws Gaussian BoxMuller", 0, ORK_BOTH(Gaussian), 1.5, 0.5);
-  digest_distribution("draws Gaussian BoxMuller2", 1, ORK_BOTH(Gaussian), 1.5, 0.5);
-  digest_distribution("draws Gaussian ICDF", 2, ORK_BOTH(Gaussian), 1.5, 0.5);
-  digest_distribution("draws Exponential", 0, ORK_BOTH(Exponential), 1.5, 0.5);
-  digest_distribution("draws Laplace", 0, ORK_BOTH(Laplace), 1.5, 0.5);
-  digest_distribution("draws Cauchy", 0, ORK_BOTH(Cauchy), 1.5, 0.5);
-  digest_distribution("draws Rayleigh", 0, ORK_BOTH(Rayleigh), 1.5, 0.5);
-  digest_distribution("draws Lognormal BoxMuller2", 0, ORK_BOTH(Lognormal), 1.5, 0.5, -1, 2);
-  digest_distribution("draws Lognormal ICDF", 1, ORK_BOTH(Lognormal), 1.5, 0.5, -1, 2);
-  digest_distribution("draws Weibull", 0, ORK_BOTH(Weibull), 1.5, 0.5, 2);
-  digest_distribution("draws Gumbel", 0, ORK_BOTH(Gumbel), 1.5, 0.5);
-#undef ORK_BOTH
+  for (const Distribution& d : distributions) digest_distribution(d);
 }
