@@ -28,13 +28,17 @@ extern "C" {
  * where the word names none). Forms:
  *
  *   (n, a, r)                  most
- *   (n, a, b, r)               Add Sub Mul Div Pow Hypot Atan2; Powx with one value b
+ *   (n, a, b, r)               Add Sub Mul MulByConj Div Pow Hypot Atan2; Powx with one value b
  *   (n, a, r, r2)              SinCos: sine, cosine; Modf: integer part, fraction
  *   (n, a, b, scale_a, shift_a, scale_b, shift_b, r)
  *                              LinearFrac: (scale_a a + shift_a) / (scale_b b + shift_b)
  *   PackI, PackM, PackV        gather from a by stride, where mask[i] is not 0, by index[i]
  *   UnpackI, UnpackM, UnpackV  scatter to y likewise. n is the number of elements moved, for
  *                              the masked forms the length of the mask
+ *
+ * Complex arrays (c, z) are pairs of float or double; std::complex<float>* and float _Complex*, or
+ * those of double, may be passed with a cast to float* or double*. n counts pairs. Abs and Arg
+ * write one number for a pair, CIS reads one.
  *
  * Arrays need no alignment. An output may be an input itself; arrays may not overlap otherwise.
  * Indices and strides are not checked.

@@ -17,7 +17,10 @@
  * Complex elements (c, z) are pairs of float or double, real part first, and n counts pairs. So
  * do std::complex in C++ and _Complex in C lie in memory: their arrays may be passed as they are,
  * with a cast of the pointer. Abs and Arg of c and z write one real number for an element, CIS
- * (cos x + i sin x) reads one.
+ * (cos x + i sin x) reads one. The complex Add, Sub, Mul, MulByConj and Div raise status 3 at LA and
+ * HA, where finite operands give an infinite part, and no other; Conj, Abs, Arg, CIS and all EP kernels
+ * raise none. Infinities and NaNs follow C99's Annex G: an infinite operand makes products infinite
+ * and, as a divisor of a finite one, quotients zero.
  *
  * Forms: (n, a, r); (n, a, b, r), with b one value in Powx; SinCos and Modf (n, a, r, r2): sine
  * and cosine, integer part and fraction; LinearFrac:

@@ -16,7 +16,10 @@ uint32_t mode_before;
 int32_t record(ork_error_record* e) {
   events.push_back({e->status, e->index, e->a1, e->a2, e->r1, e->r2,
                     std::string(e->name, size_t(e->name_length))});
-  if (replacement) e->r1 = e->r2 = *replacement;
+  if (replacement) {
+    e->r1 = e->r2 = *replacement;
+    e->r1_im = e->r2_im = *replacement + 1;  // read for complex elements only
+  }
   return 0;
 }
 

@@ -49,7 +49,8 @@ struct Event {
 };
 
 // Runs f() with a callback that records events in order and, if `replacement` is given,
-// writes it to both results; the other error actions are off.
+// writes it to both results (of complex ones to the real part, 1 more to the imaginary one); the
+// other error actions are off.
 template <class F>
 std::vector<Event> record_events(F f, const double* replacement = nullptr);
 

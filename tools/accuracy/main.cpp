@@ -17,6 +17,7 @@
 #include <mutex>
 #include <thread>
 
+#include "accuracy/complex.hpp"
 #include "accuracy/error.hpp"
 #include "accuracy/points.hpp"
 #include "accuracy/reference.hpp"
@@ -252,8 +253,19 @@ int main(int argc, char** argv) {
   const Claims claims = read_claims(options.root);
   std::map<std::string, std::string> rows;
   int failures = 0, measured = 0;
+  ComplexRun complex{options.points, false, &rows};
   for (const Slot& slot : slots) {
-    if (slot.form >= Form::pack_i || (slot.type != 'd' && slot.type != 's')) continue;
+    if (slot.form >= Form::pack_i) continue;
+    if (slot.type == 'c' || slot.type == 'z') {
+      std::vector<int> levels;
+      for (int level = 0; level < 3; ++level) {
+        bool again = false;
+        for (int lower = 0; lower < level; ++lower) again |= slot.table[lower] == slot.table[level];
+        if (!again && slot.exists(level) && options.wants(slot, level)) levels.push_back(level);
+      }
+      if (!options.exhaustive) measure_complex(claims, slot, levels, complex);
+      continue;
+    }
     if (options.exhaustive &&
         (slot.type != 's' || (slot.form != Form::unary && slot.form != Form::two)))
       continue;
@@ -296,6 +308,7 @@ int main(int argc, char** argv) {
       std::fflush(stdout);
     }
   }
+  failures += complex.failures, measured += complex.measured;
   if (!options.dry)
     update_report(options.root + "/docs/accuracy.md", rows, flush ? 2 : options.exhaustive);
   std::printf("%d kernels measured, %d failures\n", measured, failures);

@@ -33,7 +33,9 @@ bool parse(const std::string& line, Claims& claims) {
     return Range{log, number(rest[first]), number(rest[first + 1]),
                  number(rest[two ? first + 2 : first]), number(rest[two ? first + 3 : first + 1])};
   };
-  if (kind == "claim" && rest.size() == 2 && (rest[1] == "ulp" || rest[1] == "rel"))
+  if (kind == "claim" && rest.size() == 2 && rest[1] == "modulus")
+    claims.bounds[name + " modulus"] = {number(rest[0]), false};
+  else if (kind == "claim" && rest.size() == 2 && (rest[1] == "ulp" || rest[1] == "rel"))
     claims.bounds[name] = {number(rest[0]), rest[1] == "rel"};
   else if (kind == "range" && (rest.size() == 3 || rest.size() == 5) &&
            (rest[0] == "lin" || rest[0] == "log"))

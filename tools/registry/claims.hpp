@@ -3,6 +3,8 @@
 // taken from. Lines, fields separated by blanks, # begins a comment:
 //
 //   claim dExp_W7HA 0.55 ulp         full error |got - exact| / ulp(exact); or 2^-26 rel
+//                                    Of a complex result: each part; or relative to the modulus
+//   claim zMul_V8HA 1 modulus        of a complex result: |got - exact| / ulp(|exact|)
 //   range dExp lin -745 710          arguments uniform in the interval; two more numbers give
 //   range dExp log 1e-320 700        the second input's; log: uniform in the exponent, both signs
 //   near  dExp 0x40862E42FEFA39EF 0  64 neighbours on each side of these, both signs

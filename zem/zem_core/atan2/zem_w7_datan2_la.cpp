@@ -1,21 +1,4 @@
-// Atan2, double, LA: see atan2.hpp. Bound: 2.5 ulp.
-#include "atan2/atan2.hpp"
-
-namespace ork {
-namespace {
-
-struct Atan2La : Core<double, 2> {
-  static constexpr char name[] = "vdAtan2";
-  ORK_INLINE f64x2 eval(f64x2 y, f64x2 x, u32x4& rare) {
-    const Octant<double> o(y, x);
-    rare |= atan2_rare(y, x, as<u32x4>(o.zero));
-    return atan2_la(y, o);
-  }
-  static int special(const double* y, const double* x, double* r) { return atan2_special(y, x, r); }
-};
-
-}  // namespace
-}  // namespace ork
+#include "atan2/atan2_d_la.hpp"
 
 ORK_EXPORT void ork_zem_kernel_dAtan2_W7LAynn(int n, const double* a, const double* b, double* r) {
   ork::block<ork::Atan2La>(n, {{a, b}, {r}});

@@ -1,7 +1,7 @@
 #pragma once
 #include "add/add.hpp"
 #include "base/image.hpp"
-#include "frame/block.hpp"
+#include "frame/interleaved.hpp"
 #include "sub/sub.hpp"
 
 namespace ork {
@@ -24,12 +24,7 @@ ORK_SUM_NAME(Sub, double, "vzSub")
 template <class Op, class R>
 struct ComplexSum : Core<Complex<R>, 2>, SumName<Op, R> {
   static constexpr unsigned x87 = sizeof(R) == 4 ? x87_double : 0;
-  using V = Planes<vec_of<R>>;
-  ORK_INLINE V eval(const V& a, const V& b, u32x4& rare) {
-    const V r = {Op::eval(a.re, b.re), Op::eval(a.im, b.im)};
-    rare |= not_finite(r.re) | not_finite(r.im);
-    return r;
-  }
+  ORK_INLINE vec_of<R> eval(const R* a, const R* b) { return Op::eval(load(a), load(b)); }
   static int special(const Complex<R>* a, const Complex<R>* b, Complex<R>* r) {
     *r = {Op::eval(a->re, b->re), Op::eval(a->im, b->im)};
     constexpr auto infinity = infinity_bits<R>;

@@ -52,7 +52,7 @@ ORK_INLINE int vector_loop(int i, int n, const E* a, const E* b, E* r) {
 // State: the processor state to run under.
 template <class Op, class E, class State = Core<E>>
 ORK_INLINE void arith(int n, const E* a, const E* b, E* r, const E* lead) {
-  constexpr int vectors = sizeof(E) == 8 ? 4 : 8;
+  constexpr int vectors = sizeof(typename Element<E>::real) == 8 ? 4 : 8;
   constexpr int block = vectors * (16 / (int)sizeof(E));
   if (n <= 0) return;
   const Control<State> control;
