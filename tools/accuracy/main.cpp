@@ -253,7 +253,7 @@ int main(int argc, char** argv) {
   const Claims claims = read_claims(options.root);
   std::map<std::string, std::string> rows;
   int failures = 0, measured = 0;
-  ComplexRun complex{options.points, false, &rows};
+  ComplexRun complex{options.points, flush, &rows};
   for (const Slot& slot : slots) {
     if (slot.form >= Form::pack_i) continue;
     if (slot.type == 'c' || slot.type == 'z') {
