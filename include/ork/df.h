@@ -213,8 +213,13 @@ int ork_df_kernel_sQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t in
  * any number of threads. Scratch is released before the return. After an error rows may be
  * partly written.
  *
- * Errors of the coefficients, relative to the largest: below 20 units of the precision;
- * those of the quadratic spline add up from cell to cell. */
+ * Errors of the coefficients, relative to the largest: below 25 units of the precision on
+ * cells of like length; those of the quadratic spline add up from cell to cell. On cells of
+ * unlike length the local kinds and natural splines with prescribed slopes keep to that; other
+ * ends of a natural spline are as sensitive as their conditions: with cells growing from 1 to
+ * 100 up to 30 units were found for free ends, 140 under not-a-knot, and thousands with cells
+ * from 1 to 10^6. Taken as c_k h^k, beside the largest of their own piece, the errors stay
+ * below 20 and 400 units there. */
 typedef int ork_df_construct(ork_df_task* task, int64_t format, int64_t method,
                              const ork_threader* threader);
 ork_df_construct ork_df_kernel_dDFLinearSpline1D, ork_df_kernel_sDFLinearSpline1D;

@@ -63,7 +63,7 @@ enum {
   RUA_BRNG_SOBOL = 0x600000,
   RUA_BRNG_NIEDERR = 0x700000,
   RUA_BRNG_MT19937 = 0x800000,
-  RUA_BRNG_MT2203 = 0x900000, /* + member, 0 to 6023 */
+  RUA_BRNG_MT2203 = 0x900000, /* + member, 0 to 6023; seed members differently, see below */
   RUA_BRNG_IABSTRACT = 0xA00000,
   RUA_BRNG_DABSTRACT = 0xB00000,
   RUA_BRNG_SABSTRACT = 0xC00000,
@@ -71,7 +71,11 @@ enum {
   RUA_BRNG_NONDETERM = 0xE00000
 };
 
-/* Ids below 0x100000 address an older table with the same generators: 0 MCG31M1, 1 R250,
+/* Members of MT2203 seeded alike start from the same state words: their recurrences draw apart
+ * only by and by, and for some 450 numbers the streams are visibly related. Give each member a
+ * seed of its own (the member's number will do), or skip that many.
+ *
+ * Ids below 0x100000 address an older table with the same generators: 0 MCG31M1, 1 R250,
  * 2 MRG32K3A, 3 MCG59, 4 to 276 the members of WH, 277 Sobol, 278 Niederreiter. A stream
  * keeps the id it was made with. */
 

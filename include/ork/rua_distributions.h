@@ -11,7 +11,7 @@
  * Which uniform number feeds which output is fixed for each function: the same stream state
  * gives the same numbers. The d functions work in double with vector kernels of level EP, the
  * s functions in single precision with level LA. Uniform numbers at the ends of their range
- * give large finite numbers (for Cauchy, the tangent of the ends). The thread's error mode
+ * give finite numbers (for Cauchy, the tangent of the ends). The thread's error mode
  * and error callback are as they were when a function returns; its denormal handling becomes
  * KEEP, which is what no handling means, if it had none.
  */
@@ -56,7 +56,10 @@ enum {
  * stays with the stream, in chunk 2 (d) or 1 (s), and is the first output of the next call, so
  * that calls in pieces give the numbers of one long call, to the bit; a copied or saved stream
  * keeps it, and a failed call leaves it. NO_MEMORY: that chunk could not be made;
- * BAD_GENERATOR: it is shorter than a pair, and nothing is drawn. Range: sigma > 0. */
+ * BAD_GENERATOR: it is shorter than a pair, and nothing is drawn. By ICDF a uniform number that
+ * is an end of its range, where erfinv is infinite, counts as erfinv = 5.8635847487551676 (s
+ * 3.832507) at 1 and as -0.7670519064056041 (s -1.0837466) at -1, which is no large number.
+ * Ends come about once in 2^32 numbers (s 2^26). Range: sigma > 0. */
 int32_t _ruadRngGaussian(int32_t method, RuaStream* stream, int32_t n, double* r, double a,
                          double sigma);
 int32_t _ruasRngGaussian(int32_t method, RuaStream* stream, int32_t n, float* r, float a,

@@ -377,6 +377,27 @@ TYPED_TEST(StatisticsQuantiles, StreamsStayWithinEpsilonRanks) {
     }
 }
 
+// Where epochs begin the ranks are worst.
+TYPED_TEST(StatisticsQuantiles, StreamsKeepTheirBoundAtEveryLength) {
+  typedef TypeParam R;
+  std::vector<R> orders;
+  for (int k = 0; k <= 60; ++k) orders.push_back(R(k) / 60);
+  for (const double epsilon : {0.3, 0.1, 0.099, 0.02, 0.0199}) {
+    const int longest = int(12 / epsilon);
+    std::vector<R> x(longest);
+    std::iota(x.begin(), x.end(), R(0));
+    for (int n = 1; n <= longest; n += 1 + n / 40) {
+      Stream<R> t(1, ORK_SS_ROWS, x.data(), epsilon, orders);
+      ASSERT_EQ(t.feed(x.data(), n, ORK_SS_STREAM), 0);
+      const std::vector<R> sorted(x.begin(), x.begin() + n);
+      for (size_t k = 0; k < orders.size(); ++k)
+        ASSERT_LE(rank_error(sorted, t[ORK_SS_EDIT_STREAM_QUANTILES][k], orders[k]),
+                  3 * epsilon * n + 1)
+            << epsilon << " " << n << " " << orders[k];
+    }
+  }
+}
+
 TYPED_TEST(StatisticsQuantiles, StreamsOfManyVariables) {
   typedef TypeParam R;
   const Sample<R> s(4, 5000, 2);
