@@ -7,7 +7,7 @@ namespace {
 
 using namespace ork::extended;
 
-// |x| >= 2^10: the power in two factors. A denormal result is rounded where its last place is: the
+// |x| >= 2^11: the power in two factors. A denormal result is rounded where its last place is: the
 // head, cut there, and the rest meet in one sum.
 long double exp_wide(long double x) {
   if (x > 0xB.17217F7D1CF79ABp10L) return overflow();    // 11356.5234062941439
@@ -29,7 +29,7 @@ long double exp_wide(long double x) {
 
 ORK_EXPORT long double ork_zem_kernel_expl_scalar(long double x) {
   const int e = exponent(x);
-  if (e < 16393) return exp_moderate(x);
+  if (e < 16394) return exp_moderate(x);
   if (e < special_exponent) return exp_wide(x);
   if (is_nan(x)) return quieted(x);
   return negative(x) ? 0 : x;

@@ -24,7 +24,7 @@ ORK_INLINE Power exp_step(long double x) {
   return {row[0], row[1] + (row[0] + (long double)row[1]) * p, (count - j) >> 8};
 }
 
-// exp(x) for |x| < 2^10, tiers by exponent; the argument isn't a NaN or infinity.
+// exp(x) for |x| < 2^11, tiers by exponent; the argument isn't a NaN or infinity.
 ORK_INLINE long double exp_moderate(long double x) {
   const int e = exponent(x);
   if (__builtin_expect(e >= 16378, 1)) {
@@ -64,7 +64,7 @@ ORK_INLINE Hyperbolic hyperbolic_step(long double x) {
 
 // exp(|x|) / 2 for |x| >= 26.15, where the other exponential counts for less than 2^-75.
 ORK_INLINE long double half_exp(long double a) {
-  if (__builtin_expect(a < 1024, 1)) {
+  if (__builtin_expect(a < 2048, 1)) {
     const Power p = exp_step(a);
     return scale_near(p.hi + p.lo, p.m - 1);
   }

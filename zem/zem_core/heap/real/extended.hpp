@@ -64,14 +64,15 @@ ORK_INLINE long double tiny(long double x) {
 
 // 2^n as a float, |n| <= 126: four bytes are stored and loaded again without a stall.
 ORK_INLINE float power_of_two(int n) { return as<float>((uint32_t)(127 + n) << 23); }
-// x 2^n for |n| <= 2000, in factors that are floats; they don't wait for x.
+// x 2^n for |n| <= 4000, in factors that are floats; they don't wait for x.
 ORK_INLINE long double scale_near(long double x, int n) {
-  long double wide = power_of_two(n >> 4);
+  long double wide = power_of_two(n >> 5);
   wide *= wide;
   wide *= wide;
   wide *= wide;
   wide *= wide;
-  return x * (wide * power_of_two(n & 15));
+  wide *= wide;
+  return x * (wide * power_of_two(n & 31));
 }
 
 // 2^n, -16382 <= n <= 16383.
