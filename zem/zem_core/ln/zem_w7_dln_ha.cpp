@@ -1,27 +1,4 @@
-#include "ln/log_d_ha.hpp"
-
-namespace ork {
-namespace {
-
-// Base e. Constants: given; p(r) for ln(1 + r) - r, degree 5, |r| <= 2^-9.9.
-struct Natural {
-  static constexpr char name[] = "vdLn";
-  static constexpr double c0 = 1.0, l1 = 0.69314718055989033, l2 = 5.4979230187083712e-14;
-  static constexpr double log_2_52 = 36.043653389117154;
-  // k rises by one where the rows pass to 2 m, at m of about 1.5.
-  static constexpr uint32_t k_from = 0x3FE7FC00;
-  alignas(16) static constexpr double rows[513][4] = {
-#include "ln/rows_d_ha.inc"
-  };
-  static f64x2 p(f64x2 r) {
-    return r * r *
-           horner(r, -0.49999999999995254, 0.33333333333327408, -0.25000019886943392,
-                  0.20000019344205111);
-  }
-};
-
-}  // namespace
-}  // namespace ork
+#include "ln/natural_d.hpp"
 
 ORK_EXPORT void ork_zem_kernel_dLn_W7HAynn(int n, const double* a, double* r) {
   ork::block<ork::LogHaD<ork::Natural>>(n, {{a}, {r}});

@@ -6,9 +6,9 @@ using namespace ork::complex_scalar;
 namespace {
 
 // The angle of cacos and cacosh, from 0 to pi.
-ORK_INLINE long double whole_angle(const Quadrant& q, const Part& a) {
+ORK_INLINE long double whole_angle(const Quadrant& q, const Usual& a) {
   const long double angle = q.cosine_angle();
-  return a.negative ? ork::extended::pi.hi - angle : angle;
+  return a.negative() ? ork::extended::pi.hi - angle : angle;
 }
 
 long double inexact_arc(double x) {
@@ -53,18 +53,29 @@ Parts acosh_special(const Part& a, const Part& b) {
   return {a.squared(), a.negative ? arc(b, pi_double) : b.sign(0)};
 }
 
+struct Acos {
+  static constexpr int limit = no_limit;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const Quadrant q(size(a.value), size(b.value));
+    const long double log = q.log_part();
+    return {whole_angle(q, a), b.negative() ? log : -log};
+  }
+  static Parts special(const Part& a, const Part& b) { return acos_special(a, b); }
+};
+struct Acosh {
+  static constexpr int limit = no_limit;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const Quadrant q(size(a.value), size(b.value));
+    return {q.log_part(), b.sign(whole_angle(q, a))};
+  }
+  static Parts special(const Part& a, const Part& b) { return acosh_special(a, b); }
+};
+
 }  // namespace
 
 ORK_EXPORT double* ork_zem_kernel_cacos_scalar(double* r, double x, double y) {
-  const Part a(x), b(y);
-  if (!(a.ordinary() && b.ordinary())) return store_flagged(r, acos_special(a, b));
-  const Quadrant q(size(a.value), size(b.value));
-  const long double log = q.log_part();
-  return store_flagged(r, {whole_angle(q, a), b.negative ? log : -log});
+  return store_flagged(r, apply<Acos>(x, y));
 }
 ORK_EXPORT double* ork_zem_kernel_cacosh_scalar(double* r, double x, double y) {
-  const Part a(x), b(y);
-  if (!(a.ordinary() && b.ordinary())) return store_flagged(r, acosh_special(a, b));
-  const Quadrant q(size(a.value), size(b.value));
-  return store_flagged(r, {q.log_part(), b.sign(whole_angle(q, a))});
+  return store_flagged(r, apply<Acosh>(x, y));
 }

@@ -20,18 +20,20 @@ Parts asinh_special(const Part& a, const Part& b) {
   return {a.value, arc(b, b.infinite() ? quarter_pi_double : 0)};
 }
 
+struct Asinh {
+  static constexpr int limit = no_limit;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const Quadrant q(size(b.value), size(a.value));
+    return {a.sign(q.log_part()), b.sign(q.sine_angle())};
+  }
+  static Parts special(const Part& a, const Part& b) { return asinh_special(a, b); }
+};
+
 }  // namespace
 
 ORK_EXPORT double* ork_zem_kernel_casinh_scalar(double* r, double x, double y) {
-  const Part a(x), b(y);
-  if (!(a.ordinary() && b.ordinary())) return store_flagged(r, asinh_special(a, b));
-  const Quadrant q(size(b.value), size(a.value));
-  return store_flagged(r, {a.sign(q.log_part()), b.sign(q.sine_angle())});
+  return store_flagged(r, apply<Asinh>(x, y));
 }
 ORK_EXPORT double* ork_zem_kernel_casin_scalar(double* r, double x, double y) {
-  double g[2];
-  ork_zem_kernel_casinh_scalar(g, opposite(y), x);
-  r[0] = g[1];
-  r[1] = opposite(g[0]);
-  return r;
+  return store_flagged(r, turned_back(apply<Asinh, true>(x, y)));
 }

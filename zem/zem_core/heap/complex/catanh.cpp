@@ -12,13 +12,14 @@ long double real_part(long double x, long double y) {
   if (0.03L * q >= size(p - q))
     return 0.5L * ork_zem_kernel_atanhl_scalar(2 * x / (x * x + 1 + y2));
   // Below ln 2 by P - Q = 4x, which is exact.
-  if (p < q && q <= 2 * p) return -0.25L * ork_zem_kernel_log1pl_scalar(-4 * x / p);
-  if (p >= q && p <= 2 * q) return 0.25L * ork_zem_kernel_log1pl_scalar(4 * x / q);
+  if (p < q && q <= 2 * p) return -0.25L * log1p_finite(-4 * x / p);
+  if (p >= q && p <= 2 * q) return 0.25L * log1p_finite(4 * x / q);
   return 0.25L * ork_zem_kernel_logl_scalar(p / q);
 }
 long double imaginary_part(long double x, long double y) {
   const long double t = 1 - x * x - y * y;
-  if (size(t) >= 0.03L) return 0.5L * ork_zem_kernel_atan2l_scalar(2 * y, t);
+  if (__builtin_expect(size(t) >= 0.03L, 1))
+    return 0.5L * with_sign(angle_scaled(size(2 * y), t), ork::extended::negative(y));
   return 0.5L * (ork_zem_kernel_atan2l_scalar(y, 1 + x) - ork_zem_kernel_atan2l_scalar(-y, 1 - x));
 }
 
@@ -40,17 +41,19 @@ Parts atanh_special(const Part& a, const Part& b) {
   return {real_part(a.value, 0), half_turn(b)};
 }
 
+struct Atanh {
+  static constexpr int limit = no_limit;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    return {real_part(a.value, b.value), imaginary_part(a.value, b.value)};
+  }
+  static Parts special(const Part& a, const Part& b) { return atanh_special(a, b); }
+};
+
 }  // namespace
 
 ORK_EXPORT double* ork_zem_kernel_catanh_scalar(double* r, double x, double y) {
-  const Part a(x), b(y);
-  if (!(a.ordinary() && b.ordinary())) return store_flagged(r, atanh_special(a, b));
-  return store_flagged(r, {real_part(a.value, b.value), imaginary_part(a.value, b.value)});
+  return store_flagged(r, apply<Atanh>(x, y));
 }
 ORK_EXPORT double* ork_zem_kernel_catan_scalar(double* r, double x, double y) {
-  double g[2];
-  ork_zem_kernel_catanh_scalar(g, opposite(y), x);
-  r[0] = g[1];
-  r[1] = opposite(g[0]);
-  return r;
+  return store_flagged(r, turned_back(apply<Atanh, true>(x, y)));
 }

@@ -5,8 +5,7 @@
 
 namespace ork::complex_scalar {
 
-Parts exp_special(const double& x, const double& y) {
-  const Part a(x), b(y);
+Parts Exp::special(const Part& a, const Part& b) {
   const auto power = [&] { return ork_zem_kernel_expl_scalar(a.value); };
   const auto sine = [&] { return ork_zem_kernel_sinl_scalar(b.value); };
   const auto cosine = [&] { return ork_zem_kernel_cosl_scalar(b.value); };
@@ -29,5 +28,5 @@ Parts exp_special(const double& x, const double& y) {
 
 ORK_EXPORT double* ork_zem_kernel_cexp_scalar(double* r, double x, double y) {
   using namespace ork::complex_scalar;
-  return store_flagged(r, exp_parts(x, y));
+  return store_flagged(r, apply<Exp>(x, y));
 }

@@ -6,16 +6,14 @@
 
 namespace ork::complex_scalar {
 
-// Arguments that are special, or so large that the power is beyond the extended format's use.
-Parts exp_special(const double& x, const double& y);
-
-ORK_INLINE Parts exp_parts(const double& x, const double& y) {
-  const Part a(x), b(y);
-  if (__builtin_expect(!(a.ordinary() && b.ordinary() && a.exponent() < 1034), 0))
-    return exp_special(x, y);
-  const long double power = exp_moderate(a.value);
-  const SinCos turn = sin_cos(b.value);
-  return {power * turn.cos, power * turn.sin};
-}
+struct Exp {
+  static constexpr int limit = 1034;  // from 2048 on the power is beyond the extended format
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const long double power = exp_moderate(a.value);
+    const SinCos turn = sin_cos(b.value);
+    return {power * turn.cos, power * turn.sin};
+  }
+  static Parts special(const Part& a, const Part& b);
+};
 
 }  // namespace ork::complex_scalar

@@ -4,7 +4,7 @@
 
 namespace ork::complex_scalar {
 
-Parts cosh_special(const Part& a, const Part& b) {
+Parts Cosh::special(const Part& a, const Part& b) {
   const Real x{a}, y{b};
   const auto sine = [&] { return b.denormal() ? b.value : y.sin(); };
   if (a.ordinary() && b.ordinary()) {
@@ -27,7 +27,7 @@ Parts cosh_special(const Part& a, const Part& b) {
   return {real, a.negative == b.negative ? 0.0L : -0.0L};
 }
 
-Parts sinh_special(const Part& a, const Part& b) {
+Parts Sinh::special(const Part& a, const Part& b) {
   const Real x{a}, y{b};
   const auto sine = [&] { return b.denormal() ? b.value : y.sin(); };
   if (a.ordinary() && b.ordinary()) {
@@ -48,10 +48,12 @@ Parts sinh_special(const Part& a, const Part& b) {
   return {x.sinh(), y.sin()};
 }
 
-Parts tanh_special(const Part& a, const Part& b) {
+Parts Tanh::special(const Part& a, const Part& b) {
   const Real y{b};
   // The sign of sin 2y for |y| >= 1.
   const auto turned = [&] { return with_sign(0, extended::negative(y.sin() * y.cos())); };
+  if (a.ordinary() && b.zero() && a.exponent() < limit)
+    return {Real{a}.sinh() / Real{a}.cosh(), b.value};
   if (a.ordinary() && b.finite()) {
     raise_underflow();
     const long double one = 1 - opaque(0x1p-1022L);
@@ -74,34 +76,34 @@ Parts tanh_special(const Part& a, const Part& b) {
 
 using namespace ork::complex_scalar;
 
-// Its imaginary part alone is looked at for underflow.
-ORK_EXPORT double* ork_zem_kernel_ccosh_scalar(double* r, double x, double y) {
-  store(r, cosh_parts(x, y));
-  if (is_denormal(r[1])) raise_underflow();
+namespace {
+
+// The imaginary part alone is looked at for underflow.
+ORK_INLINE double* store_cosh(double* r, Parts z) {
+  store(r, z);
+  if (__builtin_expect(is_denormal(r[1]), 0)) raise_underflow();
   return r;
 }
+
+}  // namespace
+
+ORK_EXPORT double* ork_zem_kernel_ccosh_scalar(double* r, double x, double y) {
+  return store_cosh(r, apply<Cosh>(x, y));
+}
 ORK_EXPORT double* ork_zem_kernel_csinh_scalar(double* r, double x, double y) {
-  return store_flagged(r, sinh_parts(x, y));
+  return store_flagged(r, apply<Sinh>(x, y));
 }
 ORK_EXPORT double* ork_zem_kernel_ctanh_scalar(double* r, double x, double y) {
-  return store_flagged(r, tanh_parts(x, y));
+  return store_flagged(r, apply<Tanh>(x, y));
 }
 
 // f(z) = -i g(iz).
 ORK_EXPORT double* ork_zem_kernel_ccos_scalar(double* r, double x, double y) {
-  return ork_zem_kernel_ccosh_scalar(r, opposite(y), x);
+  return store_cosh(r, apply<Cosh, true>(x, y));
 }
 ORK_EXPORT double* ork_zem_kernel_csin_scalar(double* r, double x, double y) {
-  double g[2];
-  ork_zem_kernel_csinh_scalar(g, opposite(y), x);
-  r[0] = g[1];
-  r[1] = opposite(g[0]);
-  return r;
+  return store_flagged(r, turned_back(apply<Sinh, true>(x, y)));
 }
 ORK_EXPORT double* ork_zem_kernel_ctan_scalar(double* r, double x, double y) {
-  double g[2];
-  ork_zem_kernel_ctanh_scalar(g, opposite(y), x);
-  r[0] = g[1];
-  r[1] = opposite(g[0]);
-  return r;
+  return store_flagged(r, turned_back(apply<Tanh, true>(x, y)));
 }

@@ -17,34 +17,33 @@ struct Real {
   long double cosh() const { return ork_zem_kernel_coshl_scalar(p.value); }
 };
 
-Parts cosh_special(const Part& a, const Part& b);
-Parts sinh_special(const Part& a, const Part& b);
-Parts tanh_special(const Part& a, const Part& b);
-
-ORK_INLINE Parts cosh_parts(const double& x, const double& y) {
-  const Part a(x), b(y);
-  if (__builtin_expect(!(a.ordinary() && b.ordinary() && a.exponent() < 1034), 0))
-    return cosh_special(a, b);
-  const SinhCosh h = sinh_cosh(a.value);
-  const SinCos c = sin_cos(b.value);
-  return {h.cosh * c.cos, h.sinh * c.sin};
-}
-ORK_INLINE Parts sinh_parts(const double& x, const double& y) {
-  const Part a(x), b(y);
-  if (__builtin_expect(!(a.ordinary() && b.ordinary() && a.exponent() < 1034), 0))
-    return sinh_special(a, b);
-  const SinhCosh h = sinh_cosh(a.value);
-  const SinCos c = sin_cos(b.value);
-  return {h.sinh * c.cos, h.cosh * c.sin};
-}
-ORK_INLINE Parts tanh_parts(const double& x, const double& y) {
-  const Part a(x), b(y);
-  if (__builtin_expect(!(a.ordinary() && b.finite() && a.exponent() < 1032), 0))
-    return tanh_special(a, b);
-  const SinhCosh h = sinh_cosh(a.value);
-  const SinCos c = sin_cos(b.value);
-  const long double d = 1 / (h.sinh * h.sinh + c.cos * c.cos);
-  return {h.sinh * h.cosh * d, c.sin * c.cos * d};
-}
+struct Cosh {
+  static constexpr int limit = 1034;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const SinhCosh h = sinh_cosh(a.value);
+    const SinCos c = sin_cos(b.value);
+    return {h.cosh * c.cos, h.sinh * c.sin};
+  }
+  static Parts special(const Part& a, const Part& b);
+};
+struct Sinh {
+  static constexpr int limit = 1034;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const SinhCosh h = sinh_cosh(a.value);
+    const SinCos c = sin_cos(b.value);
+    return {h.sinh * c.cos, h.cosh * c.sin};
+  }
+  static Parts special(const Part& a, const Part& b);
+};
+struct Tanh {
+  static constexpr int limit = 1032;  // 512
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const SinhCosh h = sinh_cosh(a.value);
+    const SinCos c = sin_cos(b.value);
+    const long double d = 1 / (h.sinh * h.sinh + c.cos * c.cos);
+    return {h.sinh * h.cosh * d, c.sin * c.cos * d};
+  }
+  static Parts special(const Part& a, const Part& b);
+};
 
 }  // namespace ork::complex_scalar

@@ -4,8 +4,7 @@
 
 namespace ork::complex_scalar {
 
-Parts log_special(const double& x, const double& y) {
-  const Part a(x), b(y);
+Parts Log::special(const Part& a, const Part& b) {
   const auto angle = [&] { return ork_zem_kernel_atan2l_scalar(b.value, a.value); };
   if (a.finite() && b.finite()) {
     if (a.zero() && b.zero()) return {-pole(), angle()};
@@ -21,7 +20,7 @@ Parts log_special(const double& x, const double& y) {
 using namespace ork::complex_scalar;
 
 ORK_EXPORT double* ork_zem_kernel_clog_scalar(double* r, double x, double y) {
-  return store(r, log_parts(x, y));
+  return store(r, apply<Log>(x, y));
 }
 
 namespace {
@@ -43,11 +42,19 @@ Parts log10_special(const Part& a, const Part& b) {
   return {-pole(), a.negative ? b.sign(2 * quarter) : b.value};
 }
 
+// The finite case is that of the natural logarithm but for two zeros.
+struct Log10 {
+  static constexpr int limit = no_limit;
+  ORK_INLINE Parts scaled(Parts z) { return {z.re * inverse_ln10, z.im * inverse_ln10}; }
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) { return scaled(Log::general(a, b)); }
+  static Parts special(const Part& a, const Part& b) {
+    if (!a.finite() || !b.finite() || (a.zero() && b.zero())) return log10_special(a, b);
+    return scaled(Log::special(a, b));
+  }
+};
+
 }  // namespace
 
 ORK_EXPORT double* ork_zem_kernel_clog10_scalar(double* r, double x, double y) {
-  const Part a(x), b(y);
-  if (!a.finite() || !b.finite() || (a.zero() && b.zero())) return store(r, log10_special(a, b));
-  const Parts z = log_parts(x, y);
-  return store(r, {z.re * inverse_ln10, z.im * inverse_ln10});
+  return store(r, apply<Log10>(x, y));
 }

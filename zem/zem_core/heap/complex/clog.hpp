@@ -24,17 +24,12 @@ ORK_INLINE long double log_modulus(long double x, long double y) {
   if (size(gap) < 0.03L) return 0.5L * ork_zem_kernel_log1pl_scalar(gap + rest);
   return 0.5L * (log_normal(s) + rest / s);
 }
-// The angle of (x, y), finite and neither zero: quick where the exponents are not far apart.
-ORK_INLINE long double angle_of(const Part& x, const Part& y) {
-  return y.sign(angle_scaled(size(y.value), x.value));
-}
-
-Parts log_special(const double& x, const double& y);
-
-ORK_INLINE Parts log_parts(const double& x, const double& y) {
-  const Part a(x), b(y);
-  if (__builtin_expect(!(a.ordinary() && b.ordinary()), 0)) return log_special(x, y);
-  return {log_modulus(a.value, b.value), angle_of(a, b)};
-}
+struct Log {
+  static constexpr int limit = no_limit;
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    return {log_modulus(a.value, b.value), b.sign(angle_scaled(size(b.value), a.value))};
+  }
+  static Parts special(const Part& a, const Part& b);
+};
 
 }  // namespace ork::complex_scalar

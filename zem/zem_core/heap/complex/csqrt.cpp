@@ -5,14 +5,18 @@ using namespace ork::complex_scalar;
 
 namespace {
 
-// Both finite, y not zero. The larger of the parts by a root of a sum, the other by division.
-Parts sqrt_general(const Part& a, const Part& b) {
-  const long double x = a.value, y = b.value, modulus = square_root(x * x + y * y);
-  const long double t = square_root((modulus + size(x)) * 0.5L), other = size(0.5L * y / t);
-  return a.negative ? Parts{other, b.sign(t)} : Parts{t, b.sign(other)};
-}
+struct Sqrt {
+  static constexpr int limit = no_limit;
+  // The larger of the parts by a root of a sum, the other by division.
+  ORK_INLINE Parts general(const Usual& a, const Usual& b) {
+    const long double x = a.value, y = b.value, modulus = square_root(x * x + y * y);
+    const long double t = square_root((modulus + size(x)) * 0.5L), other = size(0.5L * y / t);
+    return a.negative() ? Parts{other, b.sign(t)} : Parts{t, b.sign(other)};
+  }
+  static Parts special(const Part& a, const Part& b);
+};
 
-Parts sqrt_special(const Part& a, const Part& b) {
+Parts Sqrt::special(const Part& a, const Part& b) {
   const long double infinity = __builtin_infl();
   if (b.infinite()) return {infinity, b.value};
   if (a.nan() || b.nan()) {
@@ -31,6 +35,5 @@ Parts sqrt_special(const Part& a, const Part& b) {
 }  // namespace
 
 ORK_EXPORT double* ork_zem_kernel_csqrt_scalar(double* r, double x, double y) {
-  const Part a(x), b(y);
-  return store_flagged(r, a.ordinary() && b.ordinary() ? sqrt_general(a, b) : sqrt_special(a, b));
+  return store_flagged(r, apply<Sqrt>(x, y));
 }
