@@ -22,6 +22,14 @@ struct Example {
 };
 
 const Example examples[] = {
+    {"conformal",
+     {{"exp: crossings at", {90, 90}, 1e-3},
+      {"ln: crossings at", {90, 90}, 1e-3},
+      {"sqrt: crossings at", {90, 90}, 1e-3},
+      {"sin: crossings at", {90, 90}, 1e-3},
+      {"tanh: crossings at", {90, 90}, 1e-3},
+      {"acos: crossings at", {90, 90}, 1e-3},
+      {"status", {0}, 0}}},
     {"elementwise",
      {{"status", {1}, 0},
       {"  vdLn: element 2", {0, 2, -700, -INFINITY}, 0},
