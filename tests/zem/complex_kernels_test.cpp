@@ -22,9 +22,13 @@ const Function functions[] = {
     {F(Sinh, sinh), true},    {F(Sqrt, sqrt), false},   {F(Tan, tan), false},
     {F(Tanh, tanh), false},   {"Pow", nullptr, true},   {"Powx", nullptr, true}};
 
+// The same bits; a NaN for a NaN; an ordinary number of a vector kernel within 4 ulp.
 template <class T>
-bool same(T got, T wanted) {
-  return std::isnan(wanted) ? std::isnan(got) : bits(got) == bits(wanted);
+bool same(T got, T wanted, bool vector) {
+  if (std::isnan(wanted)) return std::isnan(got);
+  if (vector && std::isfinite(wanted) && wanted != 0)
+    return std::fabs(got - wanted) <= 4 * std::numeric_limits<T>::epsilon() * std::fabs(wanted);
+  return bits(got) == bits(wanted);
 }
 template <class T>
 bool ordinary(T x) {
@@ -38,7 +42,7 @@ void check(const Slot& slot, const Function& f, int level) {
       1,      -1,      largest<T>,           -largest<T>,
       inf<T>, -inf<T>, quiet_nan<T>,         std::numeric_limits<T>::signaling_NaN(),
       100};
-  const bool two = f.scalar == nullptr;
+  const bool two = f.scalar == nullptr, vector = slot.kernels[level][0] != 'P';
   std::vector<T> a, b;
   for (const T x : values)
     for (const T y : values) {
@@ -64,8 +68,9 @@ void check(const Slot& slot, const Function& f, int level) {
         ordinary(x[0]) && ordinary(x[1]) && (!two || (ordinary(p[0]) && ordinary(p[1])));
     const bool special = !clean || std::fabs(x[0]) == largest<T> || std::fabs(x[1]) == largest<T>;
     if (special) {
-      EXPECT_TRUE(same(got[0], T(z[0]))) << where << " real " << got[0] << " not " << z[0];
-      EXPECT_TRUE(same(got[1], T(z[1]))) << where << " imaginary " << got[1] << " not " << z[1];
+      EXPECT_TRUE(same(got[0], T(z[0]), vector)) << where << " real " << got[0] << " not " << z[0];
+      EXPECT_TRUE(same(got[1], T(z[1]), vector))
+          << where << " imaginary " << got[1] << " not " << z[1];
     }
     if (f.reports && clean && (std::isinf(got[0]) || std::isinf(got[1]))) {
       ASSERT_LT(next, events.size()) << where;

@@ -1,8 +1,8 @@
 #pragma once
-// Exp of single-precision complex vectors, in double: e^x of exp_d.hpp's LA, sine and cosine by
-// table (table_kernel.hpp), each product rounded once. Fast range: |x| < 87.3365, |y| < 90112.
+// Exp of single-precision complex vectors, in double: e^x of exp_d.hpp's LA, sine and cosine of
+// hyperbolic_single.hpp, each product rounded once. Fast range: |x| < 87.3365, |y| < 90112.
+#include "ccosh/hyperbolic_single.hpp"
 #include "cexp/cexp.hpp"
-#include "trig/single.hpp"
 
 namespace ork {
 
@@ -11,14 +11,10 @@ struct ExpC : ComplexExp<float> {
   static constexpr int vectors = 1;
 
   ORK_INLINE Planes<f64x2> half(f64x2 x, f64x2 y) {
-    using namespace trig;
     u32x4 none{};
-    const f64x2 e = ExpD<ExpLa>::eval(x, none), ay = ork::abs(y);
-    const Reduced reduced = reduce_pi64(ay);
-    const Polynomials p = taylor(reduced.z);
-    const f64x2 c = table_sine_la(gather(rows_pi64 + quarter_turn, reduced.rows), reduced.z, p);
-    const f64x2 s = table_sine_la(gather(rows_pi64, reduced.rows), reduced.z, p);
-    return {e * c, e * flip(s, sign_of(y))};
+    const f64x2 e = ExpD<ExpLa>::eval(x, none);
+    const Two angle = circular(y);
+    return {e * angle.c, e * angle.s};
   }
   ORK_INLINE Planes<f32x4> eval(const Planes<f32x4>& z, u32x4& rare) {
     using namespace trig;

@@ -8,7 +8,7 @@ namespace {
 // The angle of cacos and cacosh, from 0 to pi.
 ORK_INLINE long double whole_angle(const Quadrant& q, const Usual& a) {
   const long double angle = q.cosine_angle();
-  return a.negative() ? ork::extended::pi.hi - angle : angle;
+  return a.negative() ? ork::extended::pi.high - angle : angle;
 }
 
 long double inexact_arc(double x) {

@@ -5,18 +5,13 @@ using namespace ork::complex_scalar;
 
 namespace {
 
-// Real part of the general case: a quarter of ln(P/Q) where that isn't near 0.
-long double real_part(long double x, long double y) {
-  const long double more = 1 + x, less = x - 1, y2 = y * y;
-  const long double p = more * more + y2, q = less * less + y2;
-  if (0.03L * q >= size(p - q))
-    return 0.5L * ork_zem_kernel_atanhl_scalar(2 * x / (x * x + 1 + y2));
-  // Below ln 2 by P - Q = 4x, which is exact.
-  if (p < q && q <= 2 * p) return -0.25L * log1p_finite(-4 * x / p);
-  if (p >= q && p <= 2 * q) return 0.25L * log1p_finite(4 * x / q);
-  return 0.25L * ork_zem_kernel_logl_scalar(p / q);
+// A quarter of ln(P/Q), the squared distances from -1 and 1, P - Q = 4x: of |x|, as log1p(4|x|/Q),
+// which is right near 0, too.
+ORK_INLINE long double real_part(long double x, long double y) {
+  const long double a = size(x), gap = a - 1, q = gap * gap + y * y;
+  return with_sign(0.25L * log1p_finite(4 * a / q), ork::extended::negative(x));
 }
-long double imaginary_part(long double x, long double y) {
+ORK_INLINE long double imaginary_part(long double x, long double y) {
   const long double t = 1 - x * x - y * y;
   if (__builtin_expect(size(t) >= 0.03L, 1))
     return 0.5L * with_sign(angle_scaled(size(2 * y), t), ork::extended::negative(y));

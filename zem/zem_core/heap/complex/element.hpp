@@ -19,6 +19,11 @@ ORK_INLINE float narrowed(const double& x) {
   asm("fldl %1\n\tfstps %0" : "=m"(y) : "m"(x));
   return y;
 }
+// An argument that is stored whole: pushed in halves, its load would stall.
+ORK_INLINE double in_register(double x) {
+  asm("" : "+x"(x));
+  return x;
+}
 // A scalar's result as an element; a denormal part of a float raises underflow.
 ORK_INLINE Complex<double> element_of(const double* z, double*) { return {z[0], z[1]}; }
 ORK_INLINE Complex<float> element_of(const double* z, float*) {
@@ -47,7 +52,7 @@ struct OfScalar : Core<Complex<R>> {
   static constexpr unsigned x87 = x87_extended;
   static int special(const Complex<R>* z, Complex<R>* r) {
     double y[2];
-    scalar(y, widened(z->re), widened(z->im));
+    scalar(y, in_register(widened(z->re)), in_register(widened(z->im)));
     *r = element_of(y, (R*)nullptr);
     return reports && __builtin_expect(has_infinity(*r), 0) && is_ordinary(*z) ? ZEM_STATUS_OVERFLOW
                                                                                : ZEM_STATUS_NONE;
@@ -57,7 +62,8 @@ struct OfScalar : Core<Complex<R>> {
 template <class R>
 ORK_INLINE int power_element(const Complex<R>& a, const Complex<R>& b, Complex<R>* r) {
   double y[2];
-  ork_zem_kernel_cpow_scalar(y, widened(a.re), widened(a.im), widened(b.re), widened(b.im));
+  ork_zem_kernel_cpow_scalar(y, in_register(widened(a.re)), in_register(widened(a.im)),
+                             in_register(widened(b.re)), in_register(widened(b.im)));
   *r = element_of(y, (R*)nullptr);
   return __builtin_expect(has_infinity(*r), 0) && is_ordinary(a) && is_ordinary(b)
              ? ZEM_STATUS_OVERFLOW

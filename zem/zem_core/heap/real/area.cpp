@@ -11,12 +11,12 @@ using namespace ork::extended;
 long double log_of_sum(long double z, int sign) {
   if (exponent(z) >= 16421) {
     const Pair y = log_step(z, 1);
-    return y.hi + y.lo;
+    return y.high + y.low;
   }
-  const Pair z2 = square(z), w = two_sum(z2.hi, sign);
-  const Pair s = root({w.hi, w.lo + z2.lo}), sum = two_sum(z, s.hi);
-  const Pair y = log_step({sum.hi, sum.lo + s.lo});
-  return y.hi + y.lo;
+  const Pair z2 = square(z), w = two_sum(z2.high, sign);
+  const Pair s = root({w.high, w.low + z2.low}), sum = two_sum(z, s.high);
+  const Pair y = log_step({sum.high, sum.low + s.low});
+  return y.high + y.low;
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ ORK_EXPORT long double ork_zem_kernel_acoshl_scalar(long double x) {
   if (t > 0.5L) return log_of_sum(x, -1);
   if (t == 0) return 0;
   const Pair s = root({2 * t, 0});
-  return s.hi + (s.lo + s.hi * t * value(acosh_near, t));
+  return s.high + (s.low + s.high * t * value(acosh_near, t));
 }
 
 // From 1/4 on half the logarithm of (1 + |x|) / (1 - |x|), the quotient in two words.
@@ -52,5 +52,5 @@ ORK_EXPORT long double ork_zem_kernel_atanhl_scalar(long double x) {
   if (e < 16381) return odd_partial<14>(atanh_middle, x);
   const long double a = size(x);
   const Pair q = quotient(fast_sum(1, a), fast_sum(1, -a)), y = log_step(q);
-  return with_sign((y.hi + y.lo) * 0.5L, negative(x));
+  return with_sign((y.high + y.low) * 0.5L, negative(x));
 }

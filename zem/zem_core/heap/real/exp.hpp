@@ -9,10 +9,10 @@ namespace ork::extended {
 
 constexpr long double whole_shift = 0x1.8p63L;  // rounds what is added to it to an integer
 
-// exp(x) = (hi + lo) 2^m, hi a row of the table, |lo| < 2^-9 hi, for |x| < 11500: x is reduced to
-// |r| <= ln 2 / 512. Within 2^-72 of the value.
+// exp(x) = (high + low) 2^m, high a row of the table, |low| < 2^-9 high, for |x| < 11500: x is
+// reduced to |r| <= ln 2 / 512. Within 2^-72 of the value.
 struct Power {
-  long double hi, lo;
+  long double high, low;
   int m;
 };
 ORK_INLINE Power exp_step(long double x) {
@@ -29,7 +29,7 @@ ORK_INLINE long double exp_moderate(long double x) {
   const int e = exponent(x);
   if (__builtin_expect(e >= 16378, 1)) {
     const Power p = exp_step(x);
-    return scale_near(p.hi + p.lo, p.m);
+    return scale_near(p.high + p.low, p.m);
   }
   if (e < 16316) return 1 + x;
   const long double head = 1 + x, lost = x - (head - 1);
@@ -39,7 +39,7 @@ ORK_INLINE long double exp_moderate(long double x) {
   return head + (lost + x * x * 0.5L);
 }
 
-// hi + lo for sinh and cosh, |x| in [1/2, 32): from 2^m and 2^-m times rows j and -j.
+// sinh and cosh in two words, |x| in [1/2, 32): from 2^m and 2^-m times rows j and -j.
 struct Hyperbolic {
   Pair sinh, cosh;
 };
@@ -54,23 +54,24 @@ ORK_INLINE Hyperbolic hyperbolic_step(long double x) {
   const float a = power_of_two(m - 1), b = power_of_two(-m - 1);
   const Pair rise = {up[0] * (long double)a, up[1] * (long double)a};
   const Pair fall = {down[0] * (long double)b, down[1] * (long double)b};
-  const Pair sum = fast_sum(rise.hi, fall.hi), gap = fast_sum(rise.hi, -fall.hi);
-  const long double sum_lo = sum.lo + (rise.lo + fall.lo), gap_lo = gap.lo + (rise.lo - fall.lo);
-  const long double whole = sum.hi + sum_lo, difference = gap.hi + gap_lo;
+  const Pair sum = fast_sum(rise.high, fall.high), gap = fast_sum(rise.high, -fall.high);
+  const long double sum_lo = sum.low + (rise.low + fall.low),
+                    gap_lo = gap.low + (rise.low - fall.low);
+  const long double whole = sum.high + sum_lo, difference = gap.high + gap_lo;
   // sinh(a + r) = sinh a cosh r + cosh a sinh r.
-  return {{gap.hi, (difference * c + whole * s) + gap_lo},
-          {sum.hi, (whole * c + difference * s) + sum_lo}};
+  return {{gap.high, (difference * c + whole * s) + gap_lo},
+          {sum.high, (whole * c + difference * s) + sum_lo}};
 }
 
 // exp(|x|) / 2 for |x| >= 26.15, where the other exponential counts for less than 2^-75.
 ORK_INLINE long double half_exp(long double a) {
   if (__builtin_expect(a < 2048, 1)) {
     const Power p = exp_step(a);
-    return scale_near(p.hi + p.lo, p.m - 1);
+    return scale_near(p.high + p.low, p.m - 1);
   }
   if (a > 0xB.174DDC031AEC0EAp10L) return overflow();  // about 11357.2
   const Power p = exp_step(a);
-  return (p.hi + p.lo) * 0x1p8191L * wide_power_of_two(p.m - 8192);
+  return (p.high + p.low) * 0x1p8191L * wide_power_of_two(p.m - 8192);
 }
 
 // Both for any finite or infinite argument; a NaN gives NaNs.
@@ -84,7 +85,7 @@ ORK_INLINE SinhCosh sinh_cosh(long double x) {
   if (__builtin_expect(e >= 16382, 1)) {
     if (__builtin_expect(e < 16388 && a < 26.15625L, 1)) {
       const Hyperbolic h = hyperbolic_step(a);
-      return {with_sign(h.sinh.hi + h.sinh.lo, minus), h.cosh.hi + h.cosh.lo};
+      return {with_sign(h.sinh.high + h.sinh.low, minus), h.cosh.high + h.cosh.low};
     }
     if (e == special_exponent) return {quieted(x), is_nan(x) ? quieted(x) : a};
     const long double both = half_exp(a);

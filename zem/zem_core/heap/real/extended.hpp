@@ -2,7 +2,7 @@
 // The 80-bit format of the x87 unit: fields, sums and products in two words, series. All of it
 // counts on the control word being at extended precision, to nearest; the functions here leave
 // MXCSR and the vector state alone.
-#include "base/vec.hpp"
+#include "base/pair.hpp"
 
 namespace ork::extended {
 
@@ -85,40 +85,34 @@ ORK_INLINE long double wide_power_of_two(int n) {
   return __builtin_bit_cast(long double, image);
 }
 
-// hi + lo, where |lo| is far below |hi|.
-struct Pair {
-  long double hi, lo;
-};
+using Pair = ork::Pair<long double>;
 
 // a + b for |a| >= |b|, or where a is 0 or a multiple of b's last bit.
-ORK_INLINE Pair fast_sum(long double a, long double b) {
-  const long double s = a + b;
-  return {s, (a - s) + b};
-}
+ORK_INLINE Pair fast_sum(long double a, long double b) { return exact_sum(a, b); }
 ORK_INLINE Pair two_sum(long double a, long double b) {
   const long double s = a + b, c = s - a;
   return {s, (a - (s - c)) + (b - c)};
 }
 // The upper 32 bits and the rest: products of halves are exact. |x| below 2^16350.
 ORK_INLINE Pair halves(long double x) {
-  const long double t = x * 0x1.00000001p32L, hi = t - (t - x);
-  return {hi, x - hi};
+  const long double t = x * 0x1.00000001p32L, high = t - (t - x);
+  return {high, x - high};
 }
 ORK_INLINE Pair product(long double a, long double b) {
   const Pair x = halves(a), y = halves(b);
   const long double p = a * b;
-  return {p, (((x.hi * y.hi - p) + x.hi * y.lo) + x.lo * y.hi) + x.lo * y.lo};
+  return {p, (((x.high * y.high - p) + x.high * y.low) + x.low * y.high) + x.low * y.low};
 }
 ORK_INLINE Pair square(long double a) {
   const Pair x = halves(a);
   const long double p = a * a;
-  return {p, ((x.hi * x.hi - p) + 2 * x.hi * x.lo) + x.lo * x.lo};
+  return {p, ((x.high * x.high - p) + 2 * x.high * x.low) + x.low * x.low};
 }
 ORK_INLINE Pair quotient(Pair n, Pair d) {
-  const long double inverse = 1 / d.hi, q = n.hi * inverse;
-  const Pair x = halves(q), y = halves(d.hi);
-  const long double rest =
-      (((n.hi - x.hi * y.hi) - x.hi * y.lo) - x.lo * y.hi) - x.lo * y.lo + (n.lo - q * d.lo);
+  const long double inverse = 1 / d.high, q = n.high * inverse;
+  const Pair x = halves(q), y = halves(d.high);
+  const long double rest = (((n.high - x.high * y.high) - x.high * y.low) - x.low * y.high) -
+                           x.low * y.low + (n.low - q * d.low);
   return {q, rest * inverse};
 }
 ORK_INLINE long double square_root(long double x) {
@@ -126,11 +120,12 @@ ORK_INLINE long double square_root(long double x) {
   asm("fsqrt" : "=t"(y) : "0"(x));
   return y;
 }
-// x.hi > 0.
+// x.high > 0.
 ORK_INLINE Pair root(Pair x) {
-  const long double s = square_root(x.hi);
+  const long double s = square_root(x.high);
   const Pair y = halves(s);
-  const long double rest = ((x.hi - y.hi * y.hi) - 2 * y.hi * y.lo) - y.lo * y.lo + x.lo;
+  const long double rest =
+      ((x.high - y.high * y.high) - 2 * y.high * y.low) - y.low * y.low + x.low;
   return {s, rest / (2 * s)};
 }
 

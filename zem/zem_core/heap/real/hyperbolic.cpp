@@ -23,11 +23,11 @@ ORK_EXPORT long double ork_zem_kernel_tanhl_scalar(long double x) {
   if (e >= 16382) {
     const Power p = exp_step(2 * size(x));
     const float scale = power_of_two(p.m);
-    const Pair y = fast_sum(p.hi, p.lo);
-    Pair d = two_sum(y.hi * scale, 1);
-    d.lo += y.lo * scale;
-    const Pair q = quotient({2, 0}, d), s = fast_sum(1, -q.hi);
-    return with_sign(s.hi + (s.lo - q.lo), negative(x));
+    const Pair y = fast_sum(p.high, p.low);
+    Pair d = two_sum(y.high * scale, 1);
+    d.low += y.low * scale;
+    const Pair q = quotient({2, 0}, d), s = fast_sum(1, -q.high);
+    return with_sign(s.high + (s.low - q.low), negative(x));
   }
   if (e >= 16376) return odd_partial<17>(tanh_middle, x);
   return odd_small(tanh_small, x);

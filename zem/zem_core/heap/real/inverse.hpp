@@ -20,38 +20,39 @@ ORK_INLINE Pair angle(long double y, long double x) {
   const Pair l = halves(large);  // c has 8 bits
   const long double turn = c * small;
   const Pair den = fast_sum(large, turn);
-  const Pair s = quotient({(small - c * l.hi) - c * l.lo, 0}, den);
-  const long double z = s.hi * s.hi, rest = s.lo + s.hi * z * value(atan_step, z);
+  const Pair s = quotient({(small - c * l.high) - c * l.low, 0}, den);
+  const long double z = s.high * s.high, rest = s.low + s.high * z * value(atan_step, z);
   const double* row =
       ork_zem_core_atanl_table_128[steep ? (back ? 256 + j : 256 - j) : (back ? 512 - j : j)];
   const bool falling = steep != back;
-  const Pair sum = fast_sum(row[0], falling ? -s.hi : s.hi);
-  return {sum.hi, sum.lo + (row[1] + (falling ? -rest : rest))};
+  const Pair sum = fast_sum(row[0], falling ? -s.high : s.high);
+  return {sum.high, sum.low + (row[1] + (falling ? -rest : rest))};
 }
 
 // Neither is a NaN, an infinity or zero; y > 0.
 ORK_INLINE long double angle_scaled(long double y, long double x) {
   const int ey = exponent(y), ex = exponent(x);
-  if (__builtin_expect(ey - ex > 66, 0)) return half_pi.hi + half_pi.lo;
-  if (__builtin_expect(ex - ey > 66, 0)) return negative(x) ? pi.hi - 0x1p-70L : y / x;
+  if (__builtin_expect(ey - ex > 66, 0)) return half_pi.high + half_pi.low;
+  if (__builtin_expect(ex - ey > 66, 0)) return negative(x) ? pi.high - 0x1p-70L : y / x;
   if (__builtin_expect(ey > 24000 || ex > 24000, 0)) y *= 0x1p-8192L, x *= 0x1p-8192L;
   if (__builtin_expect(ey < 8000 || ex < 8000, 0)) y *= 0x1p8192L, x *= 0x1p8192L;
   const Pair p = angle(y, x);
-  return p.hi + p.lo;
+  return p.high + p.low;
 }
 
 // asin x = x + x^3 c(x^2) as head and rest, |x| <= 1/2.
 ORK_INLINE Pair asin_near(Pair x) {
-  const long double z = x.hi * x.hi;
-  return {x.hi, x.lo + x.hi * z *
-                           (exponent(x.hi) >= 16381 ? value(asin_wide, z) : value(asin_middle, z))};
+  const long double z = x.high * x.high;
+  return {x.high,
+          x.low + x.high * z *
+                      (exponent(x.high) >= 16381 ? value(asin_wide, z) : value(asin_middle, z))};
 }
 // asin sqrt((1 - a)/2) for 1/2 <= a < 1, whose double is acos a: the halved distance is exact, its
 // root in two words.
 ORK_INLINE Pair half_acos(long double a) {
   const Pair s = root({(1 - a) * 0.5L, 0});
-  const long double z = s.hi * s.hi;
-  return {s.hi, s.lo + s.hi * z * value(asin_wide, z)};
+  const long double z = s.high * s.high;
+  return {s.high, s.low + s.high * z * value(asin_wide, z)};
 }
 
 // asin x, |x| < 1.
@@ -59,30 +60,30 @@ ORK_INLINE long double asin_inside(long double x) {
   const int e = exponent(x);
   if (e < 16376) return odd_small(asin_small, x);
   if (e >= 16382) {
-    const Pair h = half_acos(size(x)), s = fast_sum(half_pi.hi, -2 * h.hi);
-    return with_sign(s.hi + (s.lo + (half_pi.lo - 2 * h.lo)), negative(x));
+    const Pair h = half_acos(size(x)), s = fast_sum(half_pi.high, -2 * h.high);
+    return with_sign(s.high + (s.low + (half_pi.low - 2 * h.low)), negative(x));
   }
   const Pair s = asin_near({x, 0});
-  return s.hi + s.lo;
+  return s.high + s.low;
 }
 // acos x, |x| < 1.
 ORK_INLINE long double acos_inside(long double x) {
   const int e = exponent(x);
   if (e >= 16382) {
     const Pair h = half_acos(size(x));
-    if (!negative(x)) return 2 * (h.hi + h.lo);
-    const Pair s = fast_sum(pi.hi, -2 * h.hi);
-    return s.hi + (s.lo + (pi.lo - 2 * h.lo));
+    if (!negative(x)) return 2 * (h.high + h.low);
+    const Pair s = fast_sum(pi.high, -2 * h.high);
+    return s.high + (s.low + (pi.low - 2 * h.low));
   }
   Pair a = {x, 0};
   if (e >= 16376) {
     a = asin_near(a);
   } else if (e >= 16308) {
     const long double z = x * x;
-    a.lo = x * z * value(asin_small, z);
+    a.low = x * z * value(asin_small, z);
   }
-  const Pair s = fast_sum(half_pi.hi, -a.hi);
-  return s.hi + (s.lo + (half_pi.lo - a.lo));
+  const Pair s = fast_sum(half_pi.high, -a.high);
+  return s.high + (s.low + (half_pi.low - a.low));
 }
 
 }  // namespace ork::extended

@@ -13,7 +13,7 @@ ORK_EXPORT long double ork_zem_kernel_logl_scalar(long double x) {
   if (word & 0x8000) return invalid();
   if (word == special_exponent) return x;
   const Pair y = log_step(x * 0x1p75L, -75);
-  return y.hi + y.lo;
+  return y.high + y.low;
 }
 
 ORK_EXPORT long double ork_zem_kernel_log1pl_scalar(long double x) {

@@ -8,7 +8,8 @@ namespace ork::extended {
 #include "heap/real/log.inc"
 
 // ln x + extra ln 2 for a normal x > 0 with ln x not within 0.03 of 0: x = 2^k m, c about 1/m,
-// m c = 1 + r. k ln2_high, the row's head and r's head are multiples of 2^-48: hi is exact.
+// m c = 1 + r. k ln2_high, the row's head and r's head are multiples of 2^-48: the high word is
+// exact.
 ORK_INLINE Pair log_step(long double x, int extra = 0) {
   int64_t significand;
   __builtin_memcpy(&significand, &x, 8);
@@ -23,10 +24,10 @@ ORK_INLINE Pair log_step(long double x, int extra = 0) {
   return {(k * ln2_high + row[0]) + high,
           ((k * ln2_low + row[1]) + low) + r * r * value(log_step_series, r)};
 }
-// The same with a low word, |lo| <= 2^-40 hi.
+// The same with a low word, below 2^-40 of the high one.
 ORK_INLINE Pair log_step(Pair x, int extra = 0) {
-  const Pair y = log_step(x.hi, extra);
-  return {y.hi, y.lo + x.lo / x.hi};
+  const Pair y = log_step(x.high, extra);
+  return {y.high, y.low + x.low / x.high};
 }
 
 // ln(1 + t), |t| <= 1/16: t - th^2/2 with the square of t's upper 12 bits exact.
@@ -51,7 +52,7 @@ ORK_INLINE long double log1p_small(long double t) {
 ORK_INLINE long double log1p_finite(long double x) {
   if (exponent(x) < 16379) return log1p_small(x);
   const Pair y = log_step(two_sum(1, x));
-  return y.hi + y.lo;
+  return y.high + y.low;
 }
 
 // ln x, x > 0, normal and finite.
@@ -62,7 +63,7 @@ ORK_INLINE long double log_normal(long double x) {
     return t + t * t * value(log_small, t);
   }
   const Pair y = log_step(x);
-  return y.hi + y.lo;
+  return y.high + y.low;
 }
 
 }  // namespace ork::extended

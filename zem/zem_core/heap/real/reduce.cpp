@@ -56,18 +56,18 @@ Pair radians(const uint32_t (&fraction)[6], bool minus) {
     f[i] = (uint32_t)word;
     carry = (uint32_t)(word >> 32);
   }
-  if (carry) return {-quarter.hi, -quarter.lo};  // an argument below 2^-190
+  if (carry) return {-quarter.high, -quarter.low};  // an argument below 2^-190
   int skip = 0;
   while (skip < 3 && f[skip] == 0) ++skip;
   long double hi = 0, lo = 0, unit = wide_power_of_two(-32 * skip - 32);
   for (int i = skip; i < 6; ++i, unit *= 0x1p-32L) {
     const Pair s = fast_sum(hi, f[i] * unit);
-    hi = s.hi;
-    lo += s.lo;
+    hi = s.high;
+    lo += s.low;
   }
-  const Pair r = product(hi, quarter.hi);
-  const Pair s = fast_sum(r.hi, r.lo + (hi * quarter.lo + lo * quarter.hi));
-  return minus ? Pair{-s.hi, -s.lo} : s;
+  const Pair r = product(hi, quarter.high);
+  const Pair s = fast_sum(r.high, r.low + (hi * quarter.low + lo * quarter.high));
+  return minus ? Pair{-s.high, -s.low} : s;
 }
 
 }  // namespace
@@ -90,7 +90,7 @@ ORK_EXPORT int ork_zem_kernel_reduce_pi04l(long double x, int s, double* out) {
   const Octants o = octants(x);
   const uint32_t up = (o.whole + (uint32_t)s) & 1;
   const Pair r = radians(o.fraction, up);
-  out[0] = (double)r.hi;
-  out[1] = (double)((r.hi - out[0]) + r.lo);
+  out[0] = (double)r.high;
+  out[1] = (double)((r.high - out[0]) + r.low);
   return (int)(o.whole + up);
 }

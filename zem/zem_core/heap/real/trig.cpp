@@ -34,7 +34,7 @@ ORK_EXPORT long double ork_zem_kernel_tanl_scalar(long double x) {
   if (e < 16376) return odd_small(tangent_small, x);
   const Reduced a = reduce(size(x));
   Pair s = sine_of(a.r), c = cosine_of(a.r);
-  s = fast_sum(s.hi, s.lo), c = fast_sum(c.hi, c.lo);
-  const Pair q = a.quarter & 1 ? quotient({-c.hi, -c.lo}, s) : quotient(s, c);
-  return with_sign(q.hi + q.lo, negative(x));
+  s = fast_sum(s.high, s.low), c = fast_sum(c.high, c.low);
+  const Pair q = a.quarter & 1 ? quotient({-c.high, -c.low}, s) : quotient(s, c);
+  return with_sign(q.high + q.low, negative(x));
 }

@@ -21,10 +21,10 @@ ORK_INLINE Pair subtract_quarters(long double a, long double n, const long doubl
   Pair r = {a - n * part[0], 0};
 #pragma GCC unroll 4
   for (int i = 1; i < parts; ++i) {
-    const Pair s = two_sum(r.hi, -(n * part[i]));
-    r = {s.hi, r.lo + s.lo};
+    const Pair s = two_sum(r.high, -(n * part[i]));
+    r = {s.high, r.low + s.low};
   }
-  return fast_sum(r.hi, r.lo);
+  return fast_sum(r.high, r.low);
 }
 ORK_INLINE Reduced reduce(long double a) {
   const int e = exponent(a);
@@ -40,16 +40,16 @@ ORK_INLINE Reduced reduce(long double a) {
 // exact, and so is their product with the first 11 bits of -1/6: what is rounded before the last
 // sum is below 2^-3 of the result.
 ORK_INLINE Pair sine_of(Pair r) {
-  const long double head = (r.hi + 0x1.8p37L) - 0x1.8p37L, rest = r.hi - head;
-  const long double z = r.hi * r.hi, z_head = head * head, z_rest = rest * (head + r.hi);
+  const long double head = (r.high + 0x1.8p37L) - 0x1.8p37L, rest = r.high - head;
+  const long double z = r.high * r.high, z_head = head * head, z_rest = rest * (head + r.high);
   const long double t = z_rest * -0x1.554p-3L + z * value(sine, z);
-  return {r.hi, r.hi * (z_head * -0x1.554p-3L) + (r.hi * t + r.lo * (1 - z * 0.5L))};
+  return {r.high, r.high * (z_head * -0x1.554p-3L) + (r.high * t + r.low * (1 - z * 0.5L))};
 }
 ORK_INLINE Pair cosine_of(Pair r) {
-  const long double head = (r.hi + 0x1.8p37L) - 0x1.8p37L, rest = r.hi - head;
-  const long double z = r.hi * r.hi;
+  const long double head = (r.high + 0x1.8p37L) - 0x1.8p37L, rest = r.high - head;
+  const long double z = r.high * r.high;
   return {1 - head * head * 0.5L,
-          z * z * value(cosine, z) - (rest * (head + rest * 0.5L) + r.hi * r.lo)};
+          z * z * value(cosine, z) - (rest * (head + rest * 0.5L) + r.high * r.low)};
 }
 
 struct SinCos {
@@ -62,7 +62,7 @@ ORK_INLINE SinCos sin_cos(long double x) {
   if (__builtin_expect(e >= 16378, 1)) {
     const Reduced a = reduce(size(x));
     const Pair s = sine_of(a.r), c = cosine_of(a.r);
-    long double first = s.hi + s.lo, second = c.hi + c.lo;
+    long double first = s.high + s.low, second = c.high + c.low;
     if (a.quarter & 1) {
       const long double t = first;
       first = second, second = -t;
