@@ -344,11 +344,7 @@ void measure_complex(const Claims& claims, const Slot& slot, const std::vector<i
   const Function* function = nullptr;
   for (const Function& f : functions)
     if (!strcmp(f.name, slot.function)) function = &f;
-  if (!function) {
-    std::printf("%-20s no reference\n", slot.function);
-    ++run.failures;
-    return;
-  }
+  if (!function) return;  // elementary functions: complex_functions.cpp
   if (slot.type == 'z')
     measure<double>(claims, slot, *function, bounds, run);
   else

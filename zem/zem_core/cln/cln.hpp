@@ -1,7 +1,7 @@
 #pragma once
 // Ln of complex vectors: half the logarithm of S = x^2 + y^2 and the angle. S and what its rounding
 // lost come in two doubles, and ln(S + lost) = ln S + lost/S. Rare lanes go to the scalar.
-#include "atan2/atan2.hpp"
+#include "atan2/atan2_d_ha.hpp"
 #include "base/pair.hpp"
 #include "heap/complex/element.hpp"
 #include "ln/natural_d.hpp"
@@ -17,12 +17,7 @@ ORK_INLINE Pair<f64x2> square(f64x2 x) {
   const f64x2 head = upper_half(x), rest = x - head, s = x * x;
   return {s, ((head * head - s) + 2.0 * head * rest) + rest * rest};
 }
-// Parts of squares' and quotients' range.
-ORK_INLINE u32x4 beyond_400(const Octant<double>& o) {
-  return (as<u32x4>(o.small) - ((1023 - 400) << 20)) | (((1023 + 400) << 20) - as<u32x4>(o.large));
-}
-
-// Double: parts with exponents within +-400; next to the unit circle, |S - 1| < 2^-30, the two
+// Double: parts that are not atan2_pair_rare; next to the unit circle, |S - 1| < 2^-30, the two
 // words are too short.
 ORK_INLINE f64x2 log_modulus(const Octant<double>& o, u32x4& rare) {
   const Pair<f64x2> l = square(o.large), s = square(o.small), sum = exact_sum(l.high, s.high);

@@ -1,4 +1,3 @@
-#include "atan2/atan2_d_ha.hpp"
 #include "cln/cln.hpp"
 
 namespace ork {
@@ -11,7 +10,7 @@ struct LnHaZ : ComplexLn<double> {
 
   ORK_INLINE Planes<f64x2> eval(const Planes<f64x2>& z, u32x4& rare) {
     const Octant<double> o(z.im, z.re);
-    rare |= beyond_400(o);
+    rare |= atan2_pair_rare(o);
     f64x2 low;
     const f64x2 high = atan2_pair(o, low);
     return {log_modulus(o, rare), or_bits(high + low, as<u64x2>(z.im) & sign_f64x2)};

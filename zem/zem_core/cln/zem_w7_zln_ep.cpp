@@ -10,7 +10,7 @@ struct LnEpZ : ComplexLn<double> {
 
   ORK_INLINE Planes<f64x2> eval(const Planes<f64x2>& z, u32x4& rare) {
     const Octant<double> o(z.im, z.re);
-    rare |= beyond_400(o);
+    rare |= atan2_pair_rare(o);
     return {log_modulus(o, rare), or_bits(o.base + xor_bits(atan_ep(o.small / o.large), o.flip),
                                           as<u64x2>(z.im) & sign_f64x2)};
   }

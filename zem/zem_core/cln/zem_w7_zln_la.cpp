@@ -10,7 +10,7 @@ struct LnLaZ : ComplexLn<double> {
 
   ORK_INLINE Planes<f64x2> eval(const Planes<f64x2>& z, u32x4& rare) {
     const Octant<double> o(z.im, z.re);
-    rare |= beyond_400(o);
+    rare |= atan2_pair_rare(o);
     return {log_modulus(o, rare), atan2_la(z.im, o)};
   }
 };
