@@ -2,6 +2,7 @@
 #include <errno.h>
 
 #include <functional>
+#include <tuple>
 
 #include "front.hpp"
 
@@ -110,6 +111,23 @@ TEST_F(FrontCalls, AccuracyPicksTheSlotAndNonsenseIsHighAccuracy) {
 
 // ---- Pack and unpack ----
 
+template <size_t k, class... P>
+void refuses_without(int (*call)(int, P...), std::tuple<P...> arguments) {
+  if constexpr (std::is_pointer_v<std::tuple_element_t<k, std::tuple<P...>>>) {
+    std::get<k>(arguments) = nullptr;
+    EXPECT_EQ(std::apply([&](auto... p) { return call(1, p...); }, arguments), -2) << k;
+  }
+}
+// A negative count, and each array missing in turn.
+template <class... P, class... A>
+void refuses(int (*call)(int, P...), A... arguments) {
+  EXPECT_EQ(call(-1, arguments...), -1);
+  [&]<size_t... k>(std::index_sequence<k...>) {
+    (refuses_without<k>(call, std::tuple<P...>(arguments...)), ...);
+  }
+  (std::index_sequence_for<P...>{});
+}
+
 template <class T, int parts>
 struct Packs {
   int (*pack_i)(int, const T*, int32_t, T*), (*unpack_i)(int, const T*, T*, int32_t);
@@ -146,27 +164,12 @@ struct Packs {
       EXPECT_EQ(y, numbers(row.expected)) << &row - rows;
     }
     V y = seven;
-    const std::function<int()> bad[] = {[&] { return pack_i(1, nullptr, 1, y.data()); },
-                                        [&] { return pack_i(1, a.data(), 1, nullptr); },
-                                        [&] { return unpack_i(1, nullptr, y.data(), 1); },
-                                        [&] { return unpack_i(1, a.data(), nullptr, 1); },
-                                        [&] { return pack_m(1, nullptr, mask, y.data()); },
-                                        [&] { return pack_m(1, a.data(), nullptr, y.data()); },
-                                        [&] { return pack_m(1, a.data(), mask, nullptr); },
-                                        [&] { return unpack_m(1, nullptr, y.data(), mask); },
-                                        [&] { return unpack_m(1, a.data(), nullptr, mask); },
-                                        [&] { return unpack_m(1, a.data(), y.data(), nullptr); },
-                                        [&] { return pack_v(1, nullptr, index, y.data()); },
-                                        [&] { return pack_v(1, a.data(), nullptr, y.data()); },
-                                        [&] { return pack_v(1, a.data(), index, nullptr); },
-                                        [&] { return unpack_v(1, nullptr, y.data(), index); },
-                                        [&] { return unpack_v(1, a.data(), nullptr, index); },
-                                        [&] { return unpack_v(1, a.data(), y.data(), nullptr); }};
-    for (const auto& call : bad) EXPECT_EQ(call(), -2) << &call - bad;
-    for (const auto call : {pack_m, pack_v}) EXPECT_EQ(call(-1, a.data(), mask, y.data()), -1);
-    for (const auto call : {unpack_m, unpack_v}) EXPECT_EQ(call(-1, a.data(), y.data(), mask), -1);
-    EXPECT_EQ(pack_i(-1, a.data(), 1, y.data()), -1);
-    EXPECT_EQ(unpack_i(-1, a.data(), y.data(), 1), -1);
+    refuses(pack_i, a.data(), 1, y.data());
+    refuses(unpack_i, a.data(), y.data(), 1);
+    refuses(pack_m, a.data(), mask, y.data());
+    refuses(unpack_m, a.data(), y.data(), mask);
+    refuses(pack_v, a.data(), index, y.data());
+    refuses(unpack_v, a.data(), y.data(), index);
     EXPECT_EQ(y, seven);
   }
 };

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "front.hpp"
+#include "support/stack.hpp"
 
 namespace {
 
@@ -91,21 +92,9 @@ TYPED_TEST(Divide, MisalignedStack) {
       for (int shift = 0; shift < 16; shift += 4) {
         divide_all(threads);
         std::fill(r.begin(), r.end(), T(0));
-        const T *in = a.data(), *out = r.data();
-        const void* function = front.slot->table[1];
-        asm volatile(
-            "mov %%esp, %%esi\n\t"
-            "and $-16, %%esp\n\t"
-            "sub %[shift], %%esp\n\t"
-            "push %[out]\n\t"
-            "push %[in]\n\t"
-            "push %[n]\n\t"
-            "call *%[function]\n\t"
-            "mov %%esi, %%esp"
-            : [function] "+a"(function), [in] "+d"(in), [out] "+c"(out)
-            : [n] "i"(n), [shift] "D"(shift)
-            : "esi", "memory", "cc", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5", "xmm6",
-              "xmm7");
+        const auto function =
+            reinterpret_cast<int (*)(int, const T*, T*)>(const_cast<void*>(front.slot->table[1]));
+        call_shifted(shift, function, n, a.data(), r.data());
         ASSERT_EQ(memcmp(r.data(), expected.data(), r.size() * sizeof(T)), 0)
             << row.function << shift;
       }
