@@ -214,12 +214,11 @@ int ork_df_kernel_sQueryIdxPtr(const ork_df_task* task, int64_t code, int64_t in
  * partly written.
  *
  * Errors of the coefficients, relative to the largest: below 25 units of the precision on
- * cells of like length; those of the quadratic spline add up from cell to cell. On cells of
- * unlike length the local kinds and natural splines with prescribed slopes keep to that; other
- * ends of a natural spline are as sensitive as their conditions: with cells growing from 1 to
- * 100 up to 30 units were found for free ends, 140 under not-a-knot, and thousands with cells
- * from 1 to 10^6. Taken as c_k h^k, beside the largest of their own piece, the errors stay
- * below 20 and 400 units there. */
+ * cells of like length; those of the quadratic spline add up from cell to cell. On clustered
+ * breakpoints natural splines with prescribed slopes keep to that, while other ends are as
+ * sensitive as their conditions: with breakpoints i^2, i^4, i^8 up to 30, 140, 1700 units
+ * were found for free ends and 140, 2200, 19000 under not-a-knot. Taken as c_k h^k, beside the
+ * largest of their own piece, errors stay below 20, 130, 410 units there. */
 typedef int ork_df_construct(ork_df_task* task, int64_t format, int64_t method,
                              const ork_threader* threader);
 ork_df_construct ork_df_kernel_dDFLinearSpline1D, ork_df_kernel_sDFLinearSpline1D;
