@@ -4,7 +4,7 @@ namespace ork {
 namespace {
 
 // Exp z, HA: both factors as sums of two doubles, see exp_d.hpp and table_kernel.hpp, their product
-// rounded once and scaled. Fast range: |x| < 708.39, |y| < 90112. Bound: 0.55 ulp a part, 0.76 for
+// rounded once and scaled. Fast range: |x| < 708.39, |y| < 90112. Bound: 0.55 ulp a part, 0.75 for
 // denormal parts.
 struct ExpHaZ : ComplexExp<double> {
   static constexpr char name[] = "vzExp";

@@ -54,4 +54,17 @@ struct LnS : ComplexLn<float> {
   }
 };
 
+// Ln z, LA: the modulus of HA, see cln.hpp, the angle of Atan2 LA. Bound: 2 ulp a part. Serves EP,
+// too: the polynomial of Arctangent EP would take longer than the table.
+struct LnLaZ : ComplexLn<double> {
+  static constexpr char name[] = "vzLn";
+  static constexpr int vectors = 1;
+
+  ORK_INLINE Planes<f64x2> eval(const Planes<f64x2>& z, u32x4& rare) {
+    const Octant<double> o(z.im, z.re);
+    rare |= atan2_pair_rare(o);
+    return {log_modulus(o, rare), atan2_la(z.im, o)};
+  }
+};
+
 }  // namespace ork
