@@ -3,8 +3,7 @@
 // bottom; it shares nothing with the library.
 #include <quadmath.h>
 
-#include <functional>
-
+#include "ork/zem_scalar.h"
 #include "support/bits.hpp"
 #include "support/control.hpp"
 #include "support/pch.hpp"
@@ -313,6 +312,38 @@ TYPED_TEST(ComplexSpecials, OneOperand) {
     });
     EXPECT_TRUE(seen.empty());
   }
+}
+
+// The scalar forms: one element by its index, any argument, nothing else touched or reported.
+template <class T>
+void check_scalars(std::initializer_list<void (*)(int, const T*, T*)> functions) {
+  const StateGuard guard;
+  for (const auto f : functions)
+    for (const T x :
+         {T(0.5), T(-0.0), T(-1e22), smallest_denormal<T>, largest<T>, inf<T>, quiet_nan<T>})
+      for (const unsigned short x87 : {0x037F, 0x027F}) {
+        const T a[3] = {1, 1, x};
+        T r[8] = {7, 7, 7, 7, 7, 7, 7, 7};
+        set_x87_control(x87);
+        const auto seen = record_events([&] { f(2, a, r); });
+        EXPECT_EQ(x87_control(), x87);
+        EXPECT_TRUE(seen.empty());
+        for (const int k : {0, 1, 2, 3, 6, 7}) EXPECT_EQ(r[k], 7);
+        if (!std::isfinite(x)) {
+          EXPECT_TRUE(agrees(r[4], NAN) && agrees(r[5], NAN));
+          continue;
+        }
+        const T re = T(cosq(x)), im = T(sinq(x));  // to 113 bits
+        EXPECT_LE(std::fabs(r[4] - re), std::numeric_limits<T>::epsilon() / 2) << x;
+        EXPECT_LE(std::fabs(r[5] - im), std::numeric_limits<T>::epsilon() / 2) << x;
+        EXPECT_EQ(std::signbit(r[5]), std::signbit(im)) << x;
+      }
+}
+TEST(ComplexScalars, CisOfOneElement) {
+  check_scalars<double>({ork_zem_kernel_zCIS_SC, ork_zem_kernel_zCIS_SC_HA,
+                         ork_zem_kernel_zCIS_SC_LA, ork_zem_kernel_zCIS_SC_A11});
+  check_scalars<float>(
+      {ork_zem_kernel_cCIS_SC_HA, ork_zem_kernel_cCIS_SC_LA, ork_zem_kernel_cCIS_SC_A11});
 }
 
 }  // namespace

@@ -48,7 +48,15 @@ void update_report(const std::string& path, const std::map<std::string, std::str
          "from the\n"
          "x87's extended precision for `s` kernels. Arguments: the ranges and neighbourhoods "
          "declared in\n"
-         "each function's `claims.tsv`, powers of two, random bit patterns.\n";
+         "each function's `claims.tsv`, powers of two, random bit patterns.\n\n"
+         "Complex kernels (`c`, `z`): quad precision; the error of the worse part, in rows marked "
+         "modulus the\n"
+         "error's modulus in ulp of the result's, in rel rows of EP relative to it. A third of the "
+         "operands lies\n"
+         "anywhere in the range, ends included, a third near 1, a third makes products or sums "
+         "cancel, by 1 to 50\n"
+         "bits or all but the last; EP rows leave out operands whose squares come near the ends of "
+         "the range.\n";
   for (int k = 0; k < 3; ++k) {
     if (tables[k].empty()) continue;
     out << "\n## " << headings[k] << "\n\n"
