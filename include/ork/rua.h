@@ -170,7 +170,8 @@ int32_t __ruaCopyStreamState(RuaStream* target, const RuaStream* source);
  * BAD_LEAPFROG_COUNT for a negative nstreams, NO_LEAPFROG from generators without it. */
 int32_t __ruaLeapfrogStream(RuaStream* stream, int32_t k, int32_t nstreams);
 
-/* Passes over nskip elements. NO_SKIPAHEAD from generators without it. */
+/* Passes over nskip elements. NO_SKIPAHEAD from generators without it. NO_MEMORY (MT19937 and
+ * SFMT19937, by 2^20 and more): the stream is as it was. */
 int32_t __ruaSkipAheadStream(RuaStream* stream, int64_t nskip);
 
 /* The id the stream was made with (not a status). */

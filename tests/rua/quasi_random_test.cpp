@@ -665,6 +665,7 @@ TEST_F(QuasiRandom, FailingAllocations) {
       if (s) {
         EXPECT_EQ(properties(q.id).iGenerate(s, 1, &r),
                   blocks::failed() ? RUA_STATUS_BAD_GENERATOR : 0);
+        EXPECT_EQ(__ruaGetNumChunks(s) == 0, blocks::failed());
       }
     };
     const int payloads = q.id == RUA_BRNG_SOBOL ? 2 : 1;

@@ -130,11 +130,11 @@ Words naive_remainder(Words p, const Words& modulus, int degree) {
 // Moduli on both sides of words, of the number of terms that are folded, of the gap it needs.
 TEST_F(SkipAhead, PowersOfX) {
   const struct {
-    int degree, below, terms;  // exponents below the degree are below that, this many
+    int degree, below, terms;  // exponents below the degree: 0, below - 1, some between
   } cases[] = {{2, 2, 2},        {3, 3, 1},       {31, 31, 10},      {32, 32, 3},
                {33, 33, 20},     {63, 60, 9},     {64, 64, 30},      {65, 65, 65},
                {127, 127, 4},    {512, 512, 300}, {512, 0, 0},       {520, 9, 3},
-               {1000, 1000, 40}, {1100, 588, 30}, {1100, 589, 30},   {1024, 512, 60},
+               {1000, 1000, 40}, {1100, 589, 30}, {1100, 590, 30},   {1024, 512, 60},
                {1056, 500, 1},   {700, 700, 600}, {1500, 1500, 700}, {1503, 1000, 800},
                {1536, 1500, 514}};
   for (const auto& c : cases) {
@@ -142,12 +142,11 @@ TEST_F(SkipAhead, PowersOfX) {
     Words modulus(c.degree / 64 + 1);
     std::vector<int32_t> exponents;
     if (c.below > 0) {
-      std::vector<int32_t> all(c.below - 1);
-      for (int i = 1; i < c.below; ++i) all[i - 1] = i;
-      std::shuffle(all.begin(), all.end(), random_);
-      all.resize(std::min(int(all.size()), c.terms - 1));
-      exponents = all;
+      for (int i = 1; i < c.below - 1; ++i) exponents.push_back(i);
+      std::shuffle(exponents.begin(), exponents.end(), random_);
+      exponents.resize(std::min(int(exponents.size()), std::max(c.terms - 2, 0)));
       exponents.push_back(0);
+      if (c.below > 1) exponents.push_back(c.below - 1);
       std::sort(exponents.begin(), exponents.end());
     }
     exponents.push_back(c.degree);

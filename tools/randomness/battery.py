@@ -90,7 +90,10 @@ def report(names):
             notes += [known[name], ""]
         for what, kind in (("weak", weak), ("failed", failed), ("failed again", lasting)):
             notes += [f"- {what}: {test}, {ntuple}-tuples, p = {p:.8f}" for test, ntuple, p, _ in kind]
-    (root / "docs/randomness.md").write_text("\n".join(text + notes) + "\n")
+    page = root / "docs/randomness.md"
+    points = "\n# Points of low discrepancy\n"  # written by hand, from here to the end
+    rest = page.read_text().partition(points)[2]
+    page.write_text("\n".join(text + notes) + "\n" + points + rest)
 
 
 def main(names):

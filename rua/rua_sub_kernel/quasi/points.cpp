@@ -148,6 +148,10 @@ int32_t convert(const Points& p, int32_t n, Output out) {
     const int32_t part = std::min(n, kPiece);
     emit(p, part, words);
     int32_t i = 0;
+    for (; i + 8 <= part; i += 8) {
+      out.put4(load4(words + i));
+      out.put4(load4(words + i + 4));
+    }
     for (; i + 4 <= part; i += 4) out.put4(load4(words + i));
     for (; i < part; ++i) out.put(words[i]);
     n -= part;
