@@ -99,28 +99,6 @@ void take_share(const Work<R>& work, int index, int threads) {
   }
 }
 
-// One block of reals, dealt out in pieces that start on cache lines of their own.
-template <class R>
-class Arena {
- public:
-  // Counts as long as there is no block, then deals.
-  R* take(uint64_t count) {
-    R* piece = block_ ? block_.get() + size_t(used_) : nullptr;
-    used_ += (count + 31) / 32 * 32;
-    return piece;
-  }
-  bool allocate() {
-    if (used_ == 0) return true;
-    block_ = Scratch<R>(used_);
-    used_ = 0;
-    return bool(block_);
-  }
-
- private:
-  Scratch<R> block_;
-  uint64_t used_ = 0;
-};
-
 int threads_for(int n, const ork_threader* threader) {
   constexpr int least = 1000;  // observations of a thread
   int threads = thread_limit(threader);
@@ -217,6 +195,121 @@ Choice<R> choose(const Request& q, bool rows, bool weighted) {
 #undef ORK_KEPT
 }
 
+// What a call keeps, in which arrays, and where it starts from: made before anything is written.
+template <class R>
+class Plan {
+ public:
+  Plan(const Task<R>& t, const Request& q, const ork_threader* threader)
+      : t_(t),
+        q_(q),
+        data_(data_of(t)),
+        choice_(choose<R>(q, data_.rows, data_.w != nullptr)),
+        threads_(threads_for(data_.n, threader)),
+        matrix_(q.asks_matrix()),
+        supplied_mean_(q.method == Method::kTwoPass),
+        no_mean_(supplied_mean_ && !t.moments[kMean]) {
+    if (t.accumulatedWeight) sum_ = {t.accumulatedWeight[0], t.accumulatedWeight[1]};
+    if (sum_.w > 0) lost_ = lost_orders(t, q);
+    if (!matrix_) return;
+    first_ = first_matrix(t, q, form_);
+    own_matrix_ = t.variableMask || !first_.full();
+    scratch_ = by_products() ? uint64_t(block_length<R>(data_.p, data_.n)) * data_.p *
+                                   (supplied_mean_ + (data_.w != nullptr))
+                             : cross_scratch<R>(data_.p);
+  }
+
+  int threads() const { return threads_; }
+  int32_t status() const { return check_continuation(t_, lost_); }
+  // Of the one block that holds all arrays but the caller's.
+  uint64_t reals() const {
+    uint64_t sum = no_mean_ ? padded(data_.p) : 0;
+    for (int k = 0; k < threads_; ++k) {
+      for (int order = 0; order < kOrders; ++order)
+        if (keeps(order) && !borrowed(k, order)) sum += padded(data_.p);
+      if (matrix_ && !borrowed_matrix(k)) sum += padded(matrix_size());
+      sum += padded(scratch_);
+    }
+    return sum;
+  }
+  // Gives the shares their arrays and what these start from. Outputs change.
+  void start(R* block, Share<R>* shares) const {
+    const auto take = [&](uint64_t count) {
+      R* const piece = block;
+      block += padded(count);
+      return piece;
+    };
+    const auto cleared = [&](uint64_t count) {
+      R* const piece = take(count);
+      if (count > 0) memset(piece, 0, size_t(count) * sizeof(R));
+      return piece;
+    };
+    const int p = data_.p;
+    R* const mean = no_mean_ ? cleared(p) : t_.moments[kMean];
+    for (int k = 0; k < threads_; ++k) {
+      Share<R>& share = shares[k];
+      share.weight = k == 0 ? sum_ : Weight<R>{0, 0};
+      for (int order = 0; order < kOrders; ++order) {
+        R* const own = keeps(order) ? borrowed(k, order) : nullptr;
+        share.orders[order] = own || !keeps(order) ? own : cleared(p);
+      }
+      if (supplied_mean_) share.orders[kMean] = mean;
+      share.s = !matrix_             ? nullptr
+                : borrowed_matrix(k) ? borrowed_matrix(k)
+                                     : cleared(matrix_size());
+      share.scratch = cleared(scratch_);
+    }
+    for (int order = 0; order < kOrders; ++order) {
+      if (!keeps(order)) continue;
+      if (lost_ & bit(order))
+        bring_back(order, p, sum_.w, shares[0].orders);
+      else
+        start_order(t_, order, shares[0].orders[order], !borrowed(0, order), sum_);
+    }
+    if (matrix_) start_matrix(first_, form_, shares[0].s, sum_);
+  }
+  Work<R> work(Share<R>* shares) const {
+    return {data_, choice_.kernel, matrix_ && by_products(), supplied_mean_, shares};
+  }
+  void finish(Share<R>* shares) const {
+    Share<R>& total = shares[0];
+    for (int k = 1; k < threads_; ++k) merge(data_.p, total, shares[k], supplied_mean_);
+    if (matrix_) finish_matrices(t_, q_, total.weight, total.s);
+    if (t_.accumulatedWeight) {
+      t_.accumulatedWeight[0] = total.weight.w;
+      t_.accumulatedWeight[1] = total.weight.w2;
+    }
+    finish_moments(t_, q_, total.weight, total.orders);
+  }
+
+ private:
+  // Pieces of the block start on cache lines of their own.
+  static uint64_t padded(uint64_t count) { return (count + 31) / 32 * 32; }
+  uint64_t matrix_size() const { return uint64_t(data_.p) * data_.p; }
+  bool by_products() const { return q_.method != Method::kOnePass; }
+  bool keeps(int order) const { return choice_.kept & bit(order); }
+  // The caller's arrays serve thread 0 where they can; with a mask, variables that are left out
+  // must keep their results.
+  R* borrowed(int k, int order) const {
+    if (k > 0 || t_.variableMask) return nullptr;
+    return t_.sums[order] ? t_.sums[order] : t_.moments[order];
+  }
+  R* borrowed_matrix(int k) const { return k > 0 || own_matrix_ ? nullptr : first_.a; }
+
+  const Task<R>& t_;
+  const Request q_;
+  const Data<R> data_;
+  const Choice<R> choice_;
+  const int threads_;
+  const bool matrix_, supplied_mean_;
+  const bool no_mean_;       // the supplied mean is 0
+  Weight<R> sum_{0, 0};      // of the earlier calls
+  uint32_t lost_ = 0;        // orders that earlier calls have not left
+  Form form_{};              // of the matrix
+  Symmetric<R> first_{};     // that the matrix starts from
+  bool own_matrix_ = false;  // which cannot serve as one that sums go into
+  uint64_t scratch_ = 0;     // reals of a share
+};
+
 }  // namespace
 
 template <class R>
@@ -225,95 +318,24 @@ int32_t basic(Task<R>& t, uint64_t estimates, uint64_t method, const ork_threade
   if (q.status != ORK_SS_OK) return q.status;
   if (q.method == Method::kFromSums) return from_sums(t, q);
 
-  const Data<R> data = data_of(t);
-  const int p = data.p, n = data.n, threads = threads_for(n, threader);
-  const bool given_mean = q.method == Method::kTwoPass, matrix = q.asks_matrix();
-  const bool one_pass = q.method == Method::kOnePass;
-  const Choice<R> choice = choose<R>(q, data.rows, data.w != nullptr);
-  Work<R> work{data, choice.kernel, matrix && !one_pass, given_mean, nullptr};
-
-  Weight<R> sum{0, 0};
-  if (t.accumulatedWeight) sum = {t.accumulatedWeight[0], t.accumulatedWeight[1]};
-  const uint32_t lost = sum.w > 0 ? lost_orders(t, q) : 0;
-  if (const int32_t status = check_continuation(t, lost)) return status;
-
-  // The caller's arrays serve thread 0 where they can; with a mask, variables that are left out
-  // must keep their results.
-  Form form = Form::kCrossProduct;
-  Symmetric<R> first{};
-  if (matrix) first = first_matrix(t, q, form);
-  const bool own_matrix = matrix && (t.variableMask || !first.full());
-  const auto borrowed = [&](int order) -> R* {
-    if (t.variableMask) return nullptr;
-    return t.sums[order] ? t.sums[order] : t.moments[order];
-  };
-  const uint64_t scratch_size =
-      !matrix    ? 0
-      : one_pass ? cross_scratch<R>(p)
-                 : uint64_t(block_length<R>(p, n)) * p * (given_mean + (t.weights != nullptr));
-  const bool need_mean = given_mean && !t.moments[kMean];
-
+  const Plan<R> plan(t, q, threader);
+  if (const int32_t status = plan.status()) return status;
+  Share<R> one, *shares = &one;
   Scratch<Share<R>> more;
-  Share<R> one;
-  work.shares = &one;
-  if (threads > 1) {
-    more = Scratch<Share<R>>(threads);
+  if (plan.threads() > 1) {
+    more = Scratch<Share<R>>(plan.threads());
     if (!more) return ORK_SS_NO_MEMORY;
-    work.shares = more.get();
+    shares = more.get();
   }
-  Arena<R> arena;
-  R* zero_mean = nullptr;
-  const auto deal = [&] {
-    if (need_mean) zero_mean = arena.take(p);
-    for (int k = 0; k < threads; ++k) {
-      Share<R>& share = work.shares[k];
-      share.weight = k == 0 ? sum : Weight<R>{0, 0};
-      for (int order = 0; order < kOrders; ++order) {
-        R* array = nullptr;
-        if (choice.kept & bit(order)) {
-          if (k == 0) array = borrowed(order);
-          if (!array) array = arena.take(p);
-        }
-        share.orders[order] = array;
-      }
-      if (given_mean) share.orders[kMean] = need_mean ? zero_mean : t.moments[kMean];
-      share.s = nullptr;
-      if (matrix) share.s = k > 0 || own_matrix ? arena.take(uint64_t(p) * p) : first.a;
-      share.scratch = arena.take(scratch_size);
-    }
-  };
-  deal();
-  if (!arena.allocate()) return ORK_SS_NO_MEMORY;
-  deal();
-
-  // From here on outputs change.
-  if (need_mean) memset(zero_mean, 0, size_t(p) * sizeof(R));
-  for (int k = 0; k < threads; ++k) {
-    const Share<R>& share = work.shares[k];
-    for (int order = 0; order < kOrders; ++order) {
-      if (!(choice.kept & bit(order))) continue;
-      if (k == 0 && (lost & bit(order)))
-        bring_back(order, p, sum.w, share.orders);
-      else if (k == 0)
-        start_order(t, order, share.orders[order], !borrowed(order), sum);
-      else
-        memset(share.orders[order], 0, size_t(p) * sizeof(R));
-    }
-    if (matrix && k == 0) start_matrix(first, form, share.s, sum);
-    if (matrix && k > 0) memset(share.s, 0, size_t(p) * p * sizeof(R));
-    if (scratch_size) memset(share.scratch, 0, size_t(scratch_size) * sizeof(R));
+  Scratch<R> block;
+  if (const uint64_t reals = plan.reals()) {
+    block = Scratch<R>(reals);
+    if (!block) return ORK_SS_NO_MEMORY;
   }
-
-  run_team(threader, threads, [&](int index, int team) { take_share(work, index, team); });
-
-  Share<R>& total = work.shares[0];
-  for (int k = 1; k < threads; ++k) merge(p, total, work.shares[k], given_mean);
-  if (matrix) finish_matrices(t, q, total.weight, total.s);
-  if (t.accumulatedWeight) {
-    t.accumulatedWeight[0] = total.weight.w;
-    t.accumulatedWeight[1] = total.weight.w2;
-  }
-  finish_moments(t, q, total.weight, total.orders);
+  plan.start(block.get(), shares);
+  const Work<R> work = plan.work(shares);
+  run_team(threader, plan.threads(), [&](int index, int team) { take_share(work, index, team); });
+  plan.finish(shares);
   return ORK_SS_OK;
 }
 
