@@ -18,6 +18,13 @@ ORK_INLINE Pair<V> exact_sum(V x, V y) {
   return {s, (x - s) + y};
 }
 
+// x + y, or x - y, of any two (Knuth).
+template <bool minus = false, class V>
+ORK_INLINE Pair<V> exact_sum_of_any(V x, V y) {
+  const V sum = minus ? x - y : x + y, z = sum - x;
+  return {sum, minus ? (x - (sum - z)) - (y + z) : (x - (sum - z)) + (y - z)};
+}
+
 // x y of any two doubles (Dekker 1971); |x|, |y| below 2^996.
 template <class V>
 ORK_INLINE Pair<V> exact_product(V x, V y) {
@@ -31,10 +38,30 @@ ORK_INLINE Pair<V> exact_product(V x, V y) {
 // The upper 26 bits; what is left has 27.
 ORK_INLINE f64x2 upper_half(f64x2 x) { return and_bits(x, splat_u64(~0ull << 27)); }
 
+// whole = high + low, high the upper half: for numbers that take part in several products.
+struct Upper {
+  f64x2 whole, high, low;
+  __attribute__((always_inline)) explicit Upper(f64x2 x)
+      : whole(x), high(upper_half(x)), low(x - high) {}
+};
 // x y; x has at most 26 bits.
-ORK_INLINE Pair<f64x2> exact_short_product(f64x2 x, f64x2 y) {
-  const f64x2 p = x * y, high = upper_half(y);
-  return {p, (x * high - p) + x * (y - high)};
+ORK_INLINE Pair<f64x2> exact_short_product(f64x2 x, const Upper& y) {
+  const f64x2 p = x * y.whole;
+  return {p, (x * y.high - p) + x * y.low};
+}
+
+// whole = high + low, both of 26 bits, high the nearest: products of these are exact.
+struct Halves {
+  f64x2 whole, high, low;
+  ORK_INLINE Halves of(f64x2 x) {
+    const u64x2 rounded = as<u64x2>(x) + splat_u64(uint64_t{1} << 26);
+    const f64x2 high = as<f64x2>(rounded & splat_u64(~uint64_t{0} << 27));
+    return {x, high, x - high};
+  }
+};
+ORK_INLINE Pair<f64x2> exact_product(const Halves& x, const Halves& y) {
+  const f64x2 p = x.whole * y.whole;
+  return {p, ((x.high * y.high - p) + (x.high * y.low + x.low * y.high)) + x.low * y.low};
 }
 
 }  // namespace ork

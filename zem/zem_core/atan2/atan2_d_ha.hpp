@@ -5,6 +5,7 @@
 // Rare: lanes within 2^-62 of a border between two doubles, and those with an exponent beyond
 // +-400, both left to the instruction; zeros, infinities, NaNs. Bound: 0.51 ulp.
 #include "atan2/atan2.hpp"
+#include "base/pair.hpp"
 
 namespace ork {
 
@@ -17,49 +18,29 @@ inline int vdatan2_cout_rare(const double* y, const double* x, double* r) {
   return 0;
 }
 
-struct Split {
-  f64x2 whole, high, low;  // high has 26 bits
-  __attribute__((always_inline)) explicit Split(f64x2 x)
-      : whole(x), high(and_bits(x, splat_u64(~0ull << 27))), low(x - high) {}
-};
-
-// b x = product + low, both exact; b has 7 bits.
-ORK_INLINE f64x2 product(f64x2 b, const Split& x, f64x2& low) {
-  const f64x2 p = b * x.whole;
-  low = (b * x.high - p) + b * x.low;
-  return p;
-}
-// x + y = sum + low, exact where |x| >= |y| or x = 0.
-ORK_INLINE f64x2 sum(f64x2 x, f64x2 y, f64x2& low) {
-  const f64x2 s = x + y;
-  low = (x - s) + y;
-  return s;
-}
-
 // |atan2| = result + low, for small above 2^-400 and large below 2^401.
 ORK_INLINE f64x2 atan2_pair(const Octant<double>& o, f64x2& low) {
   f64x2 step, step_low;
   const f64x2 b = atan_step(o.small / o.large, step, step_low);
 
-  const Split small(o.small), large(o.large);
-  f64x2 over, under, under_low;  // small - b large = num - over, large + b small = den + under
-  const f64x2 num = small.whole - product(b, large, over);  // exact
-  const f64x2 along = product(b, small, under_low);
-  const f64x2 whole = sum(large.whole, along, under);
-  const Split den(whole);
-  under += under_low;
+  // small - b large = num - over, large + b small = den + under
+  const auto [across, over] = exact_short_product(b, Upper(o.large));
+  const auto [along, along_low] = exact_short_product(b, Upper(o.small));
+  const f64x2 num = o.small - across;  // exact
+  const auto [whole, whole_low] = exact_sum(o.large, along);
+  const Upper den(whole);
+  const f64x2 under = whole_low + along_low;
   const f64x2 inverse = 1.0 / whole;
-  const Split t(num * inverse);
+  const Upper t(num * inverse);
   const f64x2 left = ((num - t.high * den.high) - t.high * den.low) - t.low * whole;
   const f64x2 t_low = ((left - over) - t.whole * under) * inverse;
 
   const f64x2 z = t.whole * t.whole;
   const f64x2 series =
       z * ((ratio<-1, 3> + z * ratio<1, 5>)+(z * z) * (ratio<-1, 7> + z * ratio<1, 9>));
-  f64x2 lost, lost_base;
-  const f64x2 angle = sum(step, t.whole, lost);
+  const auto [angle, lost] = exact_sum(step, t.whole);
   const f64x2 angle_low = lost + (step_low + (t_low + t.whole * series));
-  const f64x2 high = sum(o.base, xor_bits(angle, o.flip), lost_base);
+  const auto [high, lost_base] = exact_sum(o.base, xor_bits(angle, o.flip));
   low = lost_base + (o.base_low + xor_bits(angle_low, o.flip));
   return high;
 }

@@ -35,8 +35,8 @@ struct QuotientHaZ : Core<Complex<double>, 2> {
     const Halves x = Halves::of(a.re), y = Halves::of(a.im), u = Halves::of(b.re),
                  v = Halves::of(b.im);
     const Divisor d(sum_of_squares(u, v));
-    const Pair2 p = d.quotient(sum_of(two_product(x, u), two_product(y, v)));
-    const Pair2 q = d.quotient(sum_of<true>(two_product(y, u), two_product(x, v)));
+    const Pair<f64x2> p = d.quotient(sum_of(exact_product(x, u), exact_product(y, v)));
+    const Pair<f64x2> q = d.quotient(sum_of<true>(exact_product(y, u), exact_product(x, v)));
     return {p.high + p.low, q.high + q.low};
   }
   static int special(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {

@@ -49,7 +49,8 @@ inline int vcdiv_cout_rare(const Complex<float>* a, const Complex<float>* b, Com
 // n / d, rounded once; d > 0.
 inline double quotient(const Wide& n, const Wide& d) {
   if (n.high == 0) return n.zero;
-  const Pair2 q = Divisor({splat(d.high), splat(d.low)}).quotient({splat(n.high), splat(n.low)});
+  const Pair<f64x2> q =
+      Divisor({splat(d.high), splat(d.low)}).quotient({splat(n.high), splat(n.low)});
   return Wide{q.high[0], q.low[0], n.exponent - d.exponent, 0}.rounded();
 }
 

@@ -41,8 +41,8 @@ struct ProductHaZ : Core<Complex<double>, 2>, ProductName<double, conj> {
     rare |= by_lane(out_of_range(a) | out_of_range(b));
     const Halves x = Halves::of(a.re), y = Halves::of(a.im), u = Halves::of(b.re),
                  v = Halves::of(b.im);
-    const Pair2 re = sum_of<!conj>(two_product(x, u), two_product(y, v));
-    const Pair2 im = sum_of<conj>(two_product(y, u), two_product(x, v));
+    const Pair<f64x2> re = sum_of<!conj>(exact_product(x, u), exact_product(y, v));
+    const Pair<f64x2> im = sum_of<conj>(exact_product(y, u), exact_product(x, v));
     return {re.high + re.low, im.high + im.low};
   }
   static int special(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {

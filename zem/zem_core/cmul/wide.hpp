@@ -65,15 +65,15 @@ inline Wide product_sum(double s1, double t1, double s2, double t2) {
   const double one = 1.0;
   const Significand a(none1 ? one : s1), b(none1 ? one : t1), c(none2 ? one : s2),
       d(none2 ? one : t2);
-  const Pair2 both =
-      two_product(Halves::of(f64x2{a.value, c.value}), Halves::of(f64x2{b.value, d.value}));
+  const Pair<f64x2> both =
+      exact_product(Halves::of(f64x2{a.value, c.value}), Halves::of(f64x2{b.value, d.value}));
   const int e1 = a.exponent + b.exponent, e2 = c.exponent + d.exponent;
   if (none2 || (!none1 && e1 - e2 > 79)) return {both.high[0], both.low[0], e1, 0};
   if (none1 || e2 - e1 > 79) return {both.high[1], both.low[1], e2, 0};
   const int e = e1 > e2 ? e1 : e2;
   const f64x2 scale = {power_of_two(e1 - e), power_of_two(e2 - e)};
   const f64x2 high = both.high * scale, low = both.low * scale;
-  const Pair2 sum = sum_of({splat(high[0]), splat(low[0])}, {splat(high[1]), splat(low[1])});
+  const Pair<f64x2> sum = sum_of({splat(high[0]), splat(low[0])}, {splat(high[1]), splat(low[1])});
   return {sum.high[0], sum.low[0], e, 0};
 }
 

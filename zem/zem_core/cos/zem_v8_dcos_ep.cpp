@@ -11,7 +11,7 @@ static int vdcos_cout_rare(const double* x, double* r) { return scalar<_dCos>(x,
 struct CosEpD : Core<double> {
   static constexpr char name[] = "vdCos";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
-    rare |= at_least<Cosine::limit>(abs(x));
+    rare |= reaches<Cosine::limit>(abs(x));
     return odd_sine<PiEpD>(reduce<Cosine, PiEpD>(x));
   }
   static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }

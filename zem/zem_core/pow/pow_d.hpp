@@ -32,7 +32,7 @@ ORK_INLINE Pair<f64x2> pow_log2(f64x2 a, double down = 0) {
 
   const f64x2 m = or_bits(and_bits(a, splat_u64(0x000FFFFFFFFFFFFF)), as<u64x2>(splat(1.0)));
   const f64x2 c = gather(&pow_reciprocals[i0], &pow_reciprocals[i1]);
-  const auto [p, p_low] = exact_short_product(c, m);
+  const auto [p, p_low] = exact_short_product(c, Upper(m));
   const auto [w, w_low] = exact_sum(p - 1.4426949024200439, p_low);
 
   f64x2 h_high, h_low;

@@ -10,7 +10,7 @@ struct SinHaD : Core<double> {
   static constexpr unsigned x87 = x87_double;
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 ax = abs(x);
-    rare |= at_least<limit_90112>(ax);
+    rare |= reaches<limit_90112>(ax);
     const Reduced reduced = reduce_pi64(ax);
     return flip(sine_ha(reduced, taylor(reduced.z), 0), sign_of(x));
   }

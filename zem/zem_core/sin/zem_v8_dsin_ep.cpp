@@ -11,7 +11,7 @@ static int vdsin_cout_rare(const double* x, double* r) { return scalar<_dSin>(x,
 struct SinEpD : Core<double> {
   static constexpr char name[] = "vdSin";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
-    rare |= at_least<Sine::limit>(abs(x));
+    rare |= reaches<Sine::limit>(abs(x));
     return odd_sine<PiEpD>(reduce<Sine, PiEpD>(x));
   }
   static int special(const double* x, double* r) { return vdsin_cout_rare(x, r); }

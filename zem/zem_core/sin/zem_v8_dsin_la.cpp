@@ -16,7 +16,7 @@ static int vdsin_cout_rare(const double* x, double* r) {
 struct SinLaD : Core<double> {
   static constexpr char name[] = "vdSin";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
-    rare |= at_least<Sine::limit>(abs(x));
+    rare |= reaches<Sine::limit>(abs(x));
     return odd_sine<PiLaD>(reduce<Sine, PiLaD>(x));
   }
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {

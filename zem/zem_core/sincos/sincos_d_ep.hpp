@@ -1,4 +1,5 @@
 #pragma once
+#include "base/round.hpp"
 #include "frame/chunk.hpp"
 #include "ork/zem_kernels.h"
 #include "trig/bits.hpp"
@@ -13,11 +14,11 @@ namespace ork::trig {
 // Fast range |x| < 2^23. Bound 2^-26.
 struct SinCosEpD : Core<double, 1, 2> {
   static constexpr char name[] = "vdSinCos";
-  static constexpr double two_over_pi = 0.63661977236758138, shifter = 6755399441055744.0;
+  static constexpr double two_over_pi = 0.63661977236758138, shifter = integer_shifter<double>;
 
   ORK_INLINE f64x2 eval(f64x2 x, f64x2& cosine, u32x4& rare) {
     const f64x2 ax = abs(x);
-    rare |= at_least<0x41600000>(ax);
+    rare |= reaches<0x41600000>(ax);
     const f64x2 t = ax * two_over_pi + shifter, n = t - shifter;
     const f64x2 r =
         ax - n * 1.5707962512969971 - n * 7.5497894158615964e-08 - n * 5.390302858158119e-15;

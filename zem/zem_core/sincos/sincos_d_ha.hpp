@@ -11,7 +11,7 @@ struct SinCosHaD : Core<double, 1, 2> {
   static constexpr char name[] = "vdSinCos";
   ORK_INLINE f64x2 eval(f64x2 x, f64x2& cosine, u32x4& rare) {
     const f64x2 ax = abs(x);
-    rare |= at_least<limit_90112>(ax);
+    rare |= reaches<limit_90112>(ax);
     const Reduced reduced = reduce_pi64(ax);
     const Polynomials p = taylor(reduced.z);
     const f64x2 z = reduced.z, low = reduced.low;

@@ -7,7 +7,7 @@
 namespace ork::trig {
 
 // Sine and cosine, single, EP: each modulo pi, see pi_kernel.hpp, and sin r = r (c_0 + c_1 r^2 +
-// c_2 r^4), relative error 1.6e-4 = 2^-12.7 (given). Fast range |x| < 10000. Bound 2^-12.
+// c_2 r^4), relative error 1.6e-4 = 2^-12.7. Fast range |x| < 10000. Bound 2^-12.
 struct SinCosEpS : Core<float, 1, 2> {
   static constexpr char name[] = "sSinCos_A11";
   static constexpr unsigned x87 = x87_double;

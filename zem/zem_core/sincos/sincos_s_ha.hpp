@@ -11,7 +11,7 @@ namespace ork::trig {
 
 // Sine and cosine, single, HA, in double: x = n pi/2 + r, |r| <= pi/4,
 //   sin r = r (1 + s_1 r^2 + ... + s_4 r^8), relative error 5.1e-12 (fit)
-//   cos r = 1 + r^2 (c_0 + ... + c_3 r^6), relative error 1.2e-10 (given)
+//   cos r = 1 + r^2 (c_0 + ... + c_3 r^6), relative error 1.2e-10
 // n modulo 4 swaps the two and gives the signs. Fast range |x| < 10000. special: the scalar
 // routine, any argument. Bound 0.55 ulp.
 struct SinCosHaS : Core<float, 1, 2> {

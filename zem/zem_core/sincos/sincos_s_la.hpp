@@ -1,4 +1,5 @@
 #pragma once
+#include "base/round.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 #include "sincos/quarters.hpp"
@@ -7,16 +8,16 @@
 namespace ork::trig {
 
 // Sine and cosine, single, LA: |x| = n pi/2 + r, |r| <= pi/4, z = r^2, pi/2 in parts of 8, 11, 11
-// bits and the rest (rule): n times all but the last is exact;
+// bits and the rest: n times all but the last is exact;
 //   sin r = r + r^3 (s_0 + s_1 z + s_2 z^2), relative error 3.9e-9
 //   cos r = 1 + z (c_0 + ... + c_3 z^3), relative error 1.2e-10
-// (both given, rounded). Fast range |x| < 10000. special: the scalar routine. Bound 2 ulp.
+// (both of the rounded ones). Fast range |x| < 10000. special: the scalar routine. Bound 2 ulp.
 struct SinCosLaS : Core<float, 1, 2> {
   static constexpr char name[] = "sSinCos_LA";
   static constexpr unsigned x87 = x87_double;
   ORK_INLINE f32x4 eval(f32x4 argument, f32x4& cosine, u32x4& rare) {
     const f32x4 x = within<limit_10000>(argument, rare);
-    const f32x4 ax = abs(x), shifter = splat(12582912.0f);  // 1.5 * 2^23
+    const f32x4 ax = abs(x), shifter = splat(integer_shifter<float>);
     const f32x4 t = ax * splat(0.636619747f) + shifter, n = t - shifter;
     const f32x4 r2 = ax - n * splat(1.5703125f) - n * splat(0.000483751297f);
     // The last two parts as a sum, and then its rounding error.

@@ -35,7 +35,7 @@ ORK_INLINE bool _zemdTan_HA_Reduction(const double* a, int count, Stage& s) {
   for (int i = 0; i < count; i += 2) {
     const f64x2 x = count - i >= 2 ? load(a + i) : load_part(a + i, 1);
     const f64x2 ax = abs(x), t = half_pi_steps(ax), n = t - splat(0x1p52);
-    any |= s.rare[i / 2] = at_least<limit_128000>(ax);
+    any |= s.rare[i / 2] = reaches<limit_128000>(ax);
     const f64x2 r2 = ax - n * splat(1.5707962512969971) - n * splat(7.5497894158615964e-08);
     const f64x2 third = n * splat(5.3903025299577648e-15), r3 = r2 - third;
     store_aligned(s.high + i, r3);

@@ -14,7 +14,7 @@ struct TanLaD : Core<double> {
   static constexpr unsigned x87 = x87_double;
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 ax = abs(x);
-    rare |= at_least<limit_128000>(ax);
+    rare |= reaches<limit_128000>(ax);
     const f64x2 t = half_pi_steps(ax), n = t - splat(0x1p52);
     const f64x2 r2 = ax - n * splat(1.5707962512969971) - n * splat(7.5497894158615964e-08);
     const f64x2 third = n * splat(5.3903025299577648e-15), r = r2 - third;

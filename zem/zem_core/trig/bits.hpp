@@ -7,11 +7,11 @@ namespace ork::trig {
 // Sign bit of a lane (of a double: of its high word) set where |x| is at or above a limit, itself
 // an image (of a double: its high word); infinities and NaN are.
 template <uint32_t limit, class V>
-ORK_INLINE u32x4 at_least(V ax) {
+ORK_INLINE u32x4 reaches(V ax) {
   return as<u32x4>(ax) + splat_u32(0x80000000u - limit);
 }
 
-// x, or 0 in the lanes of `large`, at_least's: a single so large would raise flags further on.
+// x, or 0 in the lanes of `large`, reaches()'s: a single so large would raise flags further on.
 template <uint32_t limit>
 ORK_INLINE f32x4 within(f32x4 x, u32x4& rare) {
   const i32x4 large = as<i32x4>(abs(x)) > as<i32x4>(splat_u32(limit - 1));

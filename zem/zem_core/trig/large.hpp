@@ -93,8 +93,8 @@ ORK_INLINE f64x2 large_sine(f64x2 ax, int quarters) {
 // `fast` with the lanes from a limit on replaced by `wide`; infinities and NaN are rare.
 template <uint32_t limit>
 ORK_INLINE f64x2 replace_large(f64x2 ax, f64x2 fast, f64x2 wide, u32x4& rare) {
-  const i32x4 large = as<i32x4>(high_words(as<f64x2>(at_least<limit>(ax)))) >> 31;
-  rare |= at_least<0x7FF00000>(ax);
+  const i32x4 large = as<i32x4>(high_words(as<f64x2>(reaches<limit>(ax)))) >> 31;
+  rare |= reaches<0x7FF00000>(ax);
   return select(large, wide, fast);
 }
 

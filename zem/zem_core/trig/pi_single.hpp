@@ -31,13 +31,13 @@ struct SingleEp : SingleCore<F> {
   }
   static __attribute__((noinline)) f32x4 eval_rest(f32x4 x, f32x4 fast, u32x4& rare) {
     const f32x4 ax = abs(x);
-    rare |= at_least<limit_1e7>(ax);
+    rare |= reaches<limit_1e7>(ax);
     const Widened w = widen(ax);
     f64x2 t0, t1;
     const f64x2 r0 = F::template remainder<PiEpD>(w.low, t0),
                 r1 = F::template remainder<PiEpD>(w.high, t1);
     const ModuloPi<f32x4> reduced = {narrow(r0, r1), F::sign(parity(low_words(t0, t1)), x)};
-    return select(as<i32x4>(at_least<limit_10000>(ax)) >> 31, odd_sine<PiEpS>(reduced), fast);
+    return select(as<i32x4>(reaches<limit_10000>(ax)) >> 31, odd_sine<PiEpS>(reduced), fast);
   }
 };
 
