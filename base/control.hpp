@@ -1,6 +1,6 @@
 #pragma once
 // Guards for the processor's floating-point control words. The asm statements clobber
-// memory: a kernel's arithmetic hangs on its loads and ends in its stores, so neither moves
+// memory: a kernel's arithmetic begins with its loads and ends in its stores, so neither moves
 // across the change or the restore.
 #include "base/vec.hpp"
 

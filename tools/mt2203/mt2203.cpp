@@ -126,7 +126,7 @@ int verify(const char* path, int step) {
   }
   for (const auto& [k, m] : kGiven)
     if (rows.empty() || std::memcmp(&rows[k], &m, sizeof m) != 0)
-      std::printf("row %d is not as given\n", k), ++faults;
+      std::printf("row %d differs from the frozen one\n", k), ++faults;
   if (checked != 0)
     std::printf(
         "%d rows, %d checked in full, %d faults; total defect %.1f on average, %d at most\n",

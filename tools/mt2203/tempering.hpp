@@ -19,7 +19,7 @@ namespace mt2203 {
 
 constexpr int kDefectLimit = 720, kPowerDefectLimit = 4;
 
-// The largest defects of the three members whose parameters were given.
+// The largest defects of the three members whose parameters are frozen.
 constexpr int kUsual[33] = {0,  0,  0,  29, 2,  29, 22, 37, 1,  37, 13, 59, 45, 31, 19, 8, 0,
                             59, 53, 46, 41, 35, 31, 26, 22, 19, 15, 12, 9,  6,  5,  3,  0};
 

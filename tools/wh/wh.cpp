@@ -202,12 +202,12 @@ int verify(const char* path) {
                     r.m + 1, r.m + 2, r.m + 3) != 8)
       continue;
     const char* what = fault(r, used, rows == 0 ? given : worst);
-    // The first row is as it was given, whatever its figure.
+    // The first row is frozen, whatever its figure.
     if (rows == 0 && what && std::strcmp(what, "spectral test") == 0)
-      what = std::memcmp(&r, &kFirstRow, sizeof r) == 0 ? nullptr : "not as given";
+      what = std::memcmp(&r, &kFirstRow, sizeof r) == 0 ? nullptr : "differs from the frozen one";
     if (what) std::printf("row %d: %s\n", rows, what), ++faults;
     if (++rows == kRows && std::memcmp(r.m, kLastModuli, sizeof r.m) != 0)
-      std::puts("the last row is not as given"), ++faults;
+      std::puts("the last row differs from the frozen one"), ++faults;
   }
   std::fclose(in);
   if (rows != kRows) ++faults;

@@ -133,7 +133,7 @@ struct Natural {
     return ORK_DF_OK;
   }
 
-  // The periodic column u stands behind the functions' right sides.
+  // The periodic column u stands after the functions' right sides.
   int together(int ny) const {
     for (int f = 0; f < ny; ++f)
       if (const int code = right_side(f, difference(f), column(f))) return code;

@@ -15,8 +15,8 @@ constexpr R kSqrt2 = 0x1.6a09e667f3bcdp+0;
 template <>
 constexpr float kSqrt2<float> = 0x1.6a09e6p+0f;
 
-// At the ends of its range the inverse error function becomes finite; a logarithm of 0 is the
-// least one.
+// At the ends of its range the inverse error function gives a large finite number; a logarithm of 0
+// is the least one.
 template <class R>
 struct Ends {
   static constexpr double kLow = -0.7670519064056041, kHigh = 5.8635847487551676;

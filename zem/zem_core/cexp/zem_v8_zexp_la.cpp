@@ -13,7 +13,7 @@ struct ExpLaZ : ComplexExp<double> {
   ORK_INLINE Planes<f64x2> eval(const Planes<f64x2>& z, u32x4& rare) {
     using namespace trig;
     const f64x2 e = ExpD<ExpHa>::eval(z.re, rare), ay = ork::abs(z.im);
-    rare |= at_least<limit_90112>(ay);
+    rare |= reaches<limit_90112>(ay);
     const Reduced reduced = reduce_pi64(ay);
     const Polynomials p = taylor(reduced.z);
     const f64x2 y = reduced.z + reduced.low;

@@ -21,7 +21,7 @@ struct ExpHaZ : ComplexExp<double> {
     rare |= 0x4086232A - as<u32x4>(ork::abs(z.re));
 
     const f64x2 ay = ork::abs(z.im);
-    rare |= at_least<limit_90112>(ay);
+    rare |= reaches<limit_90112>(ay);
     const Reduced y = reduce_pi64(ay);
     const Polynomials q = taylor(y.z);
     const Pair<f64x2> s = table_sine(gather(rows_pi64, y.rows), y.z, y.low, q.s, q.c);

@@ -34,7 +34,7 @@ template <class R>
 using Kernel = void (*)(const Data<R>& data, int first, int last, Weight<R>& weight,
                         R* const* orders, R* s, R* scratch);
 
-// A hint; what is that far behind p need not be there.
+// A hint; what is that far after p need not be there.
 ORK_INLINE void prefetch(const void* p, size_t bytes) {
   _mm_prefetch((const char*)((uintptr_t)p + bytes), _MM_HINT_T0);
 }
