@@ -143,6 +143,7 @@ TYPED_TEST(FrontStatistics, WhatAComputationReadsIsThere) {
       if (r.method != ORK_SS_STREAM) refuse(s, ORK_SS_BAD_OBSERVATION_COUNT, "n");
       s.n = 5;
       refuse(bare, ORK_SS_BAD_OBSERVATION_COUNT, "no n");
+      bare.n = 1;
       bare.set(ORK_SS_EDIT_OBSERVATION_COUNT, bare.n);
       refuse(bare, ORK_SS_NULL_OBSERVATIONS, "no x");
       Api<TypeParam>::edit(bare.task, ORK_SS_EDIT_OBSERVATIONS, bare.x);
