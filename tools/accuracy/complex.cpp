@@ -82,7 +82,7 @@ struct Pair {
   T re, im;
 };
 
-// Random numbers of a type: significands with all bits, exponents as asked for.
+// Random numbers of a type: significands with all bits, exponents from an interval.
 template <class T>
 struct Draw {
   using L = std::numeric_limits<T>;
