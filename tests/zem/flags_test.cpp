@@ -44,7 +44,7 @@ std::vector<T> ordinary() {
                            T(89.2),  T(90),    T(100),   T(103.5), T(171.5), T(700), T(708.5),
                            T(709.5), T(710.2), T(745.2), T(1000),  T(70000), T(1e5)};
   points.push_back(sizeof(T) == 8 ? T(710.474) : T(89.414));
-  constexpr int range = sizeof(T) == 8 ? 100 : 60;
+  constexpr int range = sizeof(T) == 8 ? 100 : 30;
   for (int e = -range; e < range; e += sizeof(T) == 8 ? 7 : 5)
     points.push_back(std::ldexp(T(1) + T((unsigned(e) * 2654435769u) >> 8) / T(1 << 25), e));
   for (size_t i = 0, n = points.size(); i < n; ++i) points.push_back(-points[i]);

@@ -14,7 +14,7 @@ struct AcosEpS : Core<float> {
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(a, splat(1.0f)));
     const u32x4 outer = as<u32x4>((f32x4)_mm_cmple_ps(splat(0.5f), a));
     const u32x4 negative = as<u32x4>((f32x4)_mm_cmplt_ps(x, splat(0.0f))) & outer;
-    const f32x4 k = sasin_ep(sasin_variable(a, outer), a, outer);
+    const f32x4 k = sasin_ep(sasin_variable<true>(a, outer), a, outer);
     const f32x4 f = as<f32x4>(as<u32x4>(splat(-1.0f)) + (outer & 0x80800000));  // -1 or 2
     const u32x4 base =
         (~outer & as<uint32_t>(1.57079637f)) | (negative & as<uint32_t>(3.14159274f));

@@ -101,7 +101,7 @@ struct AsinShort {
   using vec = vec_of<T>;
   using ivec = typename simd<T>::ivec;
   vec inner, v, rest;
-  __attribute__((always_inline)) explicit AsinShort(vec a) {
+  __attribute__((always_inline)) AsinShort(vec a, bool) {
     vec twice_z, y;
     inner = asin_variable<T>(a, twice_z, y);
     v = select(inner, a, Level::root(twice_z));
@@ -150,7 +150,8 @@ struct AsinHaInDouble : AsinLa {  // double lanes for single results
 // misses of 4 z goes into low, a rsqrt estimate being enough to divide by.
 struct AsinLong {
   f64x2 inner, high, low, rest;
-  __attribute__((always_inline)) explicit AsinLong(f64x2 a) {
+  // whole: where the low part of a is denormal and flushed, the high part is all of a.
+  __attribute__((always_inline)) AsinLong(f64x2 a, bool whole) {
     const u64x2 split = splat_u64(0xFFFFFFFFFC000000), upper_split = splat_u64(0xFFFFFF8000000000);
     f64x2 twice_z, y;
     inner = asin_variable<double>(a, twice_z, y);
@@ -159,9 +160,8 @@ struct AsinLong {
     const f64x2 upper = and_bits(s_high, upper_split);
     const f64x2 miss =
         (((twice_z + twice_z) - s_high * upper) - s_high * (s_high - upper)) - s_low * (s + s_high);
-    // a less its low part is the high one, or all of a where the low part is denormal and flushed.
-    const f64x2 a_low = a - and_bits(a, split), v = select(inner, a, s);
-    high = select(inner, a - a_low, s_high);
+    const f64x2 a_high = and_bits(a, split), a_low = a - a_high, v = select(inner, a, s);
+    high = select(inner, whole ? a - a_low : a_high, s_high);
     low = select(inner, a_low, s_low + miss * (0.25 * estimate));
     rest = v * (y * asin_poly(y));
   }
@@ -201,7 +201,7 @@ struct Asin : Core<T> {
     const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec a = abs(x);
     rare |= as<u32x4>(not_below_or_equal(a, splat(T(1))));
-    const typename Level::template K<T> k(a);
+    const typename Level::template K<T> k(a, true);
     const ivec outer = ~as<ivec>(k.inner);
     const vec m = k.add(and_bits(splat(Angle<T>::half), outer),
                         and_bits(splat(Angle<T>::half_low), outer), sign & outer);
@@ -220,7 +220,7 @@ struct Acos : Core<T> {
     const ivec sign = as<ivec>(splat(T(-0.0)));
     const vec a = abs(x);
     rare |= as<u32x4>(not_below_or_equal(a, splat(T(1))));
-    const typename Level::template K<T> k(a);
+    const typename Level::template K<T> k(a, false);
     const ivec inner = as<ivec>(k.inner), below = as<ivec>(less(x, splat(T(0)))) & ~inner;
     const auto base = [&](T half, T whole) {
       return as<vec>((inner & as<ivec>(splat(half))) | (below & as<ivec>(splat(whole))));

@@ -21,8 +21,12 @@ inline int sasin_special(const float* x, float* r) {
 }
 
 // z = (1 - a)/2 where a >= 0.5 (`outer`), else a^2. The halving is of the exponent field.
+template <bool estimate>
 ORK_INLINE f32x4 sasin_variable(f32x4 a, u32x4 outer) {
-  const f32x4 half = as<f32x4>(as<u32x4>(1.0f - a) - 0x00800000);
+  // Of a = 1: -infinity, whose estimated root is a NaN, or with saturation 0; both raise no flag.
+  const __m128i two_halves = as<__m128i>(1.0f - a), step = _mm_set1_epi32(0x00800000);
+  const f32x4 half =
+      as<f32x4>(estimate ? _mm_sub_epi32(two_halves, step) : _mm_subs_epu16(two_halves, step));
   return select(outer, half, a * a);
 }
 
@@ -35,7 +39,7 @@ ORK_INLINE f32x4 sasin_result(f32x4 k, u32x4 outer) {
 // v + v S(z) with v = sqrt z by rsqrt and one Newton step; relative error 2^-12.
 // Constants: given.
 ORK_INLINE f32x4 sasin_ep(f32x4 z, f32x4 a, u32x4 outer) {
-  const f32x4 y = root_estimate(z), s = z * y;
+  const f32x4 y = and_bits(rsqrt_est(z), outer), s = z * y;  // of 0 it is infinite
   const f32x4 v = select(outer, (s * y - 3.0f) * (-0.5f * s), a);
   return v + v * (z * (0.165042728f + z * 0.0943948552f));
 }

@@ -13,7 +13,7 @@ struct AsinEpS : Core<float> {
     const f32x4 a = abs(x);
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(a, splat(1.0f)));
     const u32x4 outer = as<u32x4>((f32x4)_mm_cmple_ps(splat(0.5f), a));
-    const f32x4 k = sasin_ep(sasin_variable(a, outer), a, outer);
+    const f32x4 k = sasin_ep(sasin_variable<true>(a, outer), a, outer);
     return or_bits(sasin_result(k, outer), as<u32x4>(x) & sign_f32x4);
   }
   static int special(const float* x, float* r) { return sasin_special(x, r); }

@@ -14,8 +14,7 @@ struct AsinLaS : Core<float> {
     const f32x4 a = abs(x);
     rare |= as<u32x4>((f32x4)_mm_cmpnlt_ps(a, splat(1.0f)));
     const u32x4 outer = as<u32x4>((f32x4)_mm_cmple_ps(splat(0.5f), a));
-    const f32x4 z = abs(sasin_variable(a, outer)), w = z * z;  // of 1 it is -infinity
-    const f32x4 v = select(outer, sqrt(z), a);
+    const f32x4 z = sasin_variable<false>(a, outer), w = z * z, v = select(outer, sqrt(z), a);
     const f32x4 odd = z * (0.166667551f + w * (0.0454827659f + w * 0.0422858484f));
     const f32x4 even = w * (0.0749520734f + w * 0.0241135862f);
     return or_bits(sasin_result(v + v * (odd + even), outer), as<u32x4>(x) & sign_f32x4);

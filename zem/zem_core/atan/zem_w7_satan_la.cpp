@@ -13,7 +13,7 @@ struct AtanLaS : Core<float> {
     const f32x4 a = abs(x);
     const u32x4 large = as<u32x4>((f32x4)_mm_cmple_ps(splat(1.0f), a));
     rare |= as<u32x4>((f32x4)_mm_cmpeq_ps(a, splat(__builtin_inff())));
-    const f32x4 y = rcp_est(_mm_max_ps(splat(1.0f), a));  // of 0 it would be infinite
+    const f32x4 y = and_bits(rcp_est(a), large);  // of 0 it is infinite
     const f32x4 t = select(large, y * (a * y - 2.0f), a);
     const f32x4 z = t * t, w = z * z;
     const f32x4 odd =

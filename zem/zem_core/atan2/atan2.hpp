@@ -8,6 +8,11 @@
 
 namespace ork {
 
+ORK_INLINE f64x2 least(f64x2 x, f64x2 y) { return _mm_min_pd(x, y); }
+ORK_INLINE f32x4 least(f32x4 x, f32x4 y) { return _mm_min_ps(x, y); }
+ORK_INLINE f64x2 greatest(f64x2 x, f64x2 y) { return _mm_max_pd(x, y); }
+ORK_INLINE f32x4 greatest(f32x4 x, f32x4 y) { return _mm_max_ps(x, y); }
+
 template <class T>
 struct Octant {
   using vec = vec_of<T>;
@@ -24,9 +29,9 @@ struct Octant {
       return as<vec>((steep & as<ivec>(splat(half))) | (level & as<ivec>(splat(whole))));
     };
     constexpr bool d = sizeof(T) == 8;
-    small = select(steep, ax, ay), large = select(steep, ay, ax);
-    zero = (ivec)(large == T(0));
-    large = or_bits(large, zero & as<ivec>(splat(T(1))));
+    // Of a NaN: |y| is `small`, |x| is `large`.
+    zero = (ivec)(y == T(0)) & (ivec)(x == T(0));
+    small = least(ax, ay), large = or_bits(greatest(ay, ax), zero & as<ivec>(splat(T(1))));
     base = either(T(1.5707963267948966), T(3.141592653589793));
     base_low = either(d ? T(6.123233995736766e-17) : T(-4.37113883e-8),
                       d ? T(1.2246467991473532e-16) : T(-8.74227766e-8));

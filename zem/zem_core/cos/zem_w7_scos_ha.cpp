@@ -13,7 +13,9 @@ struct CosHaS : Core<float> {
     return sine_single_ha(ax, (t - splat(PiEpD::shifter)) - splat(0.5));
   }
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
-    const Widened w = widen(within<limit_10000>(abs(x), rare));
+    const f32x4 ax = abs(x);
+    rare |= reaches<limit_10000>(ax);
+    const Widened w = widen(ax);
     f64x2 t0, t1;
     const f64x2 r0 = half(w.low, t0), r1 = half(w.high, t1);
     return flip(narrow(r0, r1), parity(low_words(t0, t1)));

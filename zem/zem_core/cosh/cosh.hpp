@@ -12,12 +12,7 @@ struct Cosh : Core<typename Level::type> {
   using T = typename Level::type;
   using vec = vec_of<T>;
   static constexpr char name[] = {'v', sizeof(T) == 8 ? 'd' : 's', 'C', 'o', 's', 'h', 0};
-  ORK_INLINE vec eval(vec x, u32x4& rare) {
-    const vec a = abs(x);
-    const u32x4 far = beyond(a, Level::limit);
-    rare |= far;
-    return from_pair<Level, false>(within(a, far));
-  }
+  ORK_INLINE vec eval(vec x, u32x4& rare) { return from_pair<Level, false>(abs(x), rare); }
   static int special(const T* x, T* r) { return pair_special<T, false>(x, r); }
 };
 

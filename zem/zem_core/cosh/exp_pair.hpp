@@ -19,20 +19,15 @@ alignas(16) inline constexpr float pair_split128_s[128][2] = {
 #include "cosh/split128_s.inc"
 };
 
-// The lanes of a >= 0 beyond the fast range, all bits set (of a double: in its high word). With
-// those bits cleared such a lane goes through the formula without raising a flag: further out
-// scales would be infinite.
-ORK_INLINE u32x4 beyond(f64x2 a, uint32_t limit) {
+// The lanes of a >= 0 within the fast range, all bits set (of a double: in its high word). The
+// scales of the others are made 0: infinite ones would raise flags.
+ORK_INLINE u32x4 pair_lanes(f64x2 a, uint32_t limit) {
   const int high = (int)limit;
-  return as<u32x4>(as<i32x4>(a) > i32x4{0x7FFFFFFF, high, 0x7FFFFFFF, high});
+  return ~as<u32x4>(as<i32x4>(a) > i32x4{0x7FFFFFFF, high, 0x7FFFFFFF, high});
 }
-ORK_INLINE u32x4 beyond(f32x4 a, uint32_t limit) {
+ORK_INLINE u32x4 pair_lanes(f32x4 a, uint32_t limit) {
   const int image = (int)limit;
-  return as<u32x4>(as<i32x4>(a) > i32x4{image, image, image, image});
-}
-template <class V>
-ORK_INLINE V within(V a, u32x4 beyond) {
-  return as<V>(as<u32x4>(a) & ~beyond);
+  return ~as<u32x4>(as<i32x4>(a) > i32x4{image, image, image, image});
 }
 
 template <class T>
@@ -41,24 +36,24 @@ struct ExpPair {
 };
 
 // 2^(m/64) of the low words of m, in high and low; 2^(m/128) in one word.
-ORK_INLINE f64x2 power64(u32x4 m, f64x2& low) {
+ORK_INLINE f64x2 power64(u32x4 m, u32x4 kept, f64x2& low) {
   const __m128i row = (__m128i)((m & 63) << 4);
   const char* const table = (const char*)pair_split64_d;
   const f64x2 row0 = *(const f64x2*)(table + _mm_cvtsi128_si32(row));
   const f64x2 row1 = *(const f64x2*)(table + _mm_extract_epi16(row, 4));
   const u64x2 field = as<u64x2>(m + u32x4{1023 << 6, 0, 1023 << 6, 0}) << 46;
-  const f64x2 scale = as<f64x2>(field & splat_u64(0x7FF0000000000000));
+  const f64x2 scale = as<f64x2>(field & (splat_u64(0x7FF0000000000000) & as<u64x2>(kept)));
   low = (f64x2)_mm_unpackhi_pd(row0, row1) * scale;
   return (f64x2)_mm_unpacklo_pd(row0, row1) * scale;
 }
-ORK_INLINE f64x2 power128(u32x4 m) {
+ORK_INLINE f64x2 power128(u32x4 m, u32x4 kept) {
   const __m128i j = (__m128i)(m & 127);
   const f64x2 low = _mm_load_sd(pair_power128_d + _mm_cvtsi128_si32(j));
   const f64x2 t = _mm_loadh_pd(low, pair_power128_d + _mm_extract_epi16(j, 4));
   const u64x2 field = as<u64x2>(m + u32x4{1023 << 7, 0, 1023 << 7, 0}) << 45;
-  return t * as<f64x2>(field & splat_u64(0x7FF0000000000000));
+  return t * as<f64x2>(field & (splat_u64(0x7FF0000000000000) & as<u64x2>(kept)));
 }
-ORK_INLINE f32x4 power128_s(u32x4 m, f32x4& low) {
+ORK_INLINE f32x4 power128_s(u32x4 m, u32x4 kept, f32x4& low) {
   const __m128i j = (__m128i)(m & 127);
   const __m64* const rows = (const __m64*)pair_split128_s;
   const f32x4 none = {};
@@ -66,7 +61,7 @@ ORK_INLINE f32x4 power128_s(u32x4 m, f32x4& low) {
       _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_cvtsi128_si32(j)), rows + _mm_extract_epi16(j, 2));
   const f32x4 row23 = _mm_loadh_pi(_mm_loadl_pi(none, rows + _mm_extract_epi16(j, 4)),
                                    rows + _mm_extract_epi16(j, 6));
-  const f32x4 scale = as<f32x4>(((m >> 7) + 127) << 23);
+  const f32x4 scale = as<f32x4>(((m >> 7) + 127) << 23 & kept);
   low = (f32x4)_mm_shuffle_ps(row01, row23, 0xDD) * scale;
   return (f32x4)_mm_shuffle_ps(row01, row23, 0x88) * scale;
 }
@@ -75,12 +70,12 @@ struct PairHa {
   using type = double;
   static constexpr bool long_sum = true;
   static constexpr uint32_t limit = 0x40862335;  // the highest high word of the fast range
-  ORK_INLINE ExpPair<double> reduce(f64x2 a) {
+  ORK_INLINE ExpPair<double> reduce(f64x2 a, u32x4 kept) {
     const f64x2 t = a * 92.33248261689366 + 6755399441055744.0, n = t - 6755399441055744.0;
     ExpPair<double> e;
     e.r = a - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
-    e.up = power64(as<u32x4>(t), e.up_low);
-    e.down = power64(-as<u32x4>(t), e.down_low);
+    e.up = power64(as<u32x4>(t), kept, e.up_low);
+    e.down = power64(-as<u32x4>(t), kept, e.down_low);
     return e;
   }
   ORK_INLINE f64x2 even(f64x2 q) { return q * (0.49999999999945266 + q * 0.041666725157316162); }
@@ -93,13 +88,13 @@ struct PairLa {
   using type = double;
   static constexpr bool long_sum = false;
   static constexpr uint32_t limit = 0x40861D98;  // 707.6998
-  ORK_INLINE ExpPair<double> reduce(f64x2 a) {
+  ORK_INLINE ExpPair<double> reduce(f64x2 a, u32x4 kept) {
     constexpr double shifter = 52776558133248.0;  // 1.5 * 2^45: 128ths in the low word
     const f64x2 t = a * 1.4426950408889634 + shifter, n = t - shifter;
     ExpPair<double> e;
     e.r = a - n * 0.69314718057285063 - n * -1.2905320270077144e-11;
-    e.up = power128(as<u32x4>(t));
-    e.down = power128(-as<u32x4>(t));
+    e.up = power128(as<u32x4>(t), kept);
+    e.down = power128(-as<u32x4>(t), kept);
     return e;
   }
   // Taylor: |r| <= ln 2/256 leaves r^6/720 = 2^-61.
@@ -111,13 +106,13 @@ struct PairLaS {
   using type = float;
   static constexpr bool long_sum = false;
   static constexpr uint32_t limit = 0x42AEAC4F;
-  ORK_INLINE ExpPair<float> reduce(f32x4 a) {
+  ORK_INLINE ExpPair<float> reduce(f32x4 a, u32x4 kept) {
     const f32x4 t = a * 184.664963f + 11534336.0f, n = t - 11534336.0f;
     const u32x4 m = as<u32x4>(t) - 0x4B300000;
     ExpPair<float> e;
     e.r = a - n * 0.00541687012f - n * -1.65776908e-06f;
-    e.up = power128_s(m, e.up_low);
-    e.down = power128_s(-m, e.down_low);
+    e.up = power128_s(m, kept, e.up_low);
+    e.down = power128_s(-m, kept, e.down_low);
     return e;
   }
   ORK_INLINE f32x4 even(f32x4 q) { return q * 0.5f; }
@@ -127,13 +122,13 @@ struct PairHaS : PairLaS {
   static constexpr bool long_sum = true;
 };
 struct PairEpS : PairLaS {  // cosh r = 1, sinh r = r to 2^-18
-  ORK_INLINE ExpPair<float> reduce(f32x4 a) {
+  ORK_INLINE ExpPair<float> reduce(f32x4 a, u32x4 kept) {
     const f32x4 t = a * 184.664963f + 11534336.0f, n = t - 11534336.0f;
     const u32x4 m = as<u32x4>(t) - 0x4B300000;
     ExpPair<float> e;
     e.r = a - n * 0.00541521236f;
-    e.up = power128_s(m, e.up_low);
-    e.down = power128_s(-m, e.down_low);
+    e.up = power128_s(m, kept, e.up_low);
+    e.down = power128_s(-m, kept, e.down_low);
     return e;
   }
   ORK_INLINE f32x4 even(f32x4) { return f32x4{}; }
@@ -141,10 +136,12 @@ struct PairEpS : PairLaS {  // cosh r = 1, sinh r = r to 2^-18
 };
 
 template <class Level, bool sinh>
-ORK_INLINE vec_of<typename Level::type> from_pair(vec_of<typename Level::type> a) {
+ORK_INLINE vec_of<typename Level::type> from_pair(vec_of<typename Level::type> a, u32x4& rare) {
   using T = typename Level::type;
   using vec = vec_of<T>;
-  const ExpPair<T> e = Level::reduce(a);
+  const u32x4 kept = pair_lanes(a, Level::limit);
+  rare |= ~kept;
+  const ExpPair<T> e = Level::reduce(a, kept);
   vec sum = e.up + e.down, diff = e.up - e.down;
   const vec head = sinh ? diff : sum;
   vec low{};

@@ -32,24 +32,19 @@ struct ErfcSteps {
   }
 };
 
-// x^2 = x_hi^2 + rest; exp(-x^2) = scale (T + T_low) exp(r), the scale being 2^k times 2^154.
+// x^2 = x_hi^2 + rest; exp(-x^2) = scale (T + T_low) exp(r), the scale being 2^k times 2^154. Both
+// are 0 but in the lanes of `kept`: far beyond the fast range they might raise flags.
 struct ErfcExp {
   f64x2 r, t, t_low, scale;
-  __attribute__((always_inline)) ErfcExp(f64x2 x_hi, f64x2 rest) {
+  __attribute__((always_inline)) ErfcExp(f64x2 x_hi, f64x2 rest, u64x2 kept) {
     const f64x2 square = x_hi * x_hi;  // exact
     const ErfcSteps s(square);
-    r = ((s.n * -0.0054152123630046844 - square) - rest) - s.n * -1.4880111718420063e-11;
-    scale = as<f64x2>(s.k + splat_u64((uint64_t)(1023 + 154) << 52));
+    r = and_bits(((s.n * -0.0054152123630046844 - square) - rest) - s.n * -1.4880111718420063e-11,
+                 kept);
+    scale = as<f64x2>((s.k + splat_u64((uint64_t)(1023 + 154) << 52)) & kept);
     gather_pairs(&erfc_powers[s.j[0]].high, &erfc_powers[s.j[1]].high, t, t_low);
   }
 };
-
-// |x|, or a number in [27, 28) where it is larger: beyond that the value is 0 or 2, and terms might
-// overflow.
-ORK_INLINE f64x2 erfc_size(f64x2 x) {
-  const __m128i most = _mm_set1_epi64x(0x403B7FFF7FFF7FFF);  // signed words: only the top one binds
-  return as<f64x2>(_mm_min_epi16(as<__m128i>(abs(x)), most));
-}
 
 // Row and t of |x|.
 template <int last, int columns>
@@ -89,12 +84,14 @@ template <class Formula>
 struct ErfcD : Core<double> {
   static constexpr char name[] = "vdErfc";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
-    rare |= outside(as<u32x4>(abs(x)), 0, 0x403A8B12);
-    return Formula::value(x);
+    const u32x4 far = outside(as<u32x4>(abs(x)), 0, 0x403A8B12);
+    rare |= far;
+    return Formula::value(x, ~as<u64x2>(high_words(as<f64x2>(far))));
   }
   static int special(const double* x, double* r) {
-    return erfc_special<double>(x, r, 27.226017111108366, 26.543258454250978,
-                                [](double y) { return Formula::value(splat(y))[0]; });
+    return erfc_special<double>(x, r, 27.226017111108366, 26.543258454250978, [](double y) {
+      return Formula::value(splat(y), splat_u64(~0ull))[0];
+    });
   }
 };
 

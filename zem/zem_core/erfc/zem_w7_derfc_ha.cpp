@@ -12,10 +12,10 @@ alignas(16) constexpr double table[][16] = {
 };
 
 struct FormulaHa {
-  ORK_INLINE f64x2 value(f64x2 x) {
-    const f64x2 ax = erfc_size(x), x_hi = upper_half(ax);
+  ORK_INLINE f64x2 value(f64x2 x, u64x2 kept) {
+    const f64x2 ax = abs(x), x_hi = upper_half(ax);
     const double *p0, *p1;
-    const f64x2 t = erfc_row<27, 16>(table, ax, p0, p1), t2 = t * t;
+    const f64x2 t = and_bits(erfc_row<27, 16>(table, ax, p0, p1), kept), t2 = t * t;
     f64x2 c, d, c0, c1, low0, low1;
     gather_pairs(p0 + 12, p1 + 12, c, d);
     f64x2 q = c + t * d;
@@ -31,7 +31,7 @@ struct FormulaHa {
     const f64x2 g_rest = lost + ((c1 * (t - t_hi) + (low1 * t + low0)) + t2 * q);
     const f64x2 g = sum + g_rest, g_hi = upper_half(g), g_lo = (sum - g_hi) + g_rest;
 
-    const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi));
+    const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi), kept);
     const f64x2 p = e.r * horner(e.r, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664,
                                  0.0083333333333333332);
     const u64x2 sign = sign_of(x);

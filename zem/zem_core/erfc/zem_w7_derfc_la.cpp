@@ -11,11 +11,11 @@ alignas(16) constexpr double table[][16] = {
 };
 
 struct FormulaLa {
-  ORK_INLINE f64x2 value(f64x2 x) {
-    const f64x2 ax = erfc_size(x), x_hi = upper_half(ax);
+  ORK_INLINE f64x2 value(f64x2 x, u64x2 kept) {
+    const f64x2 ax = abs(x), x_hi = upper_half(ax);
     const double *p0, *p1;
-    const f64x2 t = erfc_row<27, 16>(table, ax, p0, p1);
-    const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi));
+    const f64x2 t = and_bits(erfc_row<27, 16>(table, ax, p0, p1), kept);
+    const ErfcExp e(x_hi, (ax - x_hi) * (ax + x_hi), kept);
     const f64x2 p = e.r * horner(e.r, 1.0, 0.5, 0.16666666666666666, 0.041666666666666664,
                                  0.0083333333333333332);
     f64x2 c0, c1;

@@ -140,17 +140,17 @@ int _zemdSpecSc(const double* a, double* out) {
 template <class Level>
 struct ExpD : Core<double> {
   static constexpr char name[] = "vdExp";
-  static f64x2 eval(f64x2 argument, u32x4& rare) {
-    // A rare lane computes with next to 0: its scale might be infinite and raise a flag.
-    constexpr int none = 0x7FFFFFFF, limit = Level::limit;
-    const i32x4 far = as<i32x4>(abs(Level::centred(argument))) > i32x4{none, limit, none, limit};
-    rare |= as<u32x4>(far);
-    const f64x2 x = and_bits(argument, ~as<u64x2>(far));
+  static f64x2 eval(f64x2 x, u32x4& rare) {
     f64x2 t;
     const f64x2 p = Level::reduce(x, t);
+    // A rare lane takes 0 as its scale: another might be infinite and raise a flag.
+    constexpr int none = 0x7FFFFFFF, limit = Level::limit;
+    const i32x4 far = as<i32x4>(abs(Level::centred(x))) > i32x4{none, limit, none, limit};
+    rare |= as<u32x4>(far);
+    const u64x2 field = splat_u64(0x7FF0000000000000) & ~as<u64x2>(far);
     const u32x4 bias = {1023u << Level::log2_n, 0, 1023u << Level::log2_n, 0};
     const u64x2 k = as<u64x2>(as<u32x4>(t) + bias) << (52 - Level::log2_n);
-    return Level::combine(t, p, as<f64x2>(k & splat_u64(0x7FF0000000000000)));
+    return Level::combine(t, p, as<f64x2>(k & field));
   }
   static int special(const double* x, double* r) { return _zemdSpecSc<Level>(x, r); }
 };

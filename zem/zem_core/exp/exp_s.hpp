@@ -34,12 +34,18 @@ template <class Level>
 struct ExpS : Core<float> {
   static constexpr char name[] = "vsExp";
 
-  // e^x / 2^down.
-  static f32x4 value(f32x4 x, uint32_t down) {
+  // e^x / 2^down; for down = 0 with n held within -126 * 128 and 128 * 128 - 1 by its low 16 bits,
+  // so that no lane's scale is a NaN, which would raise a flag.
+  template <uint32_t down>
+  ORK_INLINE f32x4 value(f32x4 x) {
     const f32x4 t = x * 184.664963f + 11534336.0f;  // 1.375 * 2^23: n in the low bits of t
     const f32x4 n = t - 11534336.0f;
     const f32x4 r = x - n * 0.00541687012f - n * -1.65776908e-06f;
-    const u32x4 scale = ((as<u32x4>(t) >> 7) + (127 - down)) << 23;
+    __m128i image = as<__m128i>(t);
+    if constexpr (down == 0)
+      image = _mm_min_epi16(_mm_max_epi16(image, _mm_set1_epi32(int(0x8000C100))),
+                            _mm_set1_epi32(0x7FFF3FFF));
+    const u32x4 scale = ((as<u32x4>(image) >> 7) + (127 - down)) << 23;
     const u32x4 j = as<u32x4>(t) & 127;
     const auto row = [](int i) { return (const float*)Level::table + 2 * i; };
     f32x4 first, second;
@@ -47,10 +53,8 @@ struct ExpS : Core<float> {
     return Level::combine(r, first, second, scale);
   }
   static f32x4 eval(f32x4 x, u32x4& rare) {
-    // A rare lane computes with 0: its scale might be a NaN and raise a flag.
-    const i32x4 far = as<i32x4>(abs(x)) > as<i32x4>(splat_u32(0x42AEAC4F));
-    rare |= as<u32x4>(far);
-    return value(and_bits(x, ~as<u32x4>(far)), 0);
+    rare |= 0x42AEAC4F - as<u32x4>(abs(x));
+    return value<0>(x);
   }
   static int special(const float* a, float* out) { return _ScalarExp<Level>(a, out); }
 };
@@ -70,7 +74,7 @@ int _ScalarExp(const float* a, float* out) {
     return ZEM_STATUS_OVERFLOW;
   }
   if (x >= 87.3365479f) {
-    *out = ExpS<Level>::value(splat(x), 1)[0] * 2.0f;
+    *out = ExpS<Level>::template value<1>(splat(x))[0] * 2.0f;
     return 0;
   }
   if (x <= -103.27893829345703f) {

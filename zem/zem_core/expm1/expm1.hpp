@@ -31,20 +31,21 @@ int vsexpm1_cout_rare(const float* a, float* out);
 
 struct Expm1D : Core<double> {
   static constexpr char name[] = "vdExpm1";
-  // x, or 0 in a rare lane, so that it raises no flag.
-  static f64x2 within(f64x2 x, u32x4& rare) {
+  // The lanes within the fast range. The others' S gets the exponent field 0, lest it raise flags.
+  static u64x2 test(f64x2 x, u32x4& rare) {
     const u64x2 far = as<u64x2>((f64x2)_mm_cmpnle_pd(abs(x), splat(707.7032713517041)));
     rare |= as<u32x4>(far);
-    return and_bits(x, ~far);
+    return ~far;
   }
   static f64x2 round(f64x2 y) { return y + integer_shifter<double> - integer_shifter<double>; }
   static int special(const double* x, double* r) { return vdexpm1_cout_rare(x, r); }
 };
 
 // n to 2^(n/128) = S_hi + S_lo. Adding 1.5 * 2^48 + 1023 * 128 leaves 16 n in the low word.
-ORK_INLINE f64x2 expm1_scale(f64x2 n, f64x2& s_lo) {
+ORK_INLINE f64x2 expm1_scale(f64x2 n, u64x2 kept, f64x2& s_lo) {
   const u32x4 image = as<u32x4>(n + 422212465196928.0);
-  const u64x2 exponent = as<u64x2>(image & u32x4{0x3FF800, 0, 0x3FF800, 0}) << 41;
+  const u64x2 exponent = as<u64x2>(image & (u32x4{0x3FF800, 0, 0x3FF800, 0} & as<u32x4>(kept)))
+                         << 41;
   const u32x4 row = image & 0x7F0;
   const char* const table = (const char*)expm1_split128_d;
   f64x2 high, low;

@@ -7,14 +7,14 @@ namespace ork {
 namespace {
 
 struct Expm1EpD : Expm1D {
-  static f64x2 eval(f64x2 argument, u32x4& rare) {
-    const f64x2 x = within(argument, rare);
+  static f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 n = round(x * 184.66496523378731);
     const f64x2 r = x - n * 0x1.62e42fefa39efp-8;
     const f64x2 p = r + r * r * horner(r, 0.49999999999997669, 0.166666666666658);
     // 8 n in the low word, biased.
     const u32x4 image = as<u32x4>(n + 844424930262912.0), row = image & 0x3F8;
-    const u64x2 exponent = as<u64x2>(image & u32x4{0x1FFC00, 0, 0x1FFC00, 0}) << 42;
+    const u64x2 exponent =
+        as<u64x2>(image & (u32x4{0x1FFC00, 0, 0x1FFC00, 0} & as<u32x4>(test(x, rare)))) << 42;
     const char* const table = (const char*)exp_mantissa128_d;
     const f64x2 mantissa =
         gather((const double*)(table + row[0]), (const double*)(table + word<4>(row)));

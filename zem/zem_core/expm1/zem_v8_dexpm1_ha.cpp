@@ -7,8 +7,7 @@ namespace ork {
 namespace {
 
 struct Expm1HaD : Expm1D {
-  static f64x2 eval(f64x2 argument, u32x4& rare) {
-    const f64x2 x = within(argument, rare);
+  static f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 n = round(x * 184.66496523378731);
     const f64x2 u = x - n * 0x1.62e42fef8p-8, v0 = n * 1.2655086083325438e-13;
     const u64x2 whole = (u64x2)(u == x);
@@ -17,7 +16,7 @@ struct Expm1HaD : Expm1D {
     const f64x2 p = r2 * ((0.4999999999999767 + 0.166666666666658 * r) +
                           r2 * (0.04166667939432669 + 0.008333335878830547 * r));
     f64x2 s_lo;
-    const f64x2 s_hi = expm1_scale(n, s_lo);
+    const f64x2 s_hi = expm1_scale(n, test(x, rare), s_lo);
     return with_sign_of(x, expm1_sum(s_hi, s_lo, u_hi, (u_lo - v0) + p));
   }
 };

@@ -6,14 +6,13 @@ namespace ork {
 namespace {
 
 struct Expm1LaD : Expm1D {
-  static f64x2 eval(f64x2 argument, u32x4& rare) {
-    const f64x2 x = within(argument, rare);
+  static f64x2 eval(f64x2 x, u32x4& rare) {
     const f64x2 n = round(x * 184.66496523378731);
     const f64x2 r = x - n * 0x1.62e42fef8p-8 - n * 1.2655086083325438e-13, r2 = r * r;
     const f64x2 p = r + r2 * ((0.4999999999999767 + 0.166666666666658 * r) +
                               r2 * (0.04166667939432669 + 0.008333335878830547 * r));
     f64x2 s_lo;
-    const f64x2 s_hi = expm1_scale(n, s_lo);
+    const f64x2 s_hi = expm1_scale(n, test(x, rare), s_lo);
     const f64x2 a = (s_hi - 1.0) + s_lo;
     return with_sign_of(x, a + (a + 1.0) * p);
   }

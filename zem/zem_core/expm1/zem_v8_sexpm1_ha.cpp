@@ -8,19 +8,18 @@ namespace {
 
 struct Expm1HaS : Core<float> {
   static constexpr char name[] = "vsExpm1";
-  static f32x4 eval(f32x4 argument, u32x4& rare) {
-    // A rare lane computes with 0, so that it raises no flag.
-    const u32x4 far = as<u32x4>((f32x4)_mm_cmpnle_ps(abs(argument), splat(86.6433945f)));
-    const f32x4 x = and_bits(argument, ~far);
-    rare |= far;
+  static f32x4 eval(f32x4 x, u32x4& rare) {
     const f32x4 n = x * 92.3324814f + 12582912.0f - 12582912.0f;
     const f32x4 u = x - n * 0.0108337402f, v0 = n * -3.31553815e-06f;
     const u32x4 whole = (u32x4)(u == x);
     const f32x4 u_hi = and_bits(u, whole | splat_u32(0xFFFFF000)), u_lo = u - u_hi;
     const f32x4 r = u - v0;
     const f32x4 p = r * r * horner(r, 0.500000894f, 0.16666697f);
+    // A rare lane's S gets the exponent field 0, lest it raise flags.
+    const u32x4 far = as<u32x4>((f32x4)_mm_cmpnle_ps(abs(x), splat(86.6433945f)));
+    rare |= far;
     // 8 n in the low bits, biased.
-    const u32x4 image = as<u32x4>(n + 1974208.0f), exponent = (image & 0x1FE00) << 14;
+    const u32x4 image = as<u32x4>(n + 1974208.0f), exponent = (image & (0x1FE00 & ~far)) << 14;
     const u32x4 j = image & 0x1F8;
     const auto row = [](int offset) {
       return (const float*)((const char*)expm1_split64_s + offset);

@@ -71,11 +71,13 @@ ORK_INLINE Pair<f64x2> pow_exp2(Pair<f64x2> q, f64x2& t) {
   return r;
 }
 
-// The lanes whose |q| has a high word above `limit`: all bits of the high word. With those bits
-// cleared a lane goes through the power without raising a flag.
-ORK_INLINE u64x2 pow_beyond(f64x2 q, uint32_t limit) {
+// The exponent field's bits, or none where the high word of |q| is above `limit`: a rare lane
+// takes 0 as its scale, another might be infinite and raise a flag.
+ORK_INLINE u64x2 pow_field(f64x2 q, uint32_t limit, u32x4& rare) {
   const int high = (int)limit;
-  return as<u64x2>(as<i32x4>(abs(q)) > i32x4{0x7FFFFFFF, high, 0x7FFFFFFF, high});
+  const i32x4 far = as<i32x4>(abs(q)) > i32x4{0x7FFFFFFF, high, 0x7FFFFFFF, high};
+  rare |= as<u32x4>(far);
+  return splat_u64(0x7FF0000000000000) & ~as<u64x2>(far);
 }
 
 // Main path. b comes with its parts, so that a fixed exponent is split once.
@@ -83,12 +85,11 @@ ORK_INLINE f64x2 pow_main(f64x2 a, f64x2 b, f64x2 b_high, f64x2 b_low, u32x4& ra
   // The sum wraps to a negative number for all that is no positive normal number.
   rare |= as<u32x4>(as<i32x4>(as<u32x4>(a) + 0x00100000) < as<i32x4>(splat_u32(0x00200000)));
   const Pair<f64x2> q = pow_product(b, b_high, b_low, pow_log2(a));
-  const u64x2 out = pow_beyond(q.high, 0x408F3FFE);
-  rare |= as<u32x4>(out);
   f64x2 t;
-  const Pair<f64x2> r = pow_exp2({and_bits(q.high, ~out), and_bits(q.low, ~out)}, t);
+  const Pair<f64x2> r = pow_exp2(q, t);
+  const u64x2 field = pow_field(q.high, 0x408F3FFE, rare);
   const u64x2 scale = as<u64x2>(as<u32x4>(t) + u32x4{1023 << 7, 0, 1023 << 7, 0}) << 45;
-  return (r.high + r.low) * as<f64x2>(scale & splat_u64(0x7FF0000000000000));
+  return (r.high + r.low) * as<f64x2>(scale & field);
 }
 
 int vdpow_cout_rare(const double* a, const double* b, double* r);

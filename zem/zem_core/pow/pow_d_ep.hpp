@@ -23,10 +23,8 @@ ORK_INLINE f64x2 pow_main_ep(f64x2 a, f64x2 b, u32x4& rare) {
   const ShortD factor(a);
   const f64x2 v = factor.m * factor.c - 1.0;
   const f64x2 p = v + (v * v) * horner(v, -0.49999999999988803, 0.33333333333308374);
-  const f64x2 any = b * short_sum(factor, a, pow_short_logarithms, 0.69314718055994529, p);
-  const u64x2 out = pow_beyond(any - 16.77099609375, 0x40859CFF);  // the difference below 691.625
-  rare |= as<u32x4>(out);
-  const f64x2 q = and_bits(any, ~out);
+  const f64x2 q = b * short_sum(factor, a, pow_short_logarithms, 0.69314718055994529, p);
+  const u64x2 field = pow_field(q - 16.77099609375, 0x40859CFF, rare);  // the difference < 691.625
 
   constexpr double shifter = integer_shifter<double>;
   const f64x2 t = q * 2954.639443740597 + shifter;
@@ -35,7 +33,7 @@ ORK_INLINE f64x2 pow_main_ep(f64x2 a, f64x2 b, u32x4& rare) {
   const f64x2 fraction =
       gather((const double*)pow_mantissas + j[0], (const double*)pow_mantissas + ork::word<4>(j));
   const u64x2 scale = as<u64x2>(as<u32x4>(t) + u32x4{1023 << 11, 0, 1023 << 11, 0}) << 41;
-  const f64x2 s = or_bits(fraction, scale & splat_u64(0x7FF0000000000000));
+  const f64x2 s = or_bits(fraction, scale & field);
   return s + s * (f * (0.99999999283948049 + 0.5 * f));
 }
 

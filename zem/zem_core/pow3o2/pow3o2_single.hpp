@@ -27,7 +27,7 @@ struct Pow3o2S : Core<float> {
     constexpr uint32_t first = level == Level::ha ? 0x00800000 : 0x1E000000;
     constexpr uint32_t last = level == Level::ha ? 0x7F7FFFFF : 0x697FFFFF;
     rare |= (as<u32x4>(x) - first) | (last - as<u32x4>(x)) | as<u32x4>(x);
-    const u32x4 index = as<u32x4>(abs(x)) >> 18;  // -0 must not overflow
+    const u32x4 index = as<u32x4>(level == Level::ha ? abs(x) : x) >> 18;  // -0 would overflow
     const u32x4 row = (index ^ 32) & 63;
     const u32x4 q = (index - 32) >> 6, exponent = q + q + q;
     const f32x4 m = or_bits(and_bits(x, splat_u32(0x007FFFFF)), as<u32x4>(splat(1.0f)));

@@ -13,10 +13,11 @@ struct SinCosEpS : Core<float, 1, 2> {
   static constexpr unsigned x87 = x87_double;
   ORK_INLINE f32x4 sine(const ModuloPi<f32x4>& x) {
     const f32x4 z = x.r * x.r;
-    return flip(x.r * horner(z, 0.99988532f, -0.1659205f, 0.0075766016f), x.sign);
+    const f32x4 y = x.r * horner(z, 0.99988532f, -0.1659205f, 0.0075766016f);
+    return flip(_mm_min_ps(_mm_max_ps(y, splat(-1.0f)), splat(1.0f)), x.sign);  // passes 1 at pi/2
   }
-  ORK_INLINE f32x4 eval(f32x4 argument, f32x4& cosine, u32x4& rare) {
-    const f32x4 x = within<limit_10000>(argument, rare);
+  ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
+    rare |= reaches<limit_10000>(abs(x));
     cosine = sine(reduce<Cosine, PiEpS>(x));
     return sine(reduce<Sine, PiEpS>(x));
   }

@@ -27,8 +27,8 @@ struct SinCosHaS : Core<float, 1, 2> {
     c = (1.0 + z * -0.5) +
         z2 * ((0.041666645682975567 + z * -0.0013887316254360454) + z2 * 2.4433157058349041e-05);
   }
-  ORK_INLINE f32x4 eval(f32x4 argument, f32x4& cosine, u32x4& rare) {
-    const f32x4 x = within<limit_10000>(argument, rare);
+  ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
+    rare |= reaches<limit_10000>(abs(x));
     // A product in single: |r| may pass pi/4 by 0.06 percent, where the fits still hold.
     const __m128i n = _mm_cvtps_epi32(x * splat(0.636619747f));
     const Widened w = widen(x);

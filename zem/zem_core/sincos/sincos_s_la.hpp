@@ -15,9 +15,9 @@ namespace ork::trig {
 struct SinCosLaS : Core<float, 1, 2> {
   static constexpr char name[] = "sSinCos_LA";
   static constexpr unsigned x87 = x87_double;
-  ORK_INLINE f32x4 eval(f32x4 argument, f32x4& cosine, u32x4& rare) {
-    const f32x4 x = within<limit_10000>(argument, rare);
+  ORK_INLINE f32x4 eval(f32x4 x, f32x4& cosine, u32x4& rare) {
     const f32x4 ax = abs(x), shifter = splat(integer_shifter<float>);
+    rare |= reaches<limit_10000>(ax);
     const f32x4 t = ax * splat(0.636619747f) + shifter, n = t - shifter;
     const f32x4 r2 = ax - n * splat(1.5703125f) - n * splat(0.000483751297f);
     // The last two parts as a sum, and then its rounding error.

@@ -61,11 +61,8 @@ struct Sinh : Core<typename Level::type> {
     return a + a * (z * p);
   }
   ORK_INLINE vec eval(vec x, u32x4& rare) {
-    const vec size = abs(x);
-    const u32x4 far = beyond(size, Level::limit);
-    const vec a = within(size, far);
-    rare |= far;
-    vec y = from_pair<Level, true>(a);
+    const vec a = abs(x);
+    vec y = from_pair<Level, true>(a, rare);
     if constexpr (!__is_same(Level, PairEpS))
       y = select(below(a, NearZero<Level>::limit), near_zero(a), y);
     return or_bits(y, as<ivec>(x) & as<ivec>(splat(T(-0.0))));

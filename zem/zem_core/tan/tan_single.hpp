@@ -25,8 +25,8 @@ ORK_INLINE f64x2 tangent_half(f64x2 x, f64x2 n, const double (&p)[degree + 1]) {
 
 // n comes from a product in single: |r| may pass pi/2 by 0.7 percent, which the fits allow for.
 template <int degree>
-ORK_INLINE f32x4 tangent_single(f32x4 argument, u32x4& rare, const double (&p)[degree + 1]) {
-  const f32x4 x = within<limit_128000_single>(argument, rare);
+ORK_INLINE f32x4 tangent_single(f32x4 x, u32x4& rare, const double (&p)[degree + 1]) {
+  rare |= reaches<limit_128000_single>(abs(x));
   const __m128i n = _mm_cvtps_epi32(x * splat(0.318309873f));
   const Widened w = widen(x);
   return narrow(tangent_half<degree>(w.low, _mm_cvtepi32_pd(n), p),

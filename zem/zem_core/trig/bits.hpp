@@ -11,14 +11,6 @@ ORK_INLINE u32x4 reaches(V ax) {
   return as<u32x4>(ax) + splat_u32(0x80000000u - limit);
 }
 
-// x, or 0 in the lanes of `large`, reaches()'s: a single so large would raise flags further on.
-template <uint32_t limit>
-ORK_INLINE f32x4 within(f32x4 x, u32x4& rare) {
-  const i32x4 large = as<i32x4>(abs(x)) > as<i32x4>(splat_u32(limit - 1));
-  rare |= as<u32x4>(large);
-  return and_bits(x, ~as<u32x4>(large));
-}
-
 constexpr uint32_t limit_10000 = 0x461C4000;  // single
 
 ORK_INLINE f64x2 sign_of(f64x2 x) { return and_bits(x, sign_f64x2); }

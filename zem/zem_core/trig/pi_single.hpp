@@ -17,7 +17,8 @@ struct SingleCore : Core<float> {
 template <class F>
 struct SingleLa : SingleCore<F> {
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
-    return odd_sine<PiLaS>(reduce<F, PiLaS>(within<limit_10000>(x, rare)));
+    rare |= reaches<limit_10000>(abs(x));
+    return odd_sine<PiLaS>(reduce<F, PiLaS>(x));
   }
 };
 
@@ -27,7 +28,8 @@ template <class F>
 struct SingleEp : SingleCore<F> {
   static constexpr uint32_t limit_1e7 = 0x4B189680;
   ORK_INLINE f32x4 eval(f32x4 x, u32x4& rare) {
-    return odd_sine<PiEpS>(reduce<F, PiEpS>(within<limit_10000>(x, rare)));
+    rare |= reaches<limit_10000>(abs(x));
+    return odd_sine<PiEpS>(reduce<F, PiEpS>(x));
   }
   static __attribute__((noinline)) f32x4 eval_rest(f32x4 x, f32x4 fast, u32x4& rare) {
     const f32x4 ax = abs(x);
