@@ -190,7 +190,8 @@ TYPED_TEST(InverseTrig, Atan2InEveryOctant) {
   }
 }
 
-// Of the single kernels in blocks |x| > 1 yields this very NaN, and a NaN comes out as it went in.
+// Of the single kernels in blocks |x| > 1 yields this very NaN, and a quiet NaN comes out as it
+// went in.
 TEST(InverseTrigSingle, AsinKeepsNanImages) {
   const float a[] = {
       2,    -2, inf<float>, -inf<float>, from_bits<float>(0x7FC01234), from_bits<float>(0xFFC00001),

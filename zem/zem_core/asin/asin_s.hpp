@@ -15,8 +15,9 @@ inline int sasin_special(const float* x, float* r) {
   else if (magnitude <= 0x7F800000) {
     image = 0xFFC00000;
     status = ZEM_STATUS_DOMAIN;
-  }
-  __builtin_memcpy(r, &image, sizeof image);  // a NaN as it stands
+  } else
+    image |= 0x00400000;  // a NaN, quiet
+  __builtin_memcpy(r, &image, sizeof image);
   return status;
 }
 

@@ -56,7 +56,7 @@ struct Rows<float> {
 #include "lgamma/low_s.inc"
   };
   static constexpr float lowest = 1.0f, stirling = 8192.0f;
-  static constexpr uint32_t overflow = 0x7C44AF8E;
+  static constexpr uint32_t overflow = 0x7C44AF8D;  // of the next float the result is infinite
   static int binade(float x) { return (int)(image(&x) >> 23) - 0x81; }
   // Exact: u has a float's bits; the borders are 0.25, 0.5, 0.75 and 1.
   static int interval(float u) { return u < 1.0f ? (int)(4 * u) : 4; }
