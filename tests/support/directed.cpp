@@ -7,7 +7,6 @@
 #include <cstring>
 #include <fstream>
 #include <limits>
-#include <sstream>
 
 #include "ork/zem.h"
 #include "support/bits.hpp"
@@ -78,27 +77,32 @@ void check_directed(const char* function, quad (*exact)(quad), const std::vector
 }
 
 template <class T>
-void check_worst_cases(const char* function, const char* name, const Limits& limits) {
-  const std::string path = std::string(ORK_SOURCE_DIR) + "/../shared/data/worst_cases/binary" +
-                           (sizeof(T) == 8 ? "64_" : "32_") + name + ".tsv";
-  std::ifstream file(path);
-  if (!file) GTEST_SKIP() << "no published worst cases";
-  std::vector<T> points;
-  std::vector<quad> exact;
+std::vector<std::vector<double>> published_cases(const std::string& name) {
+  std::ifstream file(std::string(ORK_SOURCE_DIR) + "/tests/data/worst_cases/binary" +
+                     (sizeof(T) == 8 ? "64_" : "32_") + name + ".tsv");
+  EXPECT_TRUE(file) << "no published cases of " << name;
+  std::vector<std::vector<double>> rows;
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line[0] == '#') continue;
-    double value[3] = {};
+    rows.emplace_back();
     const char* p = line.c_str();
-    for (double& v : value) {
-      char* end;
-      v = std::strtod(p, &end);
-      p = end;
+    for (char* end; *p; p = end) {  // not by a stream: those do not read hexadecimal digits
+      rows.back().push_back(std::strtod(p, &end));
+      if (end == p) break;
     }
-    if (!std::isfinite(value[0]) || !std::isfinite(value[1])) continue;
-    points.push_back(T(value[0]));
-    exact.push_back(quad(value[1]) + quad(value[2]));
   }
-  ASSERT_FALSE(points.empty()) << path;
+  EXPECT_FALSE(rows.empty()) << name;
+  return rows;
+}
+
+template <class T>
+void check_worst_cases(const char* function, const char* name, const Limits& limits) {
+  std::vector<T> points;
+  std::vector<quad> exact;
+  for (const auto& row : published_cases<T>(name)) {
+    points.push_back(T(row.at(0)));
+    exact.push_back(quad(row.at(1)) + quad(row.at(2)));
+  }
   check(function, points, exact, limits);
 }
 
@@ -106,6 +110,7 @@ void check_worst_cases(const char* function, const char* name, const Limits& lim
   template std::vector<T> neighbours(const std::vector<T>&, int);                                  \
   template std::vector<T> spread(double, double, int);                                             \
   template void check_directed(const char*, quad (*)(quad), const std::vector<T>&, const Limits&); \
+  template std::vector<std::vector<double>> published_cases<T>(const std::string&);                \
   template void check_worst_cases<T>(const char*, const char*, const Limits&);
 INSTANTIATE(double)
 INSTANTIATE(float)

@@ -34,8 +34,11 @@ template <class T>
 void check_directed(const char* function, quad (*exact)(quad), const std::vector<T>& points,
                     const Limits& limits);
 
-// Inputs of ../shared/data/worst_cases/binary{32,64}_NAME.tsv with results the function is
-// defined and finite at; the level's error in ulp against the published values. Skips the test
-// if the file is absent.
+// The rows of tests/data/worst_cases/binary{32,64}_NAME.tsv: arguments, then the exact value in two
+// parts.
+template <class T>
+std::vector<std::vector<double>> published_cases(const std::string& name);
+
+// Those of a function of one argument: the level's error against the published values.
 template <class T>
 void check_worst_cases(const char* function, const char* name, const Limits& limits);

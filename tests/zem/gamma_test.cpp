@@ -44,7 +44,7 @@ TEST(LGamma, SpecialDouble) {
 TEST(LGamma, SpecialSingle) {
   auto cases = special_lgamma<float>();
   cases.push_back({from_bits<float>(0x7C44AF8E), inf<float>, ZEM_STATUS_OVERFLOW});
-  cases.push_back({from_bits<float>(0x7C44AF8D), largest<float>});
+  cases.push_back({from_bits<float>(0x7C44AF8D), from_bits<float>(0x7F7FFFFE)});
   cases.push_back({smallest_denormal<float>, 103.27893f});
   for (int level = 0; level < 3; ++level)
     check_special<float>({"LGamma", level, "vsLGamma", 0.75f, 0, cases});

@@ -1,8 +1,6 @@
 // Hypot: special values, no spurious overflow or underflow, exact triples, published hard cases.
 #include <quadmath.h>
 
-#include <fstream>
-
 #include "support/bits.hpp"
 #include "support/control.hpp"
 #include "support/directed.hpp"
@@ -98,16 +96,7 @@ TYPED_TEST(Hypots, TriplesAreExactAtHa) {
 
 TYPED_TEST(Hypots, PublishedHardCases) {
   using T = TypeParam;
-  std::ifstream file(wide<T> ? ORK_SOURCE_DIR "/../shared/data/worst_cases/binary64_hypot.tsv"
-                             : ORK_SOURCE_DIR "/../shared/data/worst_cases/binary32_hypot.tsv");
-  if (!file) GTEST_SKIP() << "no published cases beside the source tree";
-  for (std::string line; std::getline(file, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    const char* text = line.c_str();
-    char* end;
-    const T a = T(std::strtod(text, &end)), b = T(std::strtod(end, &end));
-    if (std::isfinite(a) && std::isfinite(b)) this->check(a, b);
-  }
+  for (const auto& row : published_cases<T>("hypot")) this->check(T(row.at(0)), T(row.at(1)));
 }
 
 }  // namespace

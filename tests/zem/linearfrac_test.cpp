@@ -91,6 +91,17 @@ TYPED_TEST(LinearFrac, OnesGiveOneAtAnySize) {
   }
 }
 
+// A denormal numerator keeps its bits where the quotient is normal, in blocks as in tails.
+TYPED_TEST(LinearFrac, DenormalNumerators) {
+  using T = TypeParam;
+  std::vector<T> a, b;
+  for (int i = 0; i < 70; ++i) {
+    a.push_back(smallest_denormal<T> * T(i % 2 ? 2 * i + 1 : -1001 - i));
+    b.push_back(std::ldexp(T(1) + T(i) / 71, i % 7 * (sizeof(T) == 8 ? -20 : -8) + 4));
+  }
+  this->check(a, b, {T(1), T(0), T(1), T(0)}, 4);
+}
+
 // In double denormals are kept whatever the mode; in single the mode decides.
 TYPED_TEST(LinearFrac, Denormals) {
   using T = TypeParam;

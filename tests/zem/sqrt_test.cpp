@@ -132,6 +132,13 @@ TYPED_TEST(Roots, SquaresAreExact) {
     call(int(r.size()), squares.data(), nullptr, r.data(), nullptr);
     for (size_t i = 0; i < r.size(); ++i) ASSERT_EQ(r[i], roots[i]) << call.slot->name(1);
   }
+  // Of 4 at all levels, in blocks and tails.
+  const std::vector<T> fours(19, T(4));
+  for (const auto& call : elementwise_kernels<T>())
+    if (!strcmp(call.slot->function, "Sqrt")) {
+      call(19, fours.data(), nullptr, r.data(), nullptr);
+      for (int i = 0; i < 19; ++i) ASSERT_EQ(r[size_t(i)], 2) << call.slot->name(call.level);
+    }
 }
 
 }  // namespace

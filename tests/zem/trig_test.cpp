@@ -2,11 +2,9 @@
 // doubles next to multiples of pi/2, published hard cases, blocks of mixed sizes.
 #include <quadmath.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "support/bits.hpp"
 #include "support/control.hpp"
+#include "support/directed.hpp"
 #include "support/pch.hpp"
 #include "support/special.hpp"
 
@@ -186,21 +184,43 @@ TYPED_TEST(Trig, PublishedHardCases) {
   for (const Function& f : functions) {
     std::string name = f.second ? "sin" : f.name;
     for (char& c : name) c = char(tolower(c));
-    std::ifstream file(std::string(ORK_SOURCE_DIR "/../shared/data/worst_cases/binary") +
-                       (sizeof(T) == 8 ? "64_" : "32_") + name + ".tsv");
-    if (!file) GTEST_SKIP() << "no worst-case data";
     std::vector<T> points;
     std::vector<quad> exact[2];
-    for (std::string line; std::getline(file, line);) {
-      double x, high, low;
-      if (line[0] == '#' || sscanf(line.c_str(), "%lf %lf %lf", &x, &high, &low) != 3) continue;
-      if (!std::isfinite(x)) continue;
-      points.push_back(T(x));
-      exact[0].push_back(quad(high) + low);
+    for (const auto& row : published_cases<T>(name)) {
+      points.push_back(T(row.at(0)));
+      exact[0].push_back(quad(row.at(1)) + row.at(2));
     }
-    ASSERT_GT(points.size(), 8u);
     check_points<T>(f, points, exact);
   }
+}
+
+// At 0 the cosine is 1, and nothing passes 1 anywhere: beside the extrema, of small arguments and
+// of large ones, which have other paths.
+TYPED_TEST(Trig, CosineOfZeroAndExtrema) {
+  using T = TypeParam;
+  std::vector<T> points;
+  for (int k = 1; k < 3000; ++k) {
+    const double extremum = (k < 1000 ? k : k < 2000 ? k * 1e4 : k * 1e12) * 1.5707963267948966;
+    for (int i = 0; i < 24; ++i)
+      points.push_back(
+          T(extremum * (1 + (i % 2 ? 1 : -1) * std::ldexp(1.0 + k % 64 / 64.0, -8 - 2 * i))));
+  }
+  std::vector<T> r(points.size()), r2(points.size());
+  for (const char* name : {"Sin", "Cos", "SinCos"})
+    for (int level = 0; level < 3; ++level) {
+      const Call<T> call = kernel<T>(name, level);
+      call(int(points.size()), points.data(), nullptr, r.data(), r2.data());
+      for (size_t i = 0; i < points.size(); ++i) {
+        ASSERT_LE(std::fabs(r[i]), 1) << call.slot->name(level) << std::hexfloat << points[i];
+        ASSERT_LE(std::fabs(r2[i]), 1) << call.slot->name(level) << std::hexfloat << points[i];
+      }
+      if (!strcmp(name, "Sin")) continue;
+      for (const T zero : {T(0), -T(0)}) {
+        T one[2];
+        call(1, &zero, nullptr, one, one + 1);
+        EXPECT_EQ(one[call.outputs() - 1], 1) << call.slot->name(level);
+      }
+    }
 }
 
 // A block's second vector path and scalar routine leave no trace on the lanes beside: the bits of

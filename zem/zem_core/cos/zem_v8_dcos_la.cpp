@@ -17,7 +17,9 @@ struct CosLaD : Core<double> {
   static constexpr char name[] = "vdCos";
   ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
     rare |= reaches<Cosine::limit>(abs(x));
-    return odd_sine<PiLaD>(reduce<Cosine, PiLaD>(x));
+    // At 0 the polynomial gives 1 - 2^-53.
+    const f64x2 lift = and_bits(splat(0x1p-53), as<u64x2>(x == splat(0.0)));
+    return odd_sine<PiLaD>(reduce<Cosine, PiLaD>(x)) + lift;
   }
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
     return replace_large<Cosine::limit>(abs(x), fast, large_sine(abs(x), 1), rare);

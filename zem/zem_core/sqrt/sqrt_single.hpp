@@ -9,7 +9,8 @@ namespace ork {
 // HA: a Goldschmidt step for s1 and h1 = 1 / (2 s1), then s1 - h1 (s1^2 - x), the residual formed
 // from pieces of s1 whose leading square is exact; within 0.51 ulp. LA: one Newton step, within
 // 3.2 ulp. EP: s, within 2^-11. Zeros pass, with y = 0. Rare: s is infinite or a NaN; at HA also
-// x below 2^-96, where pieces of the residual would be denormal.
+// x below 2^-96, where pieces of the residual would be denormal; at EP 4, whose root is exact at
+// all levels.
 template <Level level>
 struct SqrtS : Core<float> {
   static constexpr char name[] = "vsSqrt";
@@ -21,6 +22,7 @@ struct SqrtS : Core<float> {
     const f32x4 s = x * y;
     rare |= as<u32x4>(abs(s)) + splat_u32(0x00800000);  // carries into the sign
     if constexpr (level == Level::ep) {
+      rare |= as<u32x4>(x == splat(4.0f));
       return s;
     } else if constexpr (level == Level::la) {
       return (s * y - splat(3.0f)) * (splat(-0.5f) * s);
@@ -34,7 +36,7 @@ struct SqrtS : Core<float> {
       return s1 - h1 * d;
     }
   }
-  static int special(const float* x, float* r) { return sqrt_scalar<SqrtS>(x, r); }
+  static int special(const float* x, float* r) { return sqrt_scalar<SqrtS, level>(x, r); }
 };
 
 }  // namespace ork

@@ -77,14 +77,18 @@ ORK_INLINE V polynomial(V z) {
   return p;
 }
 
+// Nothing above 1 comes out: in double the polynomials pass it next to pi/2.
+ORK_INLINE f64x2 up_to_1(f64x2 y) { return _mm_min_pd(_mm_max_pd(y, splat(-1.0)), splat(1.0)); }
+ORK_INLINE f32x4 up_to_1(f32x4 y) { return y; }
+
 template <class C, class V>
 ORK_INLINE V odd_sine(const ModuloPi<V>& x) {
   const V z = x.r * x.r, p = polynomial<C>(z);
   if constexpr (requires { C::head; }) {
     const V cube = z * x.r;
-    return flip(x.r + (cube * p + cube * splat(C::head)), x.sign);
+    return flip(up_to_1(x.r + (cube * p + cube * splat(C::head))), x.sign);
   } else {
-    return flip(x.r + z * x.r * p, x.sign);
+    return flip(up_to_1(x.r + z * x.r * p), x.sign);
   }
 }
 
