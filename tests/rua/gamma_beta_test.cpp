@@ -28,13 +28,13 @@ struct Shape {
 };
 std::ostream& operator<<(std::ostream& out, const Shape& s) { return out << s.p << ", " << s.q; }
 
-// Every method, its borders from both sides, tiny and large shapes. Around p = q = 0.7 beta changes
-// from Johnk's method to the switching one.
-const Shape kShapes[] = {{2.5, 0},    {1.00001, 0}, {1, 0},      {0.99999, 0},       {0.8, 0},
-                         {0.6, 0},    {0.59999, 0}, {0.3, 0},    {1e-3, 0},          {1e6, 0},
-                         {0.5, 0.5},  {0.7, 0.53},  {0.7, 0.55}, {0.9, 0.9},         {0.3, 2},
-                         {2, 0.3},    {0.99999, 4}, {2, 3},      {1.00001, 1.00001}, {1, 2.5},
-                         {2.5, 1},    {1, 1},       {0.3, 1},    {1e-3, 1e-3},       {1e6, 1e6},
+// Every method, its borders from both sides, tiny and large shapes. At p = 0.7, q = 0.53864 beta
+// changes from Johnk's method to the switching one.
+const Shape kShapes[] = {{2.5, 0},    {1.00001, 0},  {1, 0},        {0.99999, 0},       {0.8, 0},
+                         {0.6, 0},    {0.59999, 0},  {0.3, 0},      {1e-3, 0},          {1e6, 0},
+                         {0.5, 0.5},  {0.7, 0.5386}, {0.7, 0.5387}, {0.9, 0.9},         {0.3, 2},
+                         {2, 0.3},    {0.99999, 4},  {2, 3},        {1.00001, 1.00001}, {1, 2.5},
+                         {2.5, 1},    {1, 1},        {0.3, 1},      {1e-3, 1e-3},       {1e6, 1e6},
                          {1e-3, 1e3}, {1e3, 1e-3}};
 
 template <class R>
@@ -184,6 +184,42 @@ TYPED_TEST(GammaBeta, FailingDrawEndsTheCall) {
       EXPECT_EQ(ork_zem_kernel_GetMode(), mode);
       EXPECT_EQ(ork_zem_kernel_GetErrorCallBack(), own);
     }
+}
+
+// The very number v from which on a candidate is rejected: it shows the last bits of a method's
+// constants and tests. The list is a candidate, then one that is accepted for its tiny number.
+TYPED_TEST(GammaBeta, RejectionBeginsAtTheSameNumber) {
+  using R = TypeParam;
+  int borders = 0;
+  for (const Shape& d : kShapes) {
+    // Powers of tiny shapes vanish: no number of the list would ever be accepted.
+    if (d.p < 0.01 || (d.q > 0 && d.q < 0.01)) continue;
+    for (const double u : {0.02, 0.11, 0.3, 0.52, 0.77, 0.9, 0.98}) {
+      const auto by_reference = [&](R v) {
+        const std::vector<R> list = {R(u), v, R(0.37), R(1e-30)};
+        typename TestFixture::Reference reference(list);
+        EXPECT_EQ(this->expect(reference, 1, d), 0);
+        return reference.r[0];
+      };
+      const auto by_kernel = [&](R v) {
+        Stream s = player_stream({double(R(u)), double(v), double(R(0.37)), double(R(1e-30))});
+        std::vector<R> r;
+        EXPECT_EQ(this->draw(s, 1, d, r), 0);
+        return r[0];
+      };
+      R lo = R(1e-30), hi = 1;
+      const R accepted = by_reference(lo);
+      if (by_reference(hi) == accepted) continue;
+      while (std::nextafter(lo, hi) < hi) {
+        const R middle = lo + (hi - lo) / 2;
+        (by_reference(middle) == accepted ? lo : hi) = middle;
+      }
+      ++borders;
+      EXPECT_EQ(by_kernel(lo), accepted) << d << ", u = " << u;
+      EXPECT_EQ(by_kernel(hi), by_reference(hi)) << d << ", u = " << u;
+    }
+  }
+  EXPECT_GT(borders, 50);
 }
 
 // Uniform numbers of exactly 0 and 1 in every place of a pair.
