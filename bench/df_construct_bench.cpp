@@ -69,7 +69,7 @@ struct Row {
   int order, type, bc, ic;
   int ny;
   int64_t xhint, yhint;
-  double bound;  // 0: none asked for
+  double bound;  // 0: none
   double peer;
 };
 

@@ -1,4 +1,4 @@
-// Statistics: cycles beside the bounds asked for and the peers of the same run.
+// Statistics: cycles beside their bounds and the peers of the same run.
 //
 //   ss_bench [SECTION ...] [--record]      SECTION: helpers, moments, quantiles
 #include "ss_helpers.hpp"

@@ -140,7 +140,7 @@ inline void threads(Report& report, uint64_t estimates) {
   constexpr int large = 1000000;
   std::vector<double> y(size_t(p) * large);
   for (size_t i = 0; i < y.size(); ++i) y[i] = data().x[i % (size_t(p) * n)];
-  report.line(format("# threads: the same, n = %d (asked: 1.7 times one)", large));
+  report.line(format("# threads: the same, n = %d (bound: 1.7 times one)", large));
   report.line("  work                          one      two  times one");
   const auto row = [&](const char* name, auto call) {
     double least[2] = {1e300, 1e300};

@@ -51,7 +51,7 @@ inline void run(Report& report) {
   const ork_threader* const serial = &ork_threader_serial;
   line("median", format("std::nth_element %.2f", nth),
        [&](ork_ss_task* t) { _ruadSSQuantiles(t, ORK_SS_QUANTILES, 0, ORK_SS_FAST, 0, serial); });
-  line("median, order statistics", format("std::sort %.2f (asked: 5 times)", standard),
+  line("median, order statistics", format("std::sort %.2f (bound: 5 times)", standard),
        [&](ork_ss_task* t) {
          _ruadSSQuantiles(t, ORK_SS_QUANTILES | ORK_SS_ORDER_STATS, 0, ORK_SS_FAST, 0, serial);
        });

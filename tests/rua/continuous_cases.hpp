@@ -80,7 +80,7 @@ std::vector<Case<R>> continuous_cases() {
   const auto normal = [](double x, double a, double s) {
     return std::erfc((a - x) / s * M_SQRT1_2) / 2;
   };
-  // The ends of the range of ErfInv give stated values.
+  // The ends of the range of ErfInv give fixed finite values.
   const auto icdf = [](long double u) {
     return sqrtl(2) * (u <= -1 ? E::low : u >= 1 ? E::high : erfinv(u));
   };

@@ -90,7 +90,7 @@ TYPED_TEST(Continuous, EndsOfTheRangeStayFinite) {
   events = 0;
   const std::vector<double> list = {0, 0, 0.25, 0, 1, 0.75, 0, 1, 0.5, 0.5, 0.25};
   for_cases<R>([&](const Case<R>& c) {
-    if (c.name == std::string("Cauchy")) return;  // no guard, no stated value
+    if (c.name == std::string("Cauchy")) return;  // no guard, no stand-in at the ends
     Stream s = player_stream(list);
     const int n = 2051, draws = uniforms_of(c, n);
     const std::vector<R> r = drawn(c, s, n);

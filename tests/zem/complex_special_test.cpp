@@ -1,5 +1,5 @@
 // Special values of the complex arithmetic: every pairing of special parts, in every lane and tail,
-// in place, with callbacks. What is due is stated here as a list of cases, decided from top to
+// in place, with callbacks. What is due stands here as a list of cases, decided from top to
 // bottom; it shares nothing with the library.
 #include <quadmath.h>
 

@@ -38,7 +38,7 @@ ORK_INLINE f32x4 sasin_result(f32x4 k, u32x4 outer) {
 }
 
 // v + v S(z) with v = sqrt z by rsqrt and one Newton step; relative error 2^-12.
-// Constants: given.
+// S is frozen, of degree 2, for z <= 1/4.
 ORK_INLINE f32x4 sasin_ep(f32x4 z, f32x4 a, u32x4 outer) {
   const f32x4 y = and_bits(rsqrt_est(z), outer), s = z * y;  // of 0 it is infinite
   const f32x4 v = select(outer, (s * y - 3.0f) * (-0.5f * s), a);

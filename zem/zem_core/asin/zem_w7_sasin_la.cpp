@@ -1,5 +1,5 @@
 // Asin, single, LA: v = a, z = a^2 below 0.5; z = (1 - a)/2, v = sqrt z above;
-// K = v + v S(z); the result is K or pi/2 - 2 K with the sign of x. Constants: given.
+// K = v + v S(z); the result is K or pi/2 - 2 K with the sign of x. S is frozen.
 // Rare: |x| >= 1, NaN. Bound: 2.5 ulp.
 #include "asin/asin_s.hpp"
 #include "frame/block.hpp"

@@ -4,7 +4,7 @@
 // sum = E+ + E-, diff = E+ - E-, and even = cosh r - 1, odd = sinh r:
 //   2 cosh a = sum + (sum even + diff odd),   2 sinh a = diff + (diff even + sum odd).
 // A level gives reduce(), even() and odd(); at HA E+- have low words.
-// Constants: given, those of Exp.
+// Frozen: the parts of ln 2/N, those of Exp, and the polynomials of even and odd.
 #include "frame/kernel.hpp"
 
 namespace ork {

@@ -14,7 +14,7 @@ namespace ork {
 constexpr double exp_shifter = 6755399441055744.0;  // 1.5 * 2^52: n in the low word of t
 
 // HA, N = 64, |r| <= ln 2/128. v = T_hi + (T_lo + (T_hi + T_lo) p) is off by at most
-// 0.51 ulp. Constants: given.
+// 0.51 ulp. p is frozen.
 struct ExpHa {
   static constexpr int log2_n = 6;
   static constexpr double two_steps_from = 709.7772976810359;  // here k becomes 1024
@@ -69,7 +69,7 @@ struct ExpOneWord {
   }
 };
 
-// p of degree 4. Constants: given.
+// p of degree 4, |r| <= ln 2/256, frozen.
 struct ExpLa : ExpOneWord {
   static constexpr double two_steps_from = 709.78000528721;
 
@@ -81,7 +81,7 @@ struct ExpLa : ExpOneWord {
   }
 };
 
-// p of degree 2: relative error r^3/6 <= 2^-28.2. Constants: given.
+// p of degree 2, frozen: relative error r^3/6 <= 2^-28.2.
 struct ExpEp : ExpOneWord {
   static constexpr double two_steps_from = 709.7772976810359;
 

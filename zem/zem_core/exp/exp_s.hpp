@@ -1,7 +1,7 @@
 #pragma once
 // Exp, single, W7: e^x = 2^k 2^(j/128) e^r with n = round(x 128/ln 2), r = x - n ln 2/128,
 // j = n mod 128, k = n div 128. A level combines r, j and the scale 2^k.
-// Fast range: |x| below 87.3365479; beyond it _ScalarExp. Constants: given.
+// Fast range: |x| below 87.3365479; beyond it _ScalarExp. The parts of ln 2/128 are frozen.
 #include "base/image.hpp"
 #include "exp/tables.hpp"
 #include "frame/block.hpp"

@@ -1,5 +1,5 @@
 // Expm1, double, EP: p of degree 3, |r| <= ln 2/256; ln 2/128 and 2^(n/128) in one word.
-// Relative error r^3/24 <= 2^-30. Fast range: |x| <= 707.703. Constants: given.
+// Relative error r^3/24 <= 2^-30. Fast range: |x| <= 707.703. p is frozen.
 #include "exp/tables.hpp"
 #include "expm1/expm1.hpp"
 

@@ -1,7 +1,7 @@
 #pragma once
 // Pow, double: a^b = 2^(b log2 a). With a = 2^k m, c near L/m, L = 1.44... the high part of log2 e,
 // log2 a = k + log2(L/c) + log2(1 + w/L), w = m c - L, in two doubles, off by 2^-64 of itself.
-// 2^q = 2^n 2^(j/128) 2^f, |f| <= 1/256. Polynomials: given.
+// 2^q = 2^n 2^(j/128) 2^f, |f| <= 1/256. The polynomials are frozen.
 // Fast: normal a > 0, finite b, |q| < 1000. vdpow_cout_rare: the others. Within 0.6 ulp.
 #include "base/image.hpp"
 #include "base/pair.hpp"
