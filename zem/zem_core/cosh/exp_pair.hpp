@@ -5,6 +5,7 @@
 //   2 cosh a = sum + (sum even + diff odd),   2 sinh a = diff + (diff even + sum odd).
 // A level gives reduce(), even() and odd(); at HA E+- have low words.
 // Frozen: the parts of ln 2/N, those of Exp, and the polynomials of even and odd.
+#include "base/round.hpp"
 #include "frame/kernel.hpp"
 
 namespace ork {
@@ -71,7 +72,8 @@ struct PairHa {
   static constexpr bool long_sum = true;
   static constexpr uint32_t limit = 0x40862335;  // the highest high word of the fast range
   ORK_INLINE ExpPair<double> reduce(f64x2 a, u32x4 kept) {
-    const f64x2 t = a * 92.33248261689366 + 6755399441055744.0, n = t - 6755399441055744.0;
+    const f64x2 t = a * 92.33248261689366 + integer_shifter<double>,
+                n = t - integer_shifter<double>;
     ExpPair<double> e;
     e.r = a - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
     e.up = power64(as<u32x4>(t), kept, e.up_low);
@@ -160,8 +162,8 @@ ORK_INLINE vec_of<typename Level::type> from_pair(vec_of<typename Level::type> a
 
 // e^a/2 for 21.5 < a < 710.48: the other term has vanished. The scale goes in two steps.
 inline double half_exp(double a) {
-  const f64x2 t = splat(a) * 92.33248261689366 + 6755399441055744.0;
-  const double n = t[0] - 6755399441055744.0;
+  const f64x2 t = splat(a) * 92.33248261689366 + integer_shifter<double>;
+  const double n = t[0] - integer_shifter<double>;
   const double r = a - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12, q = r * r;
   const uint32_t m = as<u32x4>(t)[0], k = m >> 6 & 0xFFFF;
   const double high = pair_split64_d[m & 63][0], low = pair_split64_d[m & 63][1];

@@ -5,13 +5,12 @@
 // with the scale 2^k. Fast range: |x| below 708.396 by its high word, at LA and EP x above -670.1,
 // so that no term of the scaled sum is denormal; beyond it _zemdSpecSc.
 #include "base/image.hpp"
+#include "base/round.hpp"
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
-
-constexpr double exp_shifter = 6755399441055744.0;  // 1.5 * 2^52: n in the low word of t
 
 // HA, N = 64, |r| <= ln 2/128. v = T_hi + (T_lo + (T_hi + T_lo) p) is off by at most
 // 0.51 ulp. p is frozen.
@@ -24,8 +23,8 @@ struct ExpHa {
   static f64x2 centred(f64x2 x) { return x; }
 
   static f64x2 reduce(f64x2 x, f64x2& t) {
-    t = x * 92.33248261689366 + exp_shifter;
-    const f64x2 n = t - exp_shifter;
+    t = x * 92.33248261689366 + integer_shifter<double>;
+    const f64x2 n = t - integer_shifter<double>;
     const f64x2 r = x - n * 0x1.62e42fefp-7 - n * 1.162596423439437e-12;
     return r + r * r *
                    horner(r, 0.49999999999945266, 0.16666666666653376, 0.04166672515731616,
@@ -74,8 +73,8 @@ struct ExpLa : ExpOneWord {
   static constexpr double two_steps_from = 709.78000528721;
 
   static f64x2 reduce(f64x2 x, f64x2& t) {
-    t = x * 184.66496523378731 + exp_shifter;
-    const f64x2 n = t - exp_shifter;
+    t = x * 184.66496523378731 + integer_shifter<double>;
+    const f64x2 n = t - integer_shifter<double>;
     const f64x2 r = x - n * 0x1.62e42feep-8 - n * 1.4907929134926466e-12;
     return r + r * r * horner(r, 0.49999999999998135, 0.16666671248624326, 0.041666679394326736);
   }
@@ -86,8 +85,8 @@ struct ExpEp : ExpOneWord {
   static constexpr double two_steps_from = 709.7772976810359;
 
   static f64x2 reduce(f64x2 x, f64x2& t) {
-    t = x * 184.66496523378731 + exp_shifter;
-    const f64x2 n = t - exp_shifter;
+    t = x * 184.66496523378731 + integer_shifter<double>;
+    const f64x2 n = t - integer_shifter<double>;
     const f64x2 r = x - n * 0x1.62e42fefa39efp-8;
     return r + 0.5 * (r * r);
   }

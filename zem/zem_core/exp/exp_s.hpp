@@ -3,6 +3,7 @@
 // j = n mod 128, k = n div 128. A level combines r, j and the scale 2^k.
 // Fast range: |x| below 87.3365479; beyond it _ScalarExp. The parts of ln 2/128 are frozen.
 #include "base/image.hpp"
+#include "base/round.hpp"
 #include "exp/tables.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
@@ -86,8 +87,8 @@ int _ScalarExp(const float* a, float* out) {
   constexpr double c[] = {
 #include "exp/tiny_s.inc"
   };
-  const double u = (double)x * 1.4426950408889634, t = u + 6755399441055744.0;
-  const double f = u - (t - 6755399441055744.0), g = f * f;
+  const double u = (double)x * 1.4426950408889634, t = u + integer_shifter<double>;
+  const double f = u - (t - integer_shifter<double>), g = f * f;
   const double even = 1.0 + g * (c[1] + g * (c[3] + g * c[5])), odd = c[0] + g * (c[2] + g * c[4]);
   const uint64_t n = (uint32_t)as<uint64_t>(t);
   *out = (float)((even + f * odd) * as<double>((n + 1023) << 52));

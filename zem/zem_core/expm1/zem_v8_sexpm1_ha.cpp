@@ -1,6 +1,7 @@
 // Expm1, single, HA: N = 64, e^r - 1 - r of degree 3, |r| <= ln 2/128, and a compensated sum.
 // r = u_hi + u_lo - v0, u_hi of 12 bits, so that S_hi u_hi is exact; n = 0 keeps u_hi = x.
 // Fast range: |x| <= 86.6433945. The polynomial is frozen.
+#include "base/round.hpp"
 #include "expm1/expm1.hpp"
 
 namespace ork {
@@ -9,7 +10,7 @@ namespace {
 struct Expm1HaS : Core<float> {
   static constexpr char name[] = "vsExpm1";
   static f32x4 eval(f32x4 x, u32x4& rare) {
-    const f32x4 n = x * 92.3324814f + 12582912.0f - 12582912.0f;
+    const f32x4 n = x * 92.3324814f + integer_shifter<float> - integer_shifter<float>;
     const f32x4 u = x - n * 0.0108337402f, v0 = n * -3.31553815e-06f;
     const u32x4 whole = (u32x4)(u == x);
     const f32x4 u_hi = and_bits(u, whole | splat_u32(0xFFFFF000)), u_lo = u - u_hi;
