@@ -447,6 +447,22 @@ int32_t _ruasSSMAD(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates
 int32_t _ruadSSWMedian(ork_ss_task* task);
 int32_t _ruasSSWMedian(ork_ss_task* task);
 
+/* PARTIAL_COV and PARTIAL_COR, by FAST: the covariance of the variables whose partialIndex is 1
+ * without the linear influence of those with -1 (any other entry: no part in it), which is
+ * YY - YZ ZZ^-1 ZY, by Cholesky factorisation of ZZ. It starts from cov or, where that is null,
+ * from cor with variances on its diagonal. Results are ny by ny, the order of variables kept, in
+ * their own storage. PARTIAL_COR has the partial variances on its diagonal. Results must not
+ * overlap what is read. n, observations and the variable mask do not count.
+ * Checked in this order: cov and cor (-4018) and the storage of the one used (-4044), partialIndex
+ * (-4045), partialCov (-4046) and its storage (-4044), partialCor (-4047) and its storage (-4044),
+ * method (-4029), p < 1 or a set without members (-4073), memory (-4000; one block), ZZ not
+ * positive definite (-5010), its inverse (-5011). After the last two a partialCov in full
+ * storage, which is made in place, holds the covariance YY. */
+int32_t _ruadSSPartialCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                 uint32_t method_low);
+int32_t _ruasSSPartialCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                 uint32_t method_low);
+
 #ifdef __cplusplus
 }
 #endif

@@ -26,6 +26,7 @@ struct Api;
     static constexpr auto edit_matrix = __rua##t##SSEditMtxParametrz;     \
     static constexpr auto basic = _rua##t##SSBasic;                       \
     static constexpr auto minmax = _rua##t##SSMinmax;                     \
+    static constexpr auto partial = _rua##t##SSPartialCovariance;         \
     static constexpr auto quantiles = _rua##t##SSQuantiles;               \
     static constexpr auto stream = _rua##t##SSStreamQuantiles;            \
     static constexpr auto deviations = _rua##t##SSMAD;                    \
