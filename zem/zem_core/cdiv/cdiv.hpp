@@ -21,7 +21,7 @@ struct QuotientHaC : Core<Complex<float>, 2> {
 };
 
 // Double, HA: numerators and |b|^2 as exact sums of exact products, then quotients with their
-// remainders (quotient.hpp): each part 0.5 ulp and 2^-24, however much cancels.
+// remainders (quotient.hpp): a part within 0.5 ulp and 2^-24, however much cancels.
 // Fast: all parts in [2^-400, 2^400), so that no piece of a product or remainder is below the
 // normal range: numerators that cancel to the last bit are above 2^-907, quotients too.
 struct QuotientHaZ : Core<Complex<double>, 2> {

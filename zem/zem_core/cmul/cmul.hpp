@@ -28,9 +28,9 @@ struct ProductHaC : Core<Complex<float>, 2>, ProductName<float, conj> {
   }
 };
 
-// Double, HA: the four products as exact pairs, their sums to 2^-100: each part 0.5 ulp and 2^-47,
-// however much cancels. Fast: all parts in [2^-459, 2^511 sqrt(2)), so that no piece of a product
-// is below the normal range and no sum overflows.
+// Double, HA: the four products as exact pairs, their sums to 2^-100: a part within 0.5 ulp and
+// 2^-47, however much cancels. Fast: all parts in [2^-459, 2^511 sqrt(2)), so that no piece of a
+// product is below the normal range and no sum overflows.
 template <bool conj>
 struct ProductHaZ : Core<Complex<double>, 2>, ProductName<double, conj> {
   using V = Planes<f64x2>;
