@@ -47,6 +47,12 @@ int ork_dRngGaussianMV(int method, RuaStream* stream, int n, double* r, int32_t 
                        int32_t mstorage, const double* a, const double* t);
 int ork_sRngGaussianMV(int method, RuaStream* stream, int n, float* r, int32_t dim,
                        int32_t mstorage, const float* a, const float* t);
+int ork_iRngUniform(int method, RuaStream* stream, int n, int32_t* r, int32_t a, int32_t b);
+int ork_iRngUniformBits(int method, RuaStream* stream, int n, uint32_t* r);
+int ork_iRngUniformBits32(int method, RuaStream* stream, int n, uint32_t* r);
+int ork_iRngUniformBits64(int method, RuaStream* stream, int n, uint64_t* r);
+int ork_iRngBernoulli(int method, RuaStream* stream, int n, int32_t* r, double p);
+int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r, double p);
 
 #ifdef __cplusplus
 }

@@ -156,6 +156,36 @@ int32_t _ruadRngGaussianMV(int32_t method, RuaStream* stream, int32_t n, double*
 int32_t _ruasRngGaussianMV(int32_t method, RuaStream* stream, int32_t n, float* r, int32_t dim,
                            int32_t mstorage, const float* a, const float* t);
 
+/* ---- Discrete distributions ---------------------------------------------------------------- *
+ * Integers. None of these functions reads `method`. */
+
+/* From a to b - 1: floors of uniform numbers in double. Where b - a is not a power of two,
+ * values differ in probability by one step of the generator. A generator whose number can round
+ * to 1 reaches b. Range: b > a. */
+int32_t _ruaiRngUniform(int32_t method, RuaStream* stream, int32_t n, int32_t* r, int32_t a,
+                        int32_t b);
+
+/* What the generator emits, n items of the wordSize bytes of its properties each; their meaning
+ * is the generator's own. */
+int32_t _ruaiRngUniformBits(int32_t method, RuaStream* stream, int32_t n, uint32_t* r);
+
+/* Words uniform in all their bits: those of MT19937, MT2203, SFMT19937 and the non-
+ * deterministic generator, and bits 27 to 58 of the numbers of MCG59. NO_BITS_FORM: another
+ * generator, which stays where it is. */
+int32_t _ruaiRngUniformBits32(int32_t method, RuaStream* stream, int32_t n, uint32_t* r);
+
+/* Two words of UniformBits32 each, the low one first, with the same statuses. */
+int32_t _ruaiRngUniformBits64(int32_t method, RuaStream* stream, int32_t n, uint64_t* r);
+
+/* 1 with probability p, else 0: whether a uniform number is below p, both in single precision.
+ * Range: p >= 0, p <= 1. */
+int32_t _ruaiRngBernoulli(int32_t method, RuaStream* stream, int32_t n, int32_t* r, double p);
+
+/* Failures before the first success of probability p: floor(ln(u) / ln(1 - p)) in single
+ * precision. So values beyond 2^24 are multiples of powers of two, and those that a small p
+ * leads beyond int32_t come as INT32_MIN. Range: p > 0, p < 1. */
+int32_t _ruaiRngGeometric(int32_t method, RuaStream* stream, int32_t n, int32_t* r, double p);
+
 #ifdef __cplusplus
 }
 #endif

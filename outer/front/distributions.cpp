@@ -92,3 +92,21 @@ ORK_OUTER int ork_sRngGaussianMV(int method, RuaStream* stream, int n, float* r,
   const bool valid = fits(n, dim) && dim > 0 && mstorage >= 0 && mstorage <= 2 && (!there || (all(dim, a, [](auto x) { return isfinite(x); })));
   return draw(_ruasRngGaussianMV, 3, valid, there, method, stream, n, r, dim, mstorage, a, t);
 }
+ORK_OUTER int ork_iRngUniform(int method, RuaStream* stream, int n, int32_t* r, int32_t a, int32_t b) {
+  return draw(_ruaiRngUniform, 1, b > a, true, method, stream, n, r, a, b);
+}
+ORK_OUTER int ork_iRngUniformBits(int method, RuaStream* stream, int n, uint32_t* r) {
+  return draw(_ruaiRngUniformBits, 1, true, true, method, stream, n, r);
+}
+ORK_OUTER int ork_iRngUniformBits32(int method, RuaStream* stream, int n, uint32_t* r) {
+  return draw(_ruaiRngUniformBits32, 1, true, true, method, stream, n, r);
+}
+ORK_OUTER int ork_iRngUniformBits64(int method, RuaStream* stream, int n, uint64_t* r) {
+  return draw(_ruaiRngUniformBits64, 1, true, true, method, stream, n, r);
+}
+ORK_OUTER int ork_iRngBernoulli(int method, RuaStream* stream, int n, int32_t* r, double p) {
+  return draw(_ruaiRngBernoulli, 1, p >= 0 && p <= 1, true, method, stream, n, r, p);
+}
+ORK_OUTER int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r, double p) {
+  return draw(_ruaiRngGeometric, 1, p > 0 && p < 1, true, method, stream, n, r, p);
+}

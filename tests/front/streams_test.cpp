@@ -121,7 +121,7 @@ TEST(FrontStreams, PointsAndOneComponent) {
 using Front = int(int method, RuaStream* stream, int n, void* r, const Values& p);
 Front* const fronts[] = {
 #define DISTRIBUTION(type, element, name, methods, values, chunk, arguments, parameters, sample) \
-  [](int m, RuaStream* s, int n, void* out, const Values& p) {                                   \
+  [](int m, RuaStream* s, int n, void* out, [[maybe_unused]] const Values& p) {                  \
     auto* r = static_cast<element*>(out);                                                        \
     return ork_##type##Rng##name arguments;                                                      \
   },

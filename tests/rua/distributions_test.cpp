@@ -14,10 +14,10 @@ TEST_F(Distributions, StackMayBeMisaligned) {
   Shifted* const shifted[] = {
 #define CALL(f, ...) call_shifted(shift, f, __VA_ARGS__)
 #define PASS(...) __VA_ARGS__
-#define DISTRIBUTION(type, element, name, methods, values, chunk, arguments, parameters, sample) \
-  [](int shift, int32_t m, RuaStream* s, int32_t n, void* out, const Values& p) {                \
-    auto* r = static_cast<element*>(out);                                                        \
-    return CALL(_rua##type##Rng##name, PASS arguments);                                          \
+#define DISTRIBUTION(type, element, name, methods, values, chunk, arguments, parameters, sample)   \
+  [](int shift, int32_t m, RuaStream* s, int32_t n, void* out, [[maybe_unused]] const Values& p) { \
+    auto* r = static_cast<element*>(out);                                                          \
+    return CALL(_rua##type##Rng##name, PASS arguments);                                            \
   },
 #include "registry/distributions.inc"
 #undef DISTRIBUTION

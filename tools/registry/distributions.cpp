@@ -10,7 +10,7 @@ const std::vector<Distribution> distributions = {
    methods,                                                                                      \
    values,                                                                                       \
    chunk,                                                                                        \
-   [](int32_t m, RuaStream* s, int32_t n, void* out, const Values& p) {                          \
+   [](int32_t m, RuaStream* s, int32_t n, void* out, [[maybe_unused]] const Values& p) {         \
      auto* r = static_cast<element*>(out);                                                       \
      return _rua##type##Rng##name arguments;                                                     \
    },                                                                                            \
