@@ -137,10 +137,10 @@ TEST_F(DiscreteTest, EndsOfTheRange) {
   const auto callback = ork_zem_kernel_GetErrorCallBack();
   const Stream s = player_stream({0, 1, 0x1p-30});
   int32_t r[3];
-  ASSERT_EQ(_ruaiRngGeometric(0, s, 3, r, 0.5), 0);
-  EXPECT_EQ(r[0], 148);  // floor(103.2789... / ln 2)
+  ASSERT_EQ(_ruaiRngGeometric(0, s, 3, r, 0.3), 0);
+  EXPECT_EQ(r[0], 289);  // floor(103.2789... / -ln 0.7)
   EXPECT_EQ(r[1], 0);
-  EXPECT_NEAR(r[2], 30, 1);
+  EXPECT_EQ(r[2], 58);  // floor(30 ln 2 / -ln 0.7)
   ASSERT_EQ(_ruaiRngGeometric(0, s, 3, r, 1e-9), 0);
   EXPECT_EQ(r[0], -kInts - 1);
   EXPECT_EQ(r[1], 0);
