@@ -145,7 +145,7 @@ std::vector<double> breaking(const Distribution& d, const Parameter& p) {
 void check_draws(const Distribution& d, Front* front) {
   constexpr int n = 33;
   SCOPED_TRACE(d.full_name());
-  Stream s, twin;
+  Stream s(RUA_BRNG_MT19937), twin(RUA_BRNG_MT19937);  // its items are words of 32 bits
   std::vector<char> r(d.bytes(n), 7), expected(d.bytes(n));
   const auto expect = [&](int status, int m, RuaStream* stream, int count, void* out,
                           const Values& p, const std::string& what) {
