@@ -442,6 +442,27 @@ int32_t _ruadSSMAD(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates
 int32_t _ruasSSMAD(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
                    uint32_t method_low, uint32_t method_high, const ork_threader* threader);
 
+/* Repair of a matrix of correlations, by SPECTRAL: eigenvalues of cor below 1e-14 (s 1e-6) are
+ * raised to that floor, and rows and columns scaled for a diagonal of 1 (the spectral
+ * decomposition of Rebonato, Jaeckel 1999; not the nearest correlation matrix). Only the
+ * elements of cor below its diagonal count (all others are taken as symmetric, the diagonal as
+ * 1). The result, with a diagonal of exactly 1, has no eigenvalue below the floor less rounding.
+ * Where no eigenvalue is below the floor, it is cor itself, to the bit. Estimates and threader
+ * are not looked at; one block of 2 p^2 + 51 p reals is taken.
+ *
+ * Storages are ORK_SS_FULL, LOWER_PACKED or UPPER_PACKED of each. The arrays are disjoint or
+ * one and the same; the same, and nothing to repair, with the same storage: it is not written,
+ * its diagonal neither. Statuses in their order: p -4001; cor null -4019; its storage null -4044,
+ * unknown -4003; the result null -4071; its storage as before; a full result in the array of
+ * a packed cor -4003; method -4029; memory -4000; no convergence, or an element NaN or infinite
+ * -5030; every eigenvalue below the floor -4072. On failure nothing is written. */
+int32_t _ruadSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
+                                  uint32_t estimates_high, uint32_t method_low,
+                                  uint32_t method_high, const ork_threader* threader);
+int32_t _ruasSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
+                                  uint32_t estimates_high, uint32_t method_low,
+                                  uint32_t method_high, const ork_threader* threader);
+
 /* The weighted quantile of each variable, of the first order in quantileOrders, in quantiles
  * (p). Nothing is checked; weights must be there. No memory: -4000. */
 int32_t _ruadSSWMedian(ork_ss_task* task);
