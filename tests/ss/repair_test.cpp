@@ -146,9 +146,13 @@ TYPED_TEST(Repair, MatchesJacobiInEveryStorageAndInPlace) {
             EXPECT_EQ(run.run(), -4003);
             continue;
           }
+          // The mode that comes back is one that says how denormals go; none stands for "as it
+          // was".
+          ork_zem_kernel_SetMode(ORK_ZEM_DENORMAL_ZERO);
           const uint32_t mode = ork_zem_kernel_GetMode();
           ASSERT_EQ(run.run(), 0);
           EXPECT_EQ(ork_zem_kernel_GetMode(), mode);
+          ork_zem_kernel_SetMode(ORK_ZEM_DENORMAL_KEEP);
           run.t.expect_canaries();
           const bool untouched = same && from == to && !c.indefinite;
           for (size_t k = 0; k < before.size(); ++k)
@@ -170,9 +174,8 @@ TYPED_TEST(Repair, MatchesJacobiInEveryStorageAndInPlace) {
             }
           // Scaling divides the floor by the raised diagonal, at most the largest eigenvalue.
           EXPECT_GE(least_eigenvalue(p, got), this->floor / p - 2 * p * this->eps);
-          if (to == ORK_SS_FULL)
-            for (int i = 0; i < p * p; ++i)
-              EXPECT_EQ(run.result[i], run.result[i % p * p + i / p]) << i;
+          for (int i = 0; to == ORK_SS_FULL && i < p * p; ++i)
+            EXPECT_EQ(run.result[i], run.result[i % p * p + i / p]) << i;
         }
 }
 
