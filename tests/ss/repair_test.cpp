@@ -172,7 +172,8 @@ TYPED_TEST(Repair, MatchesJacobiInEveryStorageAndInPlace) {
                 EXPECT_NEAR(r, double(want[i * p + j]), c.indefinite ? 4 * p * this->eps : 0)
                     << i << " " << j;
             }
-          // Scaling divides the floor by the raised diagonal, at most the largest eigenvalue.
+          // Scaling divides the floor by the raised diagonal, at most the largest eigenvalue: about
+          // p, the trace.
           EXPECT_GE(least_eigenvalue(p, got), this->floor / p - 2 * p * this->eps);
           for (int i = 0; to == ORK_SS_FULL && i < p * p; ++i)
             EXPECT_EQ(run.result[i], run.result[i % p * p + i / p]) << i;
