@@ -51,7 +51,7 @@ inline int32_t whole_pairs(RuaStream* stream, int32_t n, R* r, R a, R sigma) {
 #pragma GCC unroll 4
       for (int k = i; k < i + 4 * w; k += w) {
         const vec_of<R> rho = load(radius + k);
-        store_pairs(r + 2 * k, scaled(rho, load(sine + k)), scaled(rho, load(cosine + k)));
+        put_records(r + 2 * k, scaled(rho, load(sine + k)), scaled(rho, load(cosine + k)));
       }
     for (; i < m; ++i) {
       r[2 * i] = scaled(radius[i], sine[i]);

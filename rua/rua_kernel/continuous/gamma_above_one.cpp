@@ -60,7 +60,7 @@ int32_t draw(RuaStream* stream, int32_t m, R* z, R* u) {
   int32_t i = 0;
   for (; half - i >= w; i += w) {
     const vec_of<R> rho = load(radius + i);
-    store_pairs(z + 2 * i, rho * load(sine + i), rho * load(cosine + i));
+    put_records(z + 2 * i, rho * load(sine + i), rho * load(cosine + i));
   }
   for (; i < half; ++i) {
     z[2 * i] = radius[i] * sine[i];

@@ -1,6 +1,7 @@
 // Passes over arrays: loops in the vector registers, and the vector kernels the distributions
 // call.
 #pragma once
+#include "base/lanes.hpp"
 #include "base/vec.hpp"
 #include "ork/zem_kernels.h"
 #include "rua_sub_kernel/math/vector_mode.hpp"
@@ -83,11 +84,6 @@ inline void radii(int32_t n, const R* u, R* r) {
   apply(Tables<R>::sqrt, n, r);
 }
 
-ORK_INLINE f64x2 evens(f64x2 a, f64x2 b) { return _mm_unpacklo_pd(a, b); }
-ORK_INLINE f64x2 odds(f64x2 a, f64x2 b) { return _mm_unpackhi_pd(a, b); }
-ORK_INLINE f32x4 evens(f32x4 a, f32x4 b) { return _mm_shuffle_ps(a, b, 0x88); }
-ORK_INLINE f32x4 odds(f32x4 a, f32x4 b) { return _mm_shuffle_ps(a, b, 0xDD); }
-
 // first[i], second[i] <- pairs[2 i], f(pairs[2 i + 1]). One of them may be `pairs` itself.
 template <class R, class F>
 ORK_INLINE void split(int32_t n, const R* pairs, R* first, R* second, F f) {
@@ -105,16 +101,6 @@ ORK_INLINE void split(int32_t n, const R* pairs, R* first, R* second, F f) {
     first[i] = a;
     second[i] = f(b);
   }
-}
-
-// first[0], second[0], first[1] ... to r on.
-ORK_INLINE void store_pairs(double* r, f64x2 first, f64x2 second) {
-  store(r, _mm_unpacklo_pd(first, second));
-  store(r + 2, _mm_unpackhi_pd(first, second));
-}
-ORK_INLINE void store_pairs(float* r, f32x4 first, f32x4 second) {
-  store(r, _mm_unpacklo_ps(first, second));
-  store(r + 4, _mm_unpackhi_ps(first, second));
 }
 
 // t, but the displacement where that is above t: rounding never leads below it.
