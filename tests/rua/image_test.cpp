@@ -381,9 +381,11 @@ TEST_F(Image, FailingAllocations) {
 
 // A payload shorter than what the chunk's reader takes.
 TEST_F(Image, ChunkTooSmall) {
-  const struct { uint32_t id, least; } readers[] = {{1, 8}, {2, 16}};
+  const struct {
+    uint32_t id, least;
+  } readers[] = {{1, 8}, {2, 16}, {3, 696}, {4, 1328}, {5, 544}, {6, 56}};
   for (const auto& r : readers)
-    for (uint32_t size = 0; size <= r.least + 4; size += 4) {
+    for (const uint32_t size : {0u, 4u, r.least - 4, r.least, r.least + 4}) {
       SCOPED_TRACE(testing::Message() << "chunk " << r.id << " of " << size);
       Bytes image = example_head(1);
       append(image, {1, 2});

@@ -140,6 +140,14 @@ struct Agreement {
   int cells;  // that are wide enough to be told apart
 };
 
+// The chance of a greater distance between the distribution functions of n numbers and of their
+// law.
+inline double kolmogorov(real distance, real n) {
+  real p = 0;
+  for (int j = 1; j < 100; ++j) p += (j % 2 ? 2 : -2) * expl(-2 * j * j * distance * distance * n);
+  return distance * sqrtl(n) < 0.2L ? 1 : double(p);
+}
+
 template <class R>
 class Cells {
  public:
@@ -200,9 +208,7 @@ Agreement Cells<R>::agreement() const {
     distance = std::max(distance, fabsl(sum / n - before));
   }
   if (degrees > 0) a.chi_square = double(1 - gamma_cdf(degrees / real(2), logl(chi / 2)));
-  real p = 0;
-  for (int j = 1; j < 100; ++j) p += (j % 2 ? 2 : -2) * expl(-2 * j * j * distance * distance * n);
-  a.kolmogorov = distance * sqrtl(n) < 0.2L ? 1 : double(p);
+  a.kolmogorov = kolmogorov(distance, n);
   const real tail = 1e-5L * n;
   if (low_ == 0) a.low_tail = double((counts_.front() - tail) / sqrtl(tail));
   if (high_ >= 0) a.high_tail = double((counts_.back() - tail) / sqrtl(tail));

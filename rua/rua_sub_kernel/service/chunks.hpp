@@ -17,6 +17,10 @@ struct ChunkReader {
 inline constexpr ChunkReader kChunkReaders[] = {
     {1, 2 * sizeof(float)},   // BoxMuller2, single: the pending pair
     {2, 2 * sizeof(double)},  // BoxMuller2, double
+    {3, 696},                 // Poisson: a mean's set-up
+    {4, 1328},                // Negbinomial: the set-up of a and p
+    {5, 544},                 // Binomial: the set-up of ntrial and p
+    {6, 56},                  // Hypergeometric: the head of a set-up, more follows
     {7, 2 * sizeof(double)},  // Gamma, double: the pending candidate
     {8, 2 * sizeof(float)},   // Gamma, single
 };

@@ -1,0 +1,102 @@
+#pragma once
+// How integers that were drawn agree with the probabilities they are said to have: in the cells,
+// one for each integer that is expected more than ten times, in the distance of the distribution
+// functions there, and in the numbers below and above.
+#include "laws/laws.hpp"
+
+namespace laws {
+
+struct DiscreteLaw {
+  std::string name;
+  std::function<int32_t(RuaStream*, int32_t, int32_t*)> draw;
+  int64_t least, mode, most;           // of the values; their probabilities fall from the mode on
+  std::function<real(int64_t)> ln_pmf;  // of values from least to most
+  // Beyond single precision: neighbours cannot be told apart there. docs/distributions.md tells
+  // from where on.
+  bool coarse = false;
+};
+
+inline real ln_factorial(int64_t k) { return lgammal(real(k) + 1); }
+
+inline DiscreteLaw uniform(int32_t a, int32_t b) {
+  return {"uniform " + std::to_string(a) + " " + std::to_string(b),
+          [=](auto* s, auto n, auto* r) { return _ruaiRngUniform(0, s, n, r, a, b); },
+          a,
+          a,
+          int64_t{b} - 1,
+          [=](int64_t) { return -logl(real(b) - a); }};
+}
+
+inline DiscreteLaw bernoulli(double p) {
+  return {"bernoulli " + std::to_string(p),
+          [=](auto* s, auto n, auto* r) { return _ruaiRngBernoulli(0, s, n, r, p); },
+          0,
+          p > 0.5,
+          1,
+          [=](int64_t k) { return k ? logl(p) : log1pl(-p); }};
+}
+
+inline DiscreteLaw geometric(double p) {
+  return {"geometric " + std::to_string(p),
+          [=](auto* s, auto n, auto* r) { return _ruaiRngGeometric(0, s, n, r, p); },
+          0,
+          0,
+          INT32_MAX,
+          [=](int64_t k) { return k * log1pl(-p) + logl(p); }};
+}
+
+// Every method at its borders, and far away.
+inline std::vector<DiscreteLaw> all_discrete() {
+  std::vector<DiscreteLaw> laws = {uniform(0, 100), uniform(-12, -3), bernoulli(0.3),
+                                   bernoulli(0.99), geometric(0.3),   geometric(0.999),
+                                   geometric(1e-3)};
+  return laws;
+}
+
+// Agreement as of the continuous laws; a tail in deviations of a count of at least one.
+inline Agreement check(const DiscreteLaw& law, uint64_t draws, uint32_t seed) {
+  const real n = real(draws);
+  const auto p = [&](int64_t k) { return expl(law.ln_pmf(k)); };
+  // The cells, [low, high), and what lies beyond them.
+  int64_t low = law.mode, high = law.mode;
+  while (low > law.least && n * p(low - 1) > 10) --low;
+  while (high <= law.most && n * p(high) > 10) ++high;
+  real below = 0, above = 0;
+  for (int64_t k = low - 1; k >= law.least && n * p(k) > 1e-12L; --k) below += p(k);
+  for (int64_t k = high; k <= law.most && n * p(k) > 1e-12L; ++k) above += p(k);
+
+  std::vector<uint64_t> counts(size_t(high - low) + 2);
+  RuaStream* s;
+  if (__ruaNewStreamEx(&s, RUA_BRNG_MT19937, 1, &seed) != 0) return {};
+  std::vector<int32_t> r;
+  for (uint64_t left = draws; left > 0; left -= r.size()) {
+    r.resize(std::min<uint64_t>(left, 10000));
+    if (law.draw(s, int32_t(r.size()), r.data()) != 0) break;
+    for (const int64_t x : r) ++counts[size_t(std::clamp(x, low - 1, high) - low + 1)];
+  }
+  __ruaDeleteStream(&s);
+
+  const auto deviation = [](uint64_t count, real expected) {
+    return double((real(count) - expected) / sqrtl(expected + 1));
+  };
+  Agreement a{1, 1, deviation(counts.front(), n * below), deviation(counts.back(), n * above),
+              int(high - low)};
+  real chi = 0, distance = 0, sum = real(counts.front()), expected_sum = n * below;
+  int degrees = -1;
+  const auto add = [&](real count, real expected) {
+    chi += (count - expected) * (count - expected) / expected, ++degrees;
+  };
+  for (int64_t k = low; k < high; ++k) {
+    const real count = real(counts[size_t(k - low + 1)]), expected = n * p(k);
+    add(count, expected);
+    sum += count, expected_sum += expected;
+    distance = std::max(distance, fabsl(sum - expected_sum) / n);
+  }
+  if (n * below > 10) add(real(counts.front()), n * below);
+  if (n * above > 10) add(real(counts.back()), n * above);
+  if (degrees > 0) a.chi_square = double(1 - gamma_cdf(degrees / real(2), logl(chi / 2)));
+  a.kolmogorov = kolmogorov(distance, n);
+  return a;
+}
+
+}  // namespace laws
