@@ -9,7 +9,7 @@ namespace laws {
 struct DiscreteLaw {
   std::string name;
   std::function<int32_t(RuaStream*, int32_t, int32_t*)> draw;
-  int64_t least, mode, most;           // of the values; their probabilities fall from the mode on
+  int64_t least, mode, most;            // of the values; their probabilities fall from the mode on
   std::function<real(int64_t)> ln_pmf;  // of values from least to most
   // Beyond single precision: neighbours cannot be told apart there. docs/distributions.md tells
   // from where on.
