@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -29,7 +32,8 @@ Cycles time_calls(F f, int runs = 400) {
   return {times.front(), times[times.size() / 2]};
 }
 
-// Lines go to the terminal and, at the end of a --record run, to bench/results/NAME.txt.
+// Lines go to the terminal and, at the end of a --record run of all rows, to
+// bench/results/PROCESSOR/NAME.txt.
 class Report {
  public:
   Report(const std::string& name, int argc, char** argv) {
@@ -42,11 +46,19 @@ class Report {
       else
         names_.push_back(word);
     }
-    path_ = root_ + "/bench/results/" + name + ".txt";
-    line("# " + processor() + ", g++ " __VERSION__ "; time-stamp cycles");
+    if (record_ && !wants_all()) {
+      std::puts("--record writes whole tables: no names beside it");
+      std::exit(2);
+    }
+    const Processor here = processor();
+    folder_ = root_ + "/bench/results/" + here.folder;
+    path_ = folder_ + "/" + name + ".txt";
+    line("# " + here.name + ", g++ " __VERSION__ ", " + today() + "; time-stamp cycles");
   }
   ~Report() {
-    if (record_) std::ofstream(path_) << text_;
+    if (!record_) return;
+    std::filesystem::create_directories(folder_);
+    std::ofstream(path_) << text_;
   }
   Report(const Report&) = delete;
   void line(const std::string& text) {
@@ -61,21 +73,33 @@ class Report {
   bool wants_all() const { return names_.empty(); }
 
  private:
-  static std::string processor() {
+  struct Processor {
+    std::string name, folder;  // the folder is maker-family-model, as in amd-25-1
+  };
+  static Processor processor() {
     std::ifstream info("/proc/cpuinfo");
-    std::string model = "unknown processor", family, number;
+    std::string maker = "unknown", name = "unknown processor", family, model;
     for (std::string line; std::getline(info, line) && !line.empty();) {
       const auto value = [&] { return line.substr(line.find(':') + 2); };
-      if (line.starts_with("model name"))
-        model = value();
+      if (line.starts_with("vendor_id"))
+        maker = value() == "AuthenticAMD" ? "amd" : value() == "GenuineIntel" ? "intel" : value();
+      else if (line.starts_with("model name"))
+        name = value();
       else if (line.starts_with("cpu family"))
         family = value();
       else if (line.starts_with("model\t"))
-        number = value();
+        model = value();
     }
-    return model + " (family " + family + ", model " + number + ")";
+    return {name + " (family " + family + ", model " + model + ")",
+            maker + "-" + family + "-" + model};
   }
-  std::string root_ = ".", path_, text_;
+  static std::string today() {
+    const std::time_t now = std::time(nullptr);
+    char text[sizeof "2000-12-31"];
+    std::strftime(text, sizeof text, "%F", std::gmtime(&now));
+    return text;
+  }
+  std::string root_ = ".", folder_, path_, text_;
   std::vector<std::string> names_;
   bool record_ = false;
 };

@@ -1,11 +1,13 @@
 """docs/glance.svg: accuracy and speed of the double kernels at a glance.
 
-Drawn from bench/results/kernels.txt (./dev bench --record) and docs/accuracy.md (./dev accuracy):
+Drawn from the newest bench/results/*/kernels.txt (./dev bench --record) and docs/accuracy.md (./dev accuracy):
 every function that the C library and SLEEF have, too, but for square root and the rounding family.
 """
 import math
 import pathlib
 import re
+
+import _bench
 
 root = pathlib.Path(__file__).resolve().parent.parent.parent
 
@@ -28,26 +30,24 @@ STYLE = """
 
 
 def speeds():
-    """{function: {"LA" | "HA" | "EP" | "sleef" | "c": cycles}} and the processor's line."""
-    lines = (root / "bench/results/kernels.txt").read_text().splitlines()
+    """{function: {"LA" | "HA" | "EP" | "sleef" | "c": cycles}} and the processor."""
+    path = _bench.newest("kernels")
     table = {}
-    for line in lines:
-        match = re.match(r"d(\w+)_\w\w(LA|HA|EP) ", line)
-        if not match:
+    for kernel in _bench.kernels(path):
+        if not kernel["name"].startswith("d"):
             continue
-        peer = lambda i: line[45 + 14 * i:59 + 14 * i].split("(")[0].strip()
-        row = table.setdefault(match[1], {})
-        row[match[2]] = float(line[18:].split()[0])
-        for name, text in (("sleef", peer(1)), ("c", peer(3))):
-            if text != "-":
-                row[name] = float(text)
-    return table, lines[0].lstrip("# ")
+        row = table.setdefault(kernel["name"][1:], {})
+        row[kernel["level"]] = kernel["cycles"]
+        for name, peer in (("sleef", "sleef 1.0"), ("c", "c")):
+            if peer in kernel:
+                row[name] = kernel[peer]
+    return table, _bench.header(path)[0]
 
 
 def errors():
     """{function: {"LA" | "HA": worst ulp}} of the sampled arguments."""
     table = {}
-    text = (root / "docs/accuracy.md").read_text().split("## Exhaustive")[0]
+    text = (root / "docs/accuracy.md").read_text().split("## Sampled arguments")[1].split("\n## ")[0]
     for function, level, worst in re.findall(r"^\| d(\w+)_\w\w(LA|HA) \| ([\d.]+) \|", text, re.M):
         table.setdefault(function, {})[level] = float(worst)
     return table
@@ -108,7 +108,7 @@ def generate():
         for key in ("LA", "HA"):
             if key in ulps[f]:
                 dot(x_ulp(ulps[f][key]), y, key.lower(), f"{name}, {key}: {ulps[f][key]:g} ulp")
-    text(SPEED[0], height - 9, processor.split(", g++")[0].replace("&", "&amp;") + "; time-stamp cycles")
+    text(SPEED[0], height - 9, processor.replace("&", "&amp;") + "; time-stamp cycles")
     text(ERROR[0], height - 9, "dotted: correct rounding")
     out.append("</svg>")
     return {"docs/glance.svg": "\n".join(out) + "\n"}
