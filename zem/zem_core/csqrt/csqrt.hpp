@@ -31,7 +31,7 @@ struct SqrtS : ComplexSqrt<float> {
   ORK_INLINE void half(f64x2 x, f64x2 y, f64x2& large, f64x2& small) {
     const f64x2 u = 0.5 * x + 0.5 * sqrt(x * x + y * y);
     large = sqrt(u);
-    small = 0.5 * y / large;
+    small = 0.5 * y / _mm_max_pd(large, splat(0x1p-200));  // 0/0 in no rare lane
   }
   ORK_INLINE Planes<f32x4> eval(const Planes<f32x4>& z, u32x4& rare) {
     const f32x4 x = ork::abs(z.re), y = ork::abs(z.im);

@@ -28,9 +28,11 @@ struct SqrtHaZ : ComplexSqrt<double> {
     const f64x2 large = _mm_max_pd(x, y), small = _mm_min_pd(x, y);
     rare |= (as<u32x4>(small) - ((1023 - 400) << 20)) | (((1023 + 400) << 20) - as<u32x4>(large));
 
-    const f64x2 l2 = large * large, s2 = small * small;
+    // The bound, below the fast range, spares rare lanes 0/0.
+    const f64x2 bounded = _mm_max_pd(large, splat(0x1p-500));
+    const f64x2 l2 = bounded * bounded, s2 = small * small;
     const Pair<f64x2> sum = exact_sum(l2, s2);
-    const f64x2 lost = sum.low - (left_of(l2, large, large) + left_of(s2, small, small));
+    const f64x2 lost = sum.low - (left_of(l2, bounded, bounded) + left_of(s2, small, small));
     f64x2 over, half_inverse;
     const Pair<f64x2> r = root({sum.high, lost}, over);
     // r >= |x| but for its rounding.
