@@ -17,7 +17,8 @@ struct Two {
 ORK_INLINE Two hyperbolic(f64x2 x) {
   u32x4 none{};
   // The bound, beyond all that is kept, spares rare lanes squares that overflow.
-  const f64x2 a = _mm_min_pd(abs(x), splat(100.0)), e = 0.5 * ExpD<ExpLa>::eval(a, none), inverse = 0.25 / e;
+  const f64x2 a = _mm_min_pd(abs(x), splat(100.0)), e = 0.5 * ExpD<ExpLa>::eval(a, none),
+              inverse = 0.25 / e;
   // Below 2^-8 the difference loses bits; x^5/120 is below 2^-38 of the result there.
   const f64x2 near = a + a * a * a * ratio<1, 6>;
   const f64x2 s = select((u64x2)(a < 0.00390625), near, e - inverse);
