@@ -463,6 +463,16 @@ int32_t _ruasSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
                                   uint32_t estimates_high, uint32_t method_low,
                                   uint32_t method_high, const ork_threader* threader);
 
+/* Mahalanobis distances sqrt((x - m)' A (x - m)) of observations first to last - 1, the distance of
+ * the first at place 0. What it reads beyond dimension, observationCount, observations and
+ * storageFormat has no edit code: fields 81 to 87 of the record, counted in words from 0, which are
+ * pointers to first and last (integers), to m (p), to A (p by p, row after row, its lower triangle
+ * and diagonal count), to the distances, and two that are not read. A square that is negative
+ * counts as 0. An observation has the same bits whatever others go with it. Nothing is checked.
+ * Beyond p = 256 one block of 8 p reals (s: 16 p) is taken. Returns 0 or -4000. */
+int32_t _ruadSSMahDistance(ork_ss_task* task);
+int32_t _ruasSSMahDistance(ork_ss_task* task);
+
 /* The weighted quantile of each variable, of the first order in quantileOrders, in quantiles
  * (p). Nothing is checked; weights must be there. No memory: -4000. */
 int32_t _ruadSSWMedian(ork_ss_task* task);
