@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kVectors = 4;  // of observations
 template <class R>
-constexpr int kLanes = kVectors * simd<R>::width;
+constexpr int kLanes = kVectors* simd<R>::width;
 // Variables whose differences fit on the stack: 16 KB.
 constexpr int kStack = 256;
 
@@ -123,8 +123,10 @@ int32_t mahalanobis(const Task<R>& t) {
 template int32_t mahalanobis(const Task<double>&);
 template int32_t mahalanobis(const Task<float>&);
 
-#define ORK_DISTANCE(t, R) \
-  ORK_EXPORT int32_t _rua##t##SSMahDistance(ork_ss_task* task) { return mahalanobis(record_of<R>(task)); }
+#define ORK_DISTANCE(t, R)                                       \
+  ORK_EXPORT int32_t _rua##t##SSMahDistance(ork_ss_task* task) { \
+    return mahalanobis(record_of<R>(task));                      \
+  }
 ORK_TWINS(ORK_DISTANCE)
 
 }  // namespace ork::ss
