@@ -1,36 +1,11 @@
 #pragma once
-// What the dense routines share: views of the caller's arrays and the core products, by
-// value. The exported names take the same by pointer and check it first.
-
-// The caller's threads are the only ones.
-#define EIGEN_DONT_PARALLELIZE
-#include <Eigen/Core>
-#include <cstdlib>
-
+// What the dense routines share: options, and the routines that compute, by value and for arguments
+// that are known to be right. eigen/ or system/ has the products and the
+// eigenvalues.
 #include "ork/dense.h"
 #include "outer/export.hpp"
 
 namespace ork::dense {
-
-template <class R>
-using Columns = Eigen::Matrix<R, Eigen::Dynamic, Eigen::Dynamic>;
-template <class R>
-using Matrix = Eigen::Map<Columns<R>, 0, Eigen::OuterStride<>>;
-template <class R>
-using ConstMatrix = Eigen::Map<const Columns<R>, 0, Eigen::OuterStride<>>;
-template <class R>
-using Vector = Eigen::Map<Eigen::Matrix<R, Eigen::Dynamic, 1>>;
-template <class R>
-using ConstVector = Eigen::Map<const Eigen::Matrix<R, Eigen::Dynamic, 1>>;
-
-template <class R>
-Matrix<R> matrix(R* a, int rows, int cols, int ld) {
-  return {a, rows, cols, Eigen::OuterStride<>(ld)};
-}
-template <class R>
-ConstMatrix<R> matrix(const R* a, int rows, int cols, int ld) {
-  return {a, rows, cols, Eigen::OuterStride<>(ld)};
-}
 
 // An option letter, either case. `flag` tells which of two letters it is; "C" means "T".
 struct Option {
@@ -52,31 +27,43 @@ inline Option is_transposed(const char* trans) {
 
 inline bool ld_ok(int ld, int rows) { return ld >= 1 && ld >= rows; }
 
-// The leading position of `a` that a triangle's off-diagonal block starts at, when the
-// first diagonal block has order n1.
-template <class R>
-R* off_diagonal(R* a, int lda, int n1, bool upper) {
-  return upper ? a + n1 * lda : a + n1;
-}
-
 template <class R>
 void gemm(bool transa, bool transb, int m, int n, int k, R alpha, const R* a, int lda, const R* b,
           int ldb, R beta, R* c, int ldc);
 template <class R>
+void gemv(bool trans, int m, int n, R alpha, const R* a, int lda, const R* x, int incx, R beta,
+          R* y, int incy);
+template <class R>
+void syr(bool upper, int n, R alpha, const R* x, int incx, R* a, int lda);
+template <class R>
 void syrk(bool upper, bool trans, int n, int k, R alpha, const R* a, int lda, R beta, R* c,
           int ldc);
+template <class R>
+void symm(bool left, bool upper, int m, int n, R alpha, const R* a, int lda, const R* b, int ldb,
+          R beta, R* c, int ldc);
 template <class R>
 void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a, int lda,
           R* b, int ldb);
 
-extern template void gemm(bool, bool, int, int, int, double, const double*, int, const double*, int,
-                          double, double*, int);
-extern template void gemm(bool, bool, int, int, int, float, const float*, int, const float*, int,
-                          float, float*, int);
-extern template void syrk(bool, bool, int, int, double, const double*, int, double, double*, int);
-extern template void syrk(bool, bool, int, int, float, const float*, int, float, float*, int);
-extern template void trmm(bool, bool, bool, bool, int, int, double, const double*, int, double*,
-                          int);
-extern template void trmm(bool, bool, bool, bool, int, int, float, const float*, int, float*, int);
+// The same with A packed.
+template <class R>
+void ptrmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* ap, R* b,
+           int ldb);
+
+// U'U = A. The result is the order of the first minor that is not positive, or 0.
+template <class R>
+int cholesky(bool upper, int n, R* a, int lda);
+// No element of the diagonal is 0.
+template <class R>
+void invert(bool upper, bool unit, int n, R* a, int lda);
+// The triangle of U U' replaces U; of L'L, L.
+template <class R>
+void square(bool upper, int n, R* a, int lda);
+
+// Eigenvalues to w, ascending, and if asked for eigenvectors to q, which holds the matrix (n by n,
+// no gaps, lower triangle read, all elements finite). work: 3n - 1 reals. 0, or n without
+// convergence.
+template <class R>
+int decompose(bool vectors, int n, R* q, R* w, R* work);
 
 }  // namespace ork::dense

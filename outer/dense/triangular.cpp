@@ -83,7 +83,10 @@ void multiply(bool upper, int n, At at, Panel<R> x, int cols) {
 template <class R, class Stored>
 void triangular_product(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha,
                         Stored stored, R* b, int ldb) {
-  if (alpha == R(0)) return void(matrix(b, m, n, ldb).setZero());
+  if (alpha == R(0)) {
+    for (int j = 0; j < n; ++j) std::fill_n(b + j * ldb, m, R(0));
+    return;
+  }
   const bool flip = trans == left;  // the stored triangle is seen transposed
   const auto at = [=](int i, int k) {
     return unit && i == k ? alpha : alpha * (flip ? stored(k, i) : stored(i, k));
@@ -96,6 +99,15 @@ void triangular_product(bool left, bool upper, bool trans, bool unit, int m, int
              std::min(chunk, cols - j));
 }
 
+}  // namespace
+
+template <class R>
+void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a, int lda,
+          R* b, int ldb) {
+  const auto stored = [=](int i, int k) { return a[i + k * lda]; };
+  triangular_product(left, upper, trans, unit, m, n, alpha, stored, b, ldb);
+}
+
 template <class R>
 void ptrmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* ap, R* b,
            int ldb) {
@@ -106,47 +118,10 @@ void ptrmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, 
   triangular_product(left, upper, trans, unit, m, n, alpha, stored, b, ldb);
 }
 
-}  // namespace
-
-template <class R>
-void trmm(bool left, bool upper, bool trans, bool unit, int m, int n, R alpha, const R* a, int lda,
-          R* b, int ldb) {
-  const auto stored = [=](int i, int k) { return a[i + k * lda]; };
-  triangular_product(left, upper, trans, unit, m, n, alpha, stored, b, ldb);
-}
-
-template void trmm(bool, bool, bool, bool, int, int, double, const double*, int, double*, int);
-template void trmm(bool, bool, bool, bool, int, int, float, const float*, int, float*, int);
+#define ORK_TWIN(R)                                                                \
+  template void trmm(bool, bool, bool, bool, int, int, R, const R*, int, R*, int); \
+  template void ptrmm(bool, bool, bool, bool, int, int, R, const R*, R*, int);
+ORK_TWIN(double)
+ORK_TWIN(float)
 
 }  // namespace ork::dense
-
-using namespace ork::dense;
-
-#define ORK_TRMM(name, R)                                                                       \
-  ORK_OUTER void name(const char* side, const char* uplo, const char* transa, const char* diag, \
-                      const int* m, const int* n, const R* alpha, const R* a, const int* lda,   \
-                      R* b, const int* ldb) {                                                   \
-    const Option left = is_left(side), upper = is_upper(uplo), trans = is_transposed(transa),   \
-                 unit = is_unit(diag);                                                          \
-    if (left.valid && upper.valid && trans.valid && unit.valid && *m >= 0 && *n >= 0 &&         \
-        ld_ok(*lda, left ? *m : *n) && ld_ok(*ldb, *m))                                         \
-      trmm(left, upper, trans, unit, *m, *n, *alpha, a, *lda, b, *ldb);                         \
-  }
-#define ORK_PTRMM(name, R)                                                                      \
-  ORK_OUTER void name(const char* side, const char* uplo, const char* transa, const char* diag, \
-                      const int* m, const int* n, const R* alpha, const R* ap, R* b,            \
-                      const int* ldb) {                                                         \
-    const Option left = is_left(side), upper = is_upper(uplo), trans = is_transposed(transa),   \
-                 unit = is_unit(diag);                                                          \
-    if (left.valid && upper.valid && trans.valid && unit.valid && *m >= 0 && *n >= 0 &&         \
-        ld_ok(*ldb, *m))                                                                        \
-      ptrmm(left, upper, trans, unit, *m, *n, *alpha, ap, b, *ldb);                             \
-  }
-ORK_TRMM(ork_blas_dtrmm, double)
-ORK_TRMM(ork_blas_strmm, float)
-ORK_TRMM(ork_blas_xdtrmm_4zem, double)
-ORK_TRMM(ork_blas_xstrmm_4zem, float)
-ORK_TRMM(ork_blas4zem_dtrmm, double)
-ORK_TRMM(ork_blas4zem_strmm, float)
-ORK_PTRMM(ork_blas4zem_dptrmm, double)
-ORK_PTRMM(ork_blas4zem_sptrmm, float)

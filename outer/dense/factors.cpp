@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "outer/dense/dense.hpp"
+#include "outer/dense/eigen/views.hpp"
 
 namespace ork::dense {
 namespace {
@@ -51,7 +51,8 @@ void solve(bool upper, int n, int m, const R* a, int lda, R* x, int ldx) {
   solve(upper, n2, m, a + n1 * (lda + 1), lda, x2, ldx);
 }
 
-// U'U = A. The result is the order of the first minor that is not positive, or 0.
+}  // namespace
+
 template <class R>
 int cholesky(bool upper, int n, R* a, int lda) {
   if (n <= small) {
@@ -105,7 +106,6 @@ void invert(bool upper, bool unit, int n, R* a, int lda) {
   trmm(false, upper, false, unit, rows, cols, R(1), upper ? a22 : a, lda, off, lda);
 }
 
-// The triangle of U U' replaces U.
 template <class R>
 void square(bool upper, int n, R* a, int lda) {
   if (n <= small) {
@@ -127,39 +127,11 @@ void square(bool upper, int n, R* a, int lda) {
   square(upper, n2, a22, lda);
 }
 
-template <class R>
-int first_zero(int n, const R* a, int lda) {
-  for (int i = 0; i < n; ++i)
-    if (a[i * (lda + 1)] == R(0)) return i + 1;
-  return 0;
-}
+#define ORK_TWIN(R)                               \
+  template int cholesky(bool, int, R*, int);      \
+  template void invert(bool, bool, int, R*, int); \
+  template void square(bool, int, R*, int);
+ORK_TWIN(double)
+ORK_TWIN(float)
 
-}  // namespace
 }  // namespace ork::dense
-
-using namespace ork::dense;
-
-#define ORK_TWIN(t, R)                                                                         \
-  ORK_OUTER void ork_lapack_##t##potrf(const char* uplo, const int* n, R* a, const int* lda,   \
-                                       int* info) {                                            \
-    const Option upper = is_upper(uplo);                                                       \
-    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : 0;                       \
-    if (*info == 0) *info = cholesky(upper, *n, a, *lda);                                      \
-  }                                                                                            \
-  ORK_OUTER void ork_lapack_##t##potri(const char* uplo, const int* n, R* a, const int* lda,   \
-                                       int* info) {                                            \
-    const Option upper = is_upper(uplo);                                                       \
-    *info = !upper.valid ? -1 : *n < 0 ? -2 : !ld_ok(*lda, *n) ? -4 : first_zero(*n, a, *lda); \
-    if (*info != 0) return;                                                                    \
-    invert(upper, false, *n, a, *lda);                                                         \
-    square(upper, *n, a, *lda);                                                                \
-  }                                                                                            \
-  ORK_OUTER void ork_lapack_##t##trtri(const char* uplo, const char* diag, const int* n, R* a, \
-                                       const int* lda, int* info) {                            \
-    const Option upper = is_upper(uplo), unit = is_unit(diag);                                 \
-    *info = !upper.valid ? -1 : !unit.valid ? -2 : *n < 0 ? -3 : !ld_ok(*lda, *n) ? -5 : 0;    \
-    if (*info == 0 && !unit) *info = first_zero(*n, a, *lda);                                  \
-    if (*info == 0) invert(upper, unit, *n, a, *lda);                                          \
-  }
-ORK_TWIN(d, double)
-ORK_TWIN(s, float)

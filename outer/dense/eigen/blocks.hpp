@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "base/scratch.hpp"
-#include "outer/dense/dense.hpp"
+#include "outer/dense/eigen/views.hpp"
 
 namespace ork::dense {
 
