@@ -14,45 +14,114 @@
 extern "C" {
 #endif
 
+/* From a to b, as the generator scales it; rounding may reach b and, without
+ * RUA_METHOD_ACCURATE, pass it. The only function that hands n on to the generator even if it
+ * is below 1. Range: b > a. */
 int ork_dRngUniform(int method, RuaStream* stream, int n, double* r, double a, double b);
 int ork_sRngUniform(int method, RuaStream* stream, int n, float* r, float a, float b);
+
+/* Mean a, standard deviation sigma (Box, Muller 1958). Half a pair that BOXMULLER2 has not used
+ * stays with the stream, in chunk 2 (d) or 1 (s), and is the first output of the next call, so
+ * that calls in pieces give the numbers of one long call, to the bit; a copied or saved stream
+ * keeps it, and a failed call leaves it. NO_MEMORY: that chunk could not be made;
+ * BAD_GENERATOR: it is shorter than a pair, and nothing is drawn. By ICDF a uniform number that
+ * is an end of its range, where erfinv is infinite, counts as erfinv = 5.8635847487551676 (s
+ * 3.832507) at 1 and as -0.7670519064056041 (s -1.0837466) at -1, which is no large number.
+ * Ends come about once in 2^32 numbers (s 2^26). Range: sigma > 0. */
 int ork_dRngGaussian(int method, RuaStream* stream, int n, double* r, double a, double sigma);
 int ork_sRngGaussian(int method, RuaStream* stream, int n, float* r, float a, float sigma);
+
+/* a - beta ln(u), never below a. Range: beta > 0. */
 int ork_dRngExponential(int method, RuaStream* stream, int n, double* r, double a, double beta);
 int ork_sRngExponential(int method, RuaStream* stream, int n, float* r, float a, float beta);
+
+/* a + beta ln(u1) if u2 is above 1/2, else a - beta ln(u1): two uniform numbers each. Range:
+ * beta > 0. */
 int ork_dRngLaplace(int method, RuaStream* stream, int n, double* r, double a, double beta);
 int ork_sRngLaplace(int method, RuaStream* stream, int n, float* r, float a, float beta);
+
+/* a + beta tan(v), v uniform from -pi/2 to pi/2. Range: beta > 0. */
 int ork_dRngCauchy(int method, RuaStream* stream, int n, double* r, double a, double beta);
 int ork_sRngCauchy(int method, RuaStream* stream, int n, float* r, float a, float beta);
+
+/* a + beta sqrt(-ln(u)), never below a. Range: beta > 0. */
 int ork_dRngRayleigh(int method, RuaStream* stream, int n, double* r, double a, double beta);
 int ork_sRngRayleigh(int method, RuaStream* stream, int n, float* r, float a, float beta);
+
+/* b + beta exp(g), g Gaussian of mean a and standard deviation sigma; never below b. Range:
+ * sigma > 0, beta > 0. */
 int ork_dRngLognormal(int method, RuaStream* stream, int n, double* r, double a, double sigma,
                       double b, double beta);
 int ork_sRngLognormal(int method, RuaStream* stream, int n, float* r, float a, float sigma, float b,
                       float beta);
+
+/* a + beta (-ln(u))^(1/alpha), never below a. Range: alpha > 0, beta > 0. */
 int ork_dRngWeibull(int method, RuaStream* stream, int n, double* r, double alpha, double a,
                     double beta);
 int ork_sRngWeibull(int method, RuaStream* stream, int n, float* r, float alpha, float a,
                     float beta);
+
+/* a + beta ln(e), e exponential of scale 1. Range: beta > 0. */
 int ork_dRngGumbel(int method, RuaStream* stream, int n, double* r, double a, double beta);
 int ork_sRngGumbel(int method, RuaStream* stream, int n, float* r, float a, float beta);
+
+/* a + beta x, never below a, x gamma of shape alpha. Above shape 1 by a Gaussian number's cube
+ * (Marsaglia, Tsang 2000): a candidate that a call has no use for stays with the stream, in
+ * chunk 7 (d) or 8 (s), and is the first of the next call with such a shape; a copied or saved
+ * stream keeps it, a failed call loses it. At 1 the exponential distribution; from 0.6 on a
+ * Weibull envelope (Vaduva 1977), below an envelope of x^alpha. After a failure what r holds is
+ * not yet scaled. NO_MEMORY: the chunk could not be made; BAD_GENERATOR: it is shorter than a
+ * candidate. Range: alpha > 0, beta > 0. */
 int ork_dRngGamma(int method, RuaStream* stream, int n, double* r, double alpha, double a,
                   double beta);
 int ork_sRngGamma(int method, RuaStream* stream, int n, float* r, float alpha, float a, float beta);
+
+/* a + beta x, from a to a + beta, x beta of shapes p and q. Two shapes above 1: Cheng 1978; one
+ * or both below: Atkinson, Whittaker 1976; both small: Johnk 1964; one of them 1: a power of a
+ * uniform number. The law suffers where the type has no room for it: p + q below 0.015 (s:
+ * 0.15), and for s above 3e4. After a failure what r holds is not yet scaled. Range: p > 0, q >
+ * 0, beta > 0. */
 int ork_dRngBeta(int method, RuaStream* stream, int n, double* r, double p, double q, double a,
                  double beta);
 int ork_sRngBeta(int method, RuaStream* stream, int n, float* r, float p, float q, float a,
                  float beta);
+
+/* n vectors of dim coordinates, one after the other: a + T z with z from Gaussian by the same
+ * method (coordinate j of vector i is number i dim + j), mean a, covariance T T'. t holds the
+ * lower triangular factor T as mstorage says; its strict upper part is not read. dim 1 is
+ * Gaussian itself with deviation t[0], whatever mstorage is. Range: dim > 0, mstorage >= 0,
+ * mstorage <= 2. */
 int ork_dRngGaussianMV(int method, RuaStream* stream, int n, double* r, int32_t dim,
                        int32_t mstorage, const double* a, const double* t);
 int ork_sRngGaussianMV(int method, RuaStream* stream, int n, float* r, int32_t dim,
                        int32_t mstorage, const float* a, const float* t);
+
+/* From a to b - 1: floors of uniform numbers in double. Where b - a is not a power of two,
+ * values differ in probability by one step of the generator. A generator whose number can round
+ * to 1 reaches b. Range: b > a. */
 int ork_iRngUniform(int method, RuaStream* stream, int n, int32_t* r, int32_t a, int32_t b);
+
+/* What the generator emits, n items of the wordSize bytes of its properties each; their meaning
+ * is the generator's own. */
 int ork_iRngUniformBits(int method, RuaStream* stream, int n, uint32_t* r);
+
+/* Words uniform in all their bits: those of MT19937, MT2203, SFMT19937 and the non-
+ * deterministic generator, and bits 27 to 58 of the numbers of MCG59. NO_BITS_FORM: another
+ * generator, which stays where it is. */
 int ork_iRngUniformBits32(int method, RuaStream* stream, int n, uint32_t* r);
+
+/* Two words of UniformBits32 each, the low one first, with the same statuses. */
 int ork_iRngUniformBits64(int method, RuaStream* stream, int n, uint64_t* r);
+
+/* 1 with probability p, else 0: whether a uniform number is below p, both in single precision.
+ * Range: p >= 0, p <= 1. */
 int ork_iRngBernoulli(int method, RuaStream* stream, int n, int32_t* r, double p);
+
+/* Failures before the first success of probability p: floor(ln(u) / ln(1 - p)) in single
+ * precision. So values beyond 2^24 are multiples of powers of two, and those that a small p
+ * leads beyond int32_t come as INT32_MIN. Range: p > 0, p < 1. */
 int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r, double p);
+
 
 #ifdef __cplusplus
 }

@@ -15,6 +15,7 @@ extern "C" {
  * slot 2: index, thread (the same number), number of threads, context. */
 typedef void (*ork_threader_body)(int item, int thread, int third, void* context);
 
+/* The table. */
 typedef struct ork_threader {
   /* Slot 0. Runs every item from 0 to count - 1 exactly once, on at most `threads`
    * threads, and returns when all are done. threads = 0 means max_threads(). */

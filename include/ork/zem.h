@@ -17,6 +17,7 @@ extern "C" {
 typedef struct ork_c {
   float re, im;
 } ork_c;
+/* The same in double precision. */
 typedef struct ork_z {
   double re, im;
 } ork_z;
@@ -55,6 +56,7 @@ typedef struct ork_zem_mode_token {
   uint32_t low, high;
 } ork_zem_mode_token;
 
+/* The tokens that the variable may hold. */
 extern const ork_zem_mode_token mapModeS_N[13];
 
 /* The mode word. */

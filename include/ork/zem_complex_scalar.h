@@ -18,6 +18,7 @@
 extern "C" {
 #endif
 
+/* e^re (cos im + i sin im). */
 double* ork_zem_kernel_cexp_scalar(double* result, double re, double im);
 /* Natural and decimal logarithm; the imaginary part is the angle, for the decimal one over ln 10,
  * from -pi to pi with the sign of im. */

@@ -22,31 +22,37 @@ long double ork_zem_kernel_logl_scalar(long double x);
 long double ork_zem_kernel_log1pl_scalar(long double x);
 /* Correctly rounded; the root of -0 is -0. */
 long double ork_zem_kernel_sqrtl_scalar(long double x);
+/* |x|, exact. */
 long double ork_zem_kernel_fabsl_scalar(long double x);
 
-/* Finite arguments of any size; an infinity is invalid. */
+/* Sine, cosine, tangent and the first two at once, x in radians: finite arguments of any size; an
+ * infinity is invalid. */
 long double ork_zem_kernel_sinl_scalar(long double x);
 long double ork_zem_kernel_cosl_scalar(long double x);
 long double ork_zem_kernel_tanl_scalar(long double x);
 void ork_zem_kernel_sincosl_scalar(long double x, long double* sine, long double* cosine);
 
-/* Overflow beyond 11357.2 in absolute value. */
+/* Hyperbolic sine, cosine, tangent and the first two at once: overflow beyond 11357.2 in absolute
+ * value, but for the tangent. */
 long double ork_zem_kernel_sinhl_scalar(long double x);
 long double ork_zem_kernel_coshl_scalar(long double x);
 long double ork_zem_kernel_tanhl_scalar(long double x);
 void ork_zem_kernel_sinhcoshl_scalar(long double x, long double* sinh, long double* cosh);
 
-/* Domain [-1, 1]. */
+/* Arc sine and arc cosine, in radians: domain [-1, 1]. */
 long double ork_zem_kernel_asinl_scalar(long double x);
 long double ork_zem_kernel_acosl_scalar(long double x);
+
+/* Arc tangent of any x, from -pi/2 to pi/2. */
 long double ork_zem_kernel_atanl_scalar(long double x);
 /* The angle of the point (x, y), from -pi to pi, with C's values at zeros and infinities. */
 long double ork_zem_kernel_atan2l_scalar(long double y, long double x);
 
+/* ln(x + sqrt(x^2 + 1)) for any x. */
 long double ork_zem_kernel_asinhl_scalar(long double x);
-/* Domain from 1 on. */
+/* ln(x + sqrt(x^2 - 1)): domain from 1 on. */
 long double ork_zem_kernel_acoshl_scalar(long double x);
-/* Domain [-1, 1]: infinities and division by zero at its ends. */
+/* ln((1 + x)/(1 - x))/2: domain [-1, 1], infinities and division by zero at its ends. */
 long double ork_zem_kernel_atanhl_scalar(long double x);
 
 /* x = n pi/4 + reduced[0] + reduced[1] for a finite x from 2^-900 on: head and tail, together right

@@ -20,7 +20,7 @@ int first_zero(int n, const R* a, int lda) {
 
 using namespace ork::dense;
 
-#define ORK_PRODUCTS(t, R)                                                                             \
+#define ORK_PRODUCTS(t, R)                                                                         \
   ORK_OUTER void ork_blas_##t##gemm(const char* transa, const char* transb, const int* m,          \
                                     const int* n, const int* k, const R* alpha, const R* a,        \
                                     const int* lda, const R* b, const int* ldb, const R* beta,     \
@@ -62,7 +62,7 @@ using namespace ork::dense;
 ORK_PRODUCTS(d, double)
 ORK_PRODUCTS(s, float)
 
-#define ORK_FACTORS(t, R)                                                                         \
+#define ORK_FACTORS(t, R)                                                                      \
   ORK_OUTER void ork_lapack_##t##potrf(const char* uplo, const int* n, R* a, const int* lda,   \
                                        int* info) {                                            \
     const Option upper = is_upper(uplo);                                                       \
@@ -87,7 +87,7 @@ ORK_PRODUCTS(s, float)
 ORK_FACTORS(d, double)
 ORK_FACTORS(s, float)
 
-#define ORK_EIGENVALUES(t, R)                                                                          \
+#define ORK_EIGENVALUES(t, R)                                                                   \
   ORK_OUTER void ork_lapack_##t##syev(const char* jobz, const char* uplo, const int* n, R* a,   \
                                       const int* lda, R* w, R* work, const int* lwork,          \
                                       int* info) {                                              \

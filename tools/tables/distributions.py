@@ -191,7 +191,11 @@ front_words = """\
 
 
 def front_header(blocks):
-    body = "\n".join(front_declaration(b, letter) + ";" for b, letter in entries(blocks)) + "\n"
+    body = ""
+    for b in blocks:
+        if b.letters:
+            body += comment(b.text + ranges(b)) + "\n"
+            body += "".join(front_declaration(b, letter) + ";\n" for letter in b.letters) + "\n"
     return guarded("ORK_FRONT_DISTRIBUTIONS_H", front_words, body)
 
 

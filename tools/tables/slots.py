@@ -1,6 +1,8 @@
 """Kernel tables, stubs, declarations, registries and the public layer's functions from zem_core/frame/slots.tsv."""
 import collections
 import pathlib
+import re
+import textwrap
 
 root = pathlib.Path(__file__).resolve().parents[2]
 source = "zem/zem_core/frame/slots.tsv"
@@ -60,6 +62,53 @@ def read():
         c = line.split("\t")
         rows.append(Row(c[0], c[1], c[2], c[3:6], c[6:9]))
     return rows
+
+
+def described():
+    """{(function, type letter): (sentence, statuses)} from functions.tsv."""
+    texts = {}
+    for line in (root / "zem/zem_core/frame/functions.tsv").read_text().splitlines():
+        if line.startswith("#") or line.startswith("function\t"):
+            continue
+        function, kinds, sentence, *statuses = line.split("\t")
+        for t in {"r": "ds", "c": "cz", "rc": "dscz"}[kinds]:
+            texts[function, t] = sentence, statuses[0] if statuses else ""
+    return texts
+
+
+def claimed():
+    """{kernel as in dExp_W7HA: its bounds in words}."""
+    bounds = collections.defaultdict(list)
+    for path in sorted((root / "zem").glob("**/claims.tsv")):
+        for line in path.read_text().splitlines():
+            if line.startswith("claim "):
+                _, name, bound, unit = line.split()[:4]
+                whole = "modulus" if name[0] in "cz" else "result"
+                bounds[name].append({"ulp": f"{bound} ulp", "rel": f"{bound} of the {whole}",
+                                     "modulus": f"{bound} ulp of the modulus"}[unit])
+    return bounds
+
+
+texts, bounds = described(), claimed()
+
+
+def comment(row):
+    """What the function does, how exactly, what it reports: a comment of the headers."""
+    sentence, statuses = texts[row.function, row.type]
+    out = sentence + "."
+    levels = collections.defaultdict(list)
+    for level, name in zip(level_name, row.kernels):
+        if told := bounds.get(f"{row.type}{row.function}_{name}"):
+            levels[", ".join(told)].append(level)
+    each = " a part" if row.type in "cz" and row.form not in ("to_real",) else ""
+    if levels and not re.search(r"\bexact\b", sentence):
+        out += f" Error{each} at most " + "; ".join(f"{told} ({', '.join(at)})" for told, at in levels.items()) + "."
+    if statuses:
+        out += f" Status: {statuses}."
+    elif "pack" not in row.form:
+        out += " No status."
+    lines = textwrap.wrap(out, 96)
+    return "/* " + "\n * ".join(lines) + " */"
 
 
 def kernel(row, name):
@@ -128,6 +177,7 @@ def header(rows):
     for row in rows:
         p = typed(parameters[row.form], row.type)
         name = row.type + row.function
+        out.append(comment(row))
         out.append(f"extern const ork_{row.type}_{row.form} ork_zem_kernel_{name}_ttab[3];")
         out.append(f"extern const float ork_zem_kernel_{name}_ctab[3];")
         for k in unique(row.kernels):
@@ -201,8 +251,9 @@ def front_header(rows):
  * told in front.h, which includes this file. */""",
            "#ifndef ORK_FRONT_ELEMENTWISE_H", "#define ORK_FRONT_ELEMENTWISE_H", "",
            '#include "ork/zem.h"', "", "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
-    out += [front_signature(row) + ";" for row in rows]
-    out += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
+    for row in rows:
+        out += [comment(row), front_signature(row) + ";", ""]
+    out += ["#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
     return "\n".join(out)
 
 

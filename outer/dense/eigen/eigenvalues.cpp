@@ -1,11 +1,11 @@
 // Householder reduction to tridiagonal form and implicit QR steps. Eigen's steps are called one by
 // one, since its solver class would hold a second copy of the matrix.
+#include <Eigen/Eigenvalues>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include "outer/dense/eigen/views.hpp"
-#include <Eigen/Eigenvalues>
 
 namespace ork::dense {
 

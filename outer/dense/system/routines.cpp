@@ -32,38 +32,38 @@ const char* side(bool left) { return letter(left, "L", "R"); }
 
 }  // namespace
 
-#define ORK_ROUTINES(t, R)                                                                         \
-  template <>                                                                                      \
-  void gemm(bool transa, bool transb, int m, int n, int k, R alpha, const R* a, int lda,           \
-            const R* b, int ldb, R beta, R* c, int ldc) {                                          \
-    t##gemm_(transposed(transa), transposed(transb), &m, &n, &k, &alpha, a, &lda, b, &ldb, &beta,  \
-             c, &ldc);                                                                             \
-  }                                                                                                \
-  template <>                                                                                      \
-  void gemv(bool trans, int m, int n, R alpha, const R* a, int lda, const R* x, int incx, R beta,  \
-            R* y, int incy) {                                                                      \
-    t##gemv_(transposed(trans), &m, &n, &alpha, a, &lda, x, &incx, &beta, y, &incy);               \
-  }                                                                                                \
-  template <>                                                                                      \
-  void syr(bool upper, int n, R alpha, const R* x, int incx, R* a, int lda) {                      \
-    t##syr_(triangle(upper), &n, &alpha, x, &incx, a, &lda);                                       \
-  }                                                                                                \
-  template <>                                                                                      \
-  void syrk(bool upper, bool trans, int n, int k, R alpha, const R* a, int lda, R beta, R* c,      \
-            int ldc) {                                                                             \
-    t##syrk_(triangle(upper), transposed(trans), &n, &k, &alpha, a, &lda, &beta, c, &ldc);         \
-  }                                                                                                \
-  template <>                                                                                      \
-  void symm(bool left, bool upper, int m, int n, R alpha, const R* a, int lda, const R* b,         \
-            int ldb, R beta, R* c, int ldc) {                                                      \
-    t##symm_(side(left), triangle(upper), &m, &n, &alpha, a, &lda, b, &ldb, &beta, c, &ldc);       \
-  }                                                                                                \
-  template <>                                                                                      \
-  int decompose(bool vectors, int n, R* q, R* w, R* work) {                                        \
-    const int most = 3 * n - 1;                                                                    \
-    int info;                                                                                      \
-    t##syev_(letter(vectors, "V", "N"), "L", &n, q, &n, w, work, &most, &info);                    \
-    return info == 0 ? 0 : n;                                                                      \
+#define ORK_ROUTINES(t, R)                                                                        \
+  template <>                                                                                     \
+  void gemm(bool transa, bool transb, int m, int n, int k, R alpha, const R* a, int lda,          \
+            const R* b, int ldb, R beta, R* c, int ldc) {                                         \
+    t##gemm_(transposed(transa), transposed(transb), &m, &n, &k, &alpha, a, &lda, b, &ldb, &beta, \
+             c, &ldc);                                                                            \
+  }                                                                                               \
+  template <>                                                                                     \
+  void gemv(bool trans, int m, int n, R alpha, const R* a, int lda, const R* x, int incx, R beta, \
+            R* y, int incy) {                                                                     \
+    t##gemv_(transposed(trans), &m, &n, &alpha, a, &lda, x, &incx, &beta, y, &incy);              \
+  }                                                                                               \
+  template <>                                                                                     \
+  void syr(bool upper, int n, R alpha, const R* x, int incx, R* a, int lda) {                     \
+    t##syr_(triangle(upper), &n, &alpha, x, &incx, a, &lda);                                      \
+  }                                                                                               \
+  template <>                                                                                     \
+  void syrk(bool upper, bool trans, int n, int k, R alpha, const R* a, int lda, R beta, R* c,     \
+            int ldc) {                                                                            \
+    t##syrk_(triangle(upper), transposed(trans), &n, &k, &alpha, a, &lda, &beta, c, &ldc);        \
+  }                                                                                               \
+  template <>                                                                                     \
+  void symm(bool left, bool upper, int m, int n, R alpha, const R* a, int lda, const R* b,        \
+            int ldb, R beta, R* c, int ldc) {                                                     \
+    t##symm_(side(left), triangle(upper), &m, &n, &alpha, a, &lda, b, &ldb, &beta, c, &ldc);      \
+  }                                                                                               \
+  template <>                                                                                     \
+  int decompose(bool vectors, int n, R* q, R* w, R* work) {                                       \
+    const int most = 3 * n - 1;                                                                   \
+    int info;                                                                                     \
+    t##syev_(letter(vectors, "V", "N"), "L", &n, q, &n, w, work, &most, &info);                   \
+    return info == 0 ? 0 : n;                                                                     \
   }
 ORK_ROUTINES(d, double)
 ORK_ROUTINES(s, float)
