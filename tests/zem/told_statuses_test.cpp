@@ -21,7 +21,8 @@ std::map<std::string, std::map<int, std::string>> told() {
     std::getline(cells, function, '\t'), std::getline(cells, kinds, '\t');
     std::getline(cells, sentence, '\t'), std::getline(cells, statuses, '\t');
     std::map<int, std::string> row;
-    for (size_t at = 0; at < statuses.size(); at = std::min(statuses.find("; ", at), line.size()) + 2) {
+    for (size_t at = 0; at < statuses.size();
+         at = std::min(statuses.find("; ", at), line.size()) + 2) {
       const size_t open = statuses.find(" (", at);
       row[statuses[at] - '0'] =
           open == at + 1 ? statuses.substr(open + 2, statuses.find(')', at) - open - 2) : "";
@@ -35,10 +36,24 @@ std::map<std::string, std::map<int, std::string>> told() {
 template <class T>
 std::vector<T> points(bool few) {
   using L = std::numeric_limits<T>;
-  std::vector<T> p = {0,        L::denorm_min(), L::min(), T(0.5), std::nextafter(T(1), T(0)),
-                      1,        T(1.5),          2,        T(10),  T(34.5),
-                      T(100),   T(171.7),        T(720),   T(1e5), T(1e30),
-                      L::max(), L::infinity(),   L::quiet_NaN()};
+  std::vector<T> p = {0,
+                      L::denorm_min(),
+                      L::min(),
+                      T(0.5),
+                      std::nextafter(T(1), T(0)),
+                      1,
+                      T(1.5),
+                      2,
+                      T(10),
+                      T(34.5),
+                      T(100),
+                      T(171.7),
+                      T(720),
+                      T(1e5),
+                      T(1e30),
+                      L::max(),
+                      L::infinity(),
+                      L::quiet_NaN()};
   for (int e = L::min_exponent; !few && e < L::max_exponent; e += 7)
     p.push_back(std::ldexp(T(1.37), e));
   for (T x = T(0.25); !few && x < 200; x += T(0.25)) p.push_back(x);
@@ -48,10 +63,14 @@ std::vector<T> points(bool few) {
 
 template <class T>
 void expect_as_told(const Call<T>& call, const std::map<int, std::string>& row) {
-  const bool parts = call.in_parts() == 2, two = call.inputs() == 2 || call.slot->form == Form::scalar;
+  const bool parts = call.in_parts() == 2,
+             two = call.inputs() == 2 || call.slot->form == Form::scalar;
   std::set<int> seen, due;
-  const std::vector<T> first = points<T>(parts || two), second = parts || two ? first : std::vector<T>{0};
-  const std::vector<T> third = parts && two ? std::vector<T>{0, 1, T(-2.5), T(1e-30), std::numeric_limits<T>::max()} : std::vector<T>{0};
+  const std::vector<T> first = points<T>(parts || two),
+                       second = parts || two ? first : std::vector<T>{0};
+  const std::vector<T> third =
+      parts && two ? std::vector<T>{0, 1, T(-2.5), T(1e-30), std::numeric_limits<T>::max()}
+                   : std::vector<T>{0};
   for (const T x : first)
     for (const T y : second)
       for (const T u : third)
