@@ -10,7 +10,7 @@
 
 namespace {
 
-// What the levels reach; zem_core/{ln,log10,log1p}/claims.tsv gives the reasons.
+// What the levels reach; zem_core/logarithms/*/claims.tsv gives the reasons.
 const Limits ln_d = {{0.6, 0.6, 0x1p-19}, {false, false, true}};
 const Limits ln_s = {{4.0, 1.0, 0x1p-10}, {false, false, true}};
 const Limits log10_d = {{2.0, 0.6, 0x1p-19}, {false, false, true}};

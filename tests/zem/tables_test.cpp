@@ -12,132 +12,132 @@ namespace {
 
 namespace atan_rows {
 constexpr double d[][2] = {
-#include "../../zem/zem_core/atan/rows_d.inc"
+#include "../../zem/zem_core/arcs/atan_rows_d.inc"
 };
 constexpr double steps[][2] = {
-#include "../../zem/zem_core/atan2/steps_d.inc"
+#include "../../zem/zem_core/arcs/atan_steps_d.inc"
 };
 }  // namespace atan_rows
 namespace exp_rows {
 constexpr double split64[][2] = {
-#include "../../zem/zem_core/cosh/split64_d.inc"
+#include "../../zem/zem_core/exponentials/pair_split64_d.inc"
 };
 constexpr double power128[] = {
-#include "../../zem/zem_core/cosh/power128_d.inc"
+#include "../../zem/zem_core/common/exp_power128_d.inc"
 };
 constexpr float split128_s[][2] = {
-#include "../../zem/zem_core/cosh/split128_s.inc"
+#include "../../zem/zem_core/exponentials/pair_split128_s.inc"
 };
 constexpr double erfc128[][2] = {
-#include "../../zem/zem_core/erfc/powers.inc"
+#include "../../zem/zem_core/error_functions/erfc/powers.inc"
 };
 }  // namespace exp_rows
 namespace ln_rows {
 constexpr double asinh[][3] = {
-#include "../../zem/zem_core/asinh/rows_d.inc"
+#include "../../zem/zem_core/areas/log_rows_d.inc"
 };
 constexpr double tails[][2] = {
-#include "../../zem/zem_core/erfcinv/reciprocals.inc"
+#include "../../zem/zem_core/error_functions/erfcinv/reciprocals.inc"
 };
 }  // namespace ln_rows
 namespace erf_rows {
 constexpr double d[][2] = {
-#include "../../zem/zem_core/erf/rows_d.inc"
+#include "../../zem/zem_core/error_functions/erf/rows_d.inc"
 };
 constexpr double d_ha[][4] = {
-#include "../../zem/zem_core/erf/rows_d_ha.inc"
+#include "../../zem/zem_core/error_functions/erf/rows_d_ha.inc"
 };
 constexpr float s[][2] = {
-#include "../../zem/zem_core/erf/rows_s.inc"
+#include "../../zem/zem_core/error_functions/erf/rows_s.inc"
 };
 }  // namespace erf_rows
 namespace cdf_rows {
 constexpr double d_ep[][2] = {
-#include "../../zem/zem_core/cdfnorm/rows_d_ep.inc"
+#include "../../zem/zem_core/error_functions/cdfnorm/rows_d_ep.inc"
 };
 constexpr double d_la[][2] = {
-#include "../../zem/zem_core/cdfnorm/rows_d_la.inc"
+#include "../../zem/zem_core/error_functions/cdfnorm/rows_d_la.inc"
 };
 constexpr double d_ha[][4] = {
-#include "../../zem/zem_core/cdfnorm/rows_d_ha.inc"
+#include "../../zem/zem_core/error_functions/cdfnorm/rows_d_ha.inc"
 };
 constexpr double s[][2] = {
-#include "../../zem/zem_core/cdfnorm/rows_s.inc"
+#include "../../zem/zem_core/error_functions/cdfnorm/rows_s.inc"
 };
 }  // namespace cdf_rows
 namespace erfc_rows {
 constexpr double d_la[][16] = {
-#include "../../zem/zem_core/erfc/rows_d_la.inc"
+#include "../../zem/zem_core/error_functions/erfc/rows_d_la.inc"
 };
 constexpr double d_ha[][16] = {
-#include "../../zem/zem_core/erfc/rows_d_ha.inc"
+#include "../../zem/zem_core/error_functions/erfc/rows_d_ha.inc"
 };
 constexpr double s_ha[][8] = {
-#include "../../zem/zem_core/erfc/rows_s_ha.inc"
+#include "../../zem/zem_core/error_functions/erfc/rows_s_ha.inc"
 };
 constexpr double s_la[][6] = {
-#include "../../zem/zem_core/erfc/rows_s_la.inc"
+#include "../../zem/zem_core/error_functions/erfc/rows_s_la.inc"
 };
 constexpr double s_ep[][4] = {
-#include "../../zem/zem_core/erfc/rows_s_ep.inc"
+#include "../../zem/zem_core/error_functions/erfc/rows_s_ep.inc"
 };
 }  // namespace erfc_rows
 namespace inverse_rows {
 constexpr double erf_d_ep[][4] = {
-#include "../../zem/zem_core/erfinv/rows_d_ep.inc"
+#include "../../zem/zem_core/error_functions/erfinv/rows_d_ep.inc"
 };
 constexpr double erf_d_la[][12] = {
-#include "../../zem/zem_core/erfinv/rows_d_la.inc"
+#include "../../zem/zem_core/error_functions/erfinv_rows_d_la.inc"
 };
 constexpr double erf_d_ha[][17] = {
-#include "../../zem/zem_core/erfinv/rows_d_ha.inc"
+#include "../../zem/zem_core/error_functions/erfinv_rows_d_ha.inc"
 };
 constexpr double erf_s_ep[][4] = {
-#include "../../zem/zem_core/erfinv/rows_s_ep.inc"
+#include "../../zem/zem_core/error_functions/erfinv_rows_s_ep.inc"
 };
 constexpr double erf_s_la[][6] = {
-#include "../../zem/zem_core/erfinv/rows_s_la.inc"
+#include "../../zem/zem_core/error_functions/erfinv_rows_s_la.inc"
 };
 constexpr double cubics_s_ep[][4] = {
-#include "../../zem/zem_core/erfinv/cubics_s_ep.inc"
+#include "../../zem/zem_core/error_functions/erfinv/cubics_s_ep.inc"
 };
 constexpr double cubics_s_la[][4] = {
-#include "../../zem/zem_core/erfinv/cubics_s_la.inc"
+#include "../../zem/zem_core/error_functions/erfinv/cubics_s_la.inc"
 };
 constexpr double erf_s_ha[][8] = {
-#include "../../zem/zem_core/erfinv/rows_s_ha.inc"
+#include "../../zem/zem_core/error_functions/erfinv_rows_s_ha.inc"
 };
 constexpr double erfc_d_ep[][4] = {
-#include "../../zem/zem_core/erfcinv/rows_d_ep.inc"
+#include "../../zem/zem_core/error_functions/erfcinv/rows_d_ep.inc"
 };
 constexpr double cdf_d_ep[][4] = {
-#include "../../zem/zem_core/cdfnorminv/rows_d_ep.inc"
+#include "../../zem/zem_core/error_functions/cdfnorminv/rows_d_ep.inc"
 };
 constexpr double cdf_d_la[][12] = {
-#include "../../zem/zem_core/cdfnorminv/rows_d_la.inc"
+#include "../../zem/zem_core/error_functions/cdfnorminv/rows_d_la.inc"
 };
 constexpr double cdf_d_ha[][17] = {
-#include "../../zem/zem_core/cdfnorminv/rows_d_ha.inc"
+#include "../../zem/zem_core/error_functions/cdfnorminv/rows_d_ha.inc"
 };
 constexpr double cdf_s_ep[][4] = {
-#include "../../zem/zem_core/cdfnorminv/rows_s_ep.inc"
+#include "../../zem/zem_core/error_functions/cdfnorminv/rows_s_ep.inc"
 };
 constexpr double cdf_s_la[][6] = {
-#include "../../zem/zem_core/cdfnorminv/rows_s_la.inc"
+#include "../../zem/zem_core/error_functions/cdfnorminv/rows_s_la.inc"
 };
 constexpr double cdf_s_ha[][8] = {
-#include "../../zem/zem_core/cdfnorminv/rows_s_ha.inc"
+#include "../../zem/zem_core/error_functions/cdfnorminv/rows_s_ha.inc"
 };
 }  // namespace inverse_rows
 namespace tanh_rows {
 constexpr double d[][16] = {
-#include "../../zem/zem_core/tanh/rows_d.inc"
+#include "../../zem/zem_core/exponentials/tanh/rows_d.inc"
 };
 constexpr float s[][8] = {
-#include "../../zem/zem_core/tanh/rows_s.inc"
+#include "../../zem/zem_core/exponentials/tanh/rows_s.inc"
 };
 constexpr float s_ep[][4] = {
-#include "../../zem/zem_core/tanh/rows_s_ep.inc"
+#include "../../zem/zem_core/exponentials/tanh/rows_s_ep.inc"
 };
 }  // namespace tanh_rows
 namespace gamma_rows {
@@ -158,25 +158,25 @@ struct Root {
   long double low, per_width, c[24];
 };
 constexpr Lgamma<long double, 12> binades_d[] = {
-#include "../../zem/zem_core/lgamma/binades_d.inc"
+#include "../../zem/zem_core/gamma/lgamma/binades_d.inc"
 };
 constexpr Lgamma<double, 6> binades_s[] = {
-#include "../../zem/zem_core/lgamma/binades_s.inc"
+#include "../../zem/zem_core/gamma/lgamma/binades_s.inc"
 };
 constexpr Low<long double, 11> low_d[] = {
-#include "../../zem/zem_core/lgamma/low_d.inc"
+#include "../../zem/zem_core/gamma/lgamma/low_d.inc"
 };
 constexpr Low<double, 5> low_s[] = {
-#include "../../zem/zem_core/lgamma/low_s.inc"
+#include "../../zem/zem_core/gamma/lgamma/low_s.inc"
 };
 constexpr Root roots[] = {
-#include "../../zem/zem_core/lgamma/roots.inc"
+#include "../../zem/zem_core/gamma/lgamma/roots.inc"
 };
 constexpr long double tgamma_d[][25] = {
-#include "../../zem/zem_core/tgamma/rows_d.inc"
+#include "../../zem/zem_core/gamma/tgamma/rows_d.inc"
 };
 constexpr double tgamma_s[][13] = {
-#include "../../zem/zem_core/tgamma/rows_s.inc"
+#include "../../zem/zem_core/gamma/tgamma/rows_s.inc"
 };
 }  // namespace gamma_rows
 

@@ -55,12 +55,12 @@ bool parse(const std::string& line, Claims& claims) {
 
 Claims read_claims(const std::string& root) {
   Claims claims;
-  for (const auto& entry : std::filesystem::directory_iterator(root + "/zem/zem_core")) {
-    const auto path = entry.path() / "claims.tsv";
-    std::ifstream file(path);
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(root + "/zem/zem_core")) {
+    if (entry.path().filename() != "claims.tsv") continue;
+    std::ifstream file(entry.path());
     for (std::string line; std::getline(file, line);)
       if (!parse(line, claims)) {
-        std::fprintf(stderr, "%s: cannot read: %s\n", path.c_str(), line.c_str());
+        std::fprintf(stderr, "%s: cannot read: %s\n", entry.path().c_str(), line.c_str());
         std::exit(2);
       }
   }

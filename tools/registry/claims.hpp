@@ -33,6 +33,6 @@ struct Claims {
   std::map<std::string, Range> bench;
 };
 
-// Reads zem/zem_core/*/claims.tsv below the project's root. A malformed line ends the program
+// Reads zem/zem_core/*/*/claims.tsv below the project's root. A malformed line ends the program
 // with a message.
 Claims read_claims(const std::string& root);

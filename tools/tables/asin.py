@@ -17,10 +17,10 @@ def generate():
     rest = fit(shape, powers, 0, 0.25, "d", fixed, lambda y: shape(y) * (1 if y < 0.012 else 0.6), points=120)
     single = fit(shape, list(range(1, 7)), 0, 0.25, "d", {0: mpf(1)}, points=120)
     return {
-        "zem/zem_core/asin/poly_d.inc": coefficients(
+        "zem/zem_core/arcs/asin_poly_d.inc": coefficients(
             "asin", "c3 to c11 of P(y) = c0 + c1 y + ... for asin v = v + v y P(y), y = v^2 in [0, 0.25];\n"
             "c0 to c2 are frozen and leave 2.9e-17 about y = 0.004; elsewhere 1.7e-17. The error is that of asin.", rest, "d", powers),
-        "zem/zem_core/asin/poly_s_ha.inc": coefficients(
+        "zem/zem_core/arcs/asin_poly_s_ha.inc": coefficients(
             "asin", "c0 to c5 of P(y) = c0 + c1 y + ... for asin v = v + v y P(y), y = v^2 in [0, 0.25].\n"
             "The error is that of asin.", single, "d", list(range(1, 7))),
     }

@@ -20,7 +20,7 @@ def log1p_tail(low, high, count, t):
 
 
 def generate():
-    at = "zem/zem_core/asinh/"
+    at = "zem/zem_core/areas/"
     near = list(range(1, 9))
     one = [2, 3, 4]
     tail, powers = log1p_tail(-mpf(2)**-21, mpf(2)**-8, 6, "d")
@@ -31,13 +31,13 @@ def generate():
                                            ep, "s", ep_powers),
         at + "tail_s_ha.inc": coefficients("asinh", "c1 to c3 of ln(1 + r) = r + r (c1 r + c2 r^2 + c3 r^3), -2^-21 <= r <= 2^-8.",
                                            short, "d", short_powers),
-        at + "rows_d.inc": table("asinh", "T_hi, T_lo, c with T = -ln c, c = 1/(1 + j/256) to 22 bits, j = 0..255.", log_rows()),
+        at + "log_rows_d.inc": table("asinh", "T_hi, T_lo, c with T = -ln c, c = 1/(1 + j/256) to 22 bits, j = 0..255.", log_rows()),
         at + "tail_d_la.inc": coefficients("asinh", "c1 to c6 of ln(1 + r) = r + r (c1 r + ... + c6 r^6), -2^-21 <= r <= 2^-8.",
                                            tail, "d", powers),
-        at + "near_zero_d.inc": coefficients(
+        at + "asinh/near_zero_d.inc": coefficients(
             "asinh", "c1 to c8 of asinh x = x + x (c1 z + ... + c8 z^8), z = x^2, x <= 0.125.",
             fit(lambda z: asinh(sqrt(z)) / sqrt(z), near, 0, mpf(1) / 64, "d", {0: mpf(1)}, points=80), "d", near),
-        "zem/zem_core/acosh/near_one_d.inc": coefficients(
+        at + "acosh/near_one_d.inc": coefficients(
             "asinh", "c2 to c4 of acosh x = sqrt(2 t) (1 + c1 t + ... + c4 t^4), t = x - 1 <= 0.00048876;\n"
             "c1 = -0.083333333332859 is frozen.",
             fit(lambda t: acosh(1 + t) / sqrt(2 * t), one, 0, "0.00048876", "d",

@@ -50,15 +50,15 @@ def pairs(values, bits):
 
 
 def generate():
-    c, i = "zem/zem_core/cbrt/", "zem/zem_core/invcbrt/"
+    c, i = "zem/zem_core/roots/", "zem/zem_core/roots/invcbrt/"
     root, inverse = rows(mpf(1) / 3), rows(-mpf(1) / 3)
     series = [binomial(-mpf(1) / 3, k) for k in range(1, 10)]
     return {
         c + "reciprocals.inc": head("1 / c_j, c_j = 1 + (2j + 1)/64, j = 0..31.")
         + "".join(text(1 / centre(j), 53) + ",\n" for j in range(32)),
-        c + "rows.inc": head("(2^rem c_j)^(1/3), nearest double and the rest; row 32 rem + j.")
+        c + "cbrt_rows.inc": head("(2^rem c_j)^(1/3), nearest double and the rest; row 32 rem + j.")
         + split(root),
-        c + "pairs.inc": head("{(2^rem c_j)^(1/3), 1 / c_j}; row 32 rem + j.") + pairs(root, 53),
+        c + "cbrt_pairs.inc": head("{(2^rem c_j)^(1/3), 1 / c_j}; row 32 rem + j.") + pairs(root, 53),
         i + "rows.inc": head("(2^rem c_j)^(-1/3), nearest double and the rest; row 32 rem + j.")
         + split(inverse),
         i + "pairs.inc": head("{(2^rem c_j)^(-1/3), 1 / c_j}; row 32 rem + j.") + pairs(inverse, 53),

@@ -19,7 +19,7 @@ def rows(steps, cap, scale, split=False):
 
 
 def generate():
-    at = "zem/zem_core/cdfnorm/"
+    at = "zem/zem_core/error_functions/cdfnorm/"
     rule = "2^{} times the normal distribution and its density at -y, y = j/{}; zero at the cap.{}"
     split = "\nHigh parts (that of the density of 26 bits), then low parts."
     return {

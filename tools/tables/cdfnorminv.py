@@ -1,7 +1,7 @@
 """Tables of CdfNormInv: those of ErfInv times sqrt(2)."""
 from mpmath import mpf, sqrt
 
-from erfinv import family, text
+from erfinv import AT, family, text
 
 # Given.
 first = ("1.2533942533804652", "-0.005128202620709582", "0.08210634660093051", "-0.0014109816448152064")
@@ -9,6 +9,7 @@ first = ("1.2533942533804652", "-0.005128202620709582", "0.08210634660093051", "
 
 def generate():
     root = sqrt(mpf(2))
-    found = family("cdfnorminv", root)
-    found["zem/zem_core/cdfnorminv/rows_d_ep.inc"] = text("cdfnorminv", 53, 16, 3, 9, scale=root, first=first)
+    at = AT + "cdfnorminv/"
+    found = family("cdfnorminv", at, root)
+    found[at + "rows_d_ep.inc"] = text("cdfnorminv", 53, 16, 3, 9, scale=root, first=first)
     return found

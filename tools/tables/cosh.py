@@ -17,11 +17,11 @@ def split(n, t, zeros):
 
 
 def generate():
-    at = "zem/zem_core/cosh/"
+    at = "zem/zem_core/"
     return {
-        at + "split64_d.inc": table("cosh", "T_hi, T_lo with T_hi + T_lo = 2^(j/64), j = 0..63; the low 8 mantissa\n"
+        at + "exponentials/pair_split64_d.inc": table("cosh", "T_hi, T_lo with T_hi + T_lo = 2^(j/64), j = 0..63; the low 8 mantissa\n"
                                     "bits of T_hi are zero.", split(64, "d", 8)),
-        at + "split128_s.inc": table("cosh", "T_hi, T_lo with T_hi + T_lo = 2^(j/128), j = 0..127.", split(128, "s", 0)),
-        at + "power128_d.inc": table("cosh", "2^(j/128), j = 0..127.",
+        at + "exponentials/pair_split128_s.inc": table("cosh", "T_hi, T_lo with T_hi + T_lo = 2^(j/128), j = 0..127.", split(128, "s", 0)),
+        at + "common/exp_power128_d.inc": table("cosh", "2^(j/128), j = 0..127.",
                                      [[number(rounded(power(j, 128), 53), "d")] for j in range(128)]),
     }

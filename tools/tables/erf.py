@@ -30,7 +30,7 @@ def split_rows(count):
 
 
 def generate():
-    at = "zem/zem_core/erf/"
+    at = "zem/zem_core/error_functions/erf/"
     return {
         at + "rows_d.inc": table("erf", "erf(y) and 2/sqrt(pi) exp(-y^2), y = j/128, j = 0..767; the last row is 1, 0.", rows(768)),
         at + "rows_s.inc": table("erf", "erf(y) and 2/sqrt(pi) exp(-y^2), y = j/128, j = 0..767.", rows_s(768)),

@@ -38,7 +38,7 @@ def powers():
 
 
 def generate():
-    at, rule = "zem/zem_core/erfc/", "exp(x^2) erfc(x) from 0, 0.25, 0.3125, 0.375, 0.4375, 0.5, ...: coefficients of x less the\nleft end. Chebyshev series cut at degree {}."
+    at, rule = "zem/zem_core/error_functions/erfc/", "exp(x^2) erfc(x) from 0, 0.25, 0.3125, 0.375, 0.4375, 0.5, ...: coefficients of x less the\nleft end. Chebyshev series cut at degree {}."
     return {
         at + "rows_d_la.inc": table("erfc", rule.format(12), rows(28, 12, 16)),
         at + "rows_d_ha.inc": table("erfc", rule.format(13) + " c0, c1 (26 bits) to c13, low parts of c0 and c1.", rows(28, 13, 16, True)),

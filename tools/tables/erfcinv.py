@@ -37,7 +37,7 @@ def reciprocals():
 
 
 def generate():
-    at = "zem/zem_core/erfcinv/"
+    at = "zem/zem_core/error_functions/erfcinv/"
     return {
         at + "rows_d_ep.inc": text("erfcinv", 53, 16, 3, 9),
         at + "tail.inc": table("erfcinv", "Y(s)/s - 1, erfc(Y/sqrt(2)) = exp(-s^2/2), on [5, 6), [6, 7), [7, 8), [8, 10), ... [32, 40):\n"

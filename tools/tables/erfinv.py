@@ -26,9 +26,11 @@ def text(command, binades, parts, degree, terms, normalized=True, scale=1, split
                                       t="w scaled to [1, 2)" if normalized else "w unscaled"), found)
 
 
-def family(command, scale):
+AT = "zem/zem_core/error_functions/"
+
+
+def family(command, at, scale):
     """The tables that the inverses have in common, up to their scale."""
-    at = f"zem/zem_core/{command}/"
     return {
         at + "rows_d_ha.inc": text(command, 53, 4, 14, 30, scale=scale, split=True),
         at + "rows_d_la.inc": text(command, 53, 4, 11, 24, scale=scale),
@@ -39,9 +41,9 @@ def family(command, scale):
 
 
 def generate():
-    found = family("erfinv", mpf(1))
-    found["zem/zem_core/erfinv/rows_d_ep.inc"] = text("erfinv", 53, 16, 3, 9, normalized=False)
+    found = family("erfinv", AT + "erfinv_", mpf(1))
+    found[AT + "erfinv/rows_d_ep.inc"] = text("erfinv", 53, 16, 3, 9, normalized=False)
     for level, parts in ("la", 16), ("ep", 4):
-        found[f"zem/zem_core/erfinv/cubics_s_{level}.inc"] = text("erfinv", 24, parts, 3, 12,
-                                                                normalized=False, upward=True)
+        found[AT + f"erfinv/cubics_s_{level}.inc"] = text("erfinv", 24, parts, 3, 12,
+                                                          normalized=False, upward=True)
     return found

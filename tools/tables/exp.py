@@ -26,7 +26,7 @@ def split_s():
 
 
 def generate():
-    at = "zem/zem_core/exp/"
+    at = "zem/zem_core/common/exp_"
     powers = list(range(1, 7))
     tiny = fit(lambda f: mpf(2)**f, powers, -0.5, 0.5, "d", fixed={0: mpf(1)})
     return {
@@ -38,6 +38,6 @@ def generate():
         at + "mantissa128_s.inc": table(
             "exp", "The 23 mantissa bits of 2^(j/128), j = 0..127, exponent field zero.",
             [[mantissa(power(j, 128), "s"), "0"] for j in range(128)]),
-        at + "tiny_s.inc": coefficients(
+        "zem/zem_core/exponentials/exp/tiny_s.inc": coefficients(
             "exp", "c1 to c6 of 1 + c1 f + ... + c6 f^6 for 2^f on [-0.5, 0.5].", tiny, "d", powers),
     }

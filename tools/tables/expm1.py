@@ -15,5 +15,5 @@ def split(n, zeros, t):
 
 
 def generate():
-    at = "zem/zem_core/expm1/"
+    at = "zem/zem_core/exponentials/expm1/"
     return {at + "split128_d.inc": split(128, 27, "d"), at + "split64_s.inc": split(64, 12, "s")}

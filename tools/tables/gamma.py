@@ -164,19 +164,18 @@ def tgamma_rows(last, step, degree, literal):
 def generate():
     saved, mp.prec = mp.prec, 256
     out = {}
-    at = "zem/zem_core/lgamma/"
-    out[at + "binades_d.inc"], out[at + "low_d.inc"] = lgamma_rows(
+    at = "zem/zem_core/gamma/"
+    out[at + "lgamma/binades_d.inc"], out[at + "lgamma/low_d.inc"] = lgamma_rows(
         7, 24, [(mpf("0.875"), mpf("1.25"), 1), (mpf("1.25"), mpf("1.75"), 2), (mpf("1.75"), mpf("2.25"), 2),
                 (mpf("2.25"), 4, 2)], 22, extended)
-    out[at + "binades_s.inc"], out[at + "low_s.inc"] = lgamma_rows(
+    out[at + "lgamma/binades_s.inc"], out[at + "lgamma/low_s.inc"] = lgamma_rows(
         11, 12, [(1, mpf("1.25"), 1), (mpf("1.25"), mpf("1.5"), 1), (mpf("1.5"), mpf("1.75"), 2),
                  (mpf("1.75"), 2, 2), (2, 4, 2)], 10, double)
-    out[at + "roots.inc"] = roots()
+    out[at + "lgamma/roots.inc"] = roots()
     out[at + "ln.inc"] = ln_rows()
     out[at + "sine.inc"] = sine(10, extended)
     out[at + "sine_s.inc"] = sine(6, double)
-    at = "zem/zem_core/tgamma/"
-    out[at + "rows_d.inc"] = tgamma_rows(187, 4, 24, extended)
-    out[at + "rows_s.inc"] = tgamma_rows(47, 1, 12, double)
+    out[at + "tgamma/rows_d.inc"] = tgamma_rows(187, 4, 24, extended)
+    out[at + "tgamma/rows_s.inc"] = tgamma_rows(47, 1, 12, double)
     mp.prec = saved
     return out

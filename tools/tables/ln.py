@@ -41,6 +41,6 @@ m = 1 + i/64 up to i = 64, m = 1 + (i - 128)/64 from there; L_hi is a multiple o
 
 
 def generate():
-    at = "zem/zem_core/ln/"
-    return {at + "rows_d_ha.inc": rows_ha(), at + "rows_d_ep.inc": rows_ep(),
-            at + "rows_rare.inc": rows_rare()}
+    at = "zem/zem_core/logarithms/ln"
+    return {at + "_rows_d_ha.inc": rows_ha(), at + "/rows_d_ep.inc": rows_ep(),
+            at + "/rows_rare.inc": rows_rare()}

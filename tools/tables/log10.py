@@ -65,7 +65,7 @@ L1, L2, which k = -1 cancels.""", rows)
 
 
 def generate():
-    at = "zem/zem_core/log10/"
+    at = "zem/zem_core/logarithms/log10/"
     f = lambda u: log(1 + u) / log(mpf(10)) if u else mpf(0)
     la = fit(f, range(3, 9), mpf(-1) / 3, mpf(1) / 3, "s",
              {1: frozen("0.434294492", "s"), 2: frozen("-0.217146948", "s"), 9: frozen("0.0626901686", "s")},

@@ -25,7 +25,7 @@ L_lo + K L2 stays small. The first and the last row cancel K ln 2 just below and
 
 
 def generate():
-    at = "zem/zem_core/log1p/"
+    at = "zem/zem_core/logarithms/log1p/"
     third = mpf(1) / 3
     f = lambda u: log(1 + u) if u else mpf(0)
     la = fit(f, range(3, 9), -third, third, "s",
@@ -34,7 +34,7 @@ def generate():
     return {
         at + "rows_d_ha.inc": split("d", 10, 1023, frozen("0.69314718055829871", "d"),
                                     frozen("1.6465949582866463e-12", "d"), -36),
-        at + "rows_d_la.inc": table(
+        "zem/zem_core/common/log1p_rows_d_la.inc": table(
             "log1p", "-ln(c/1024), from c = 724 down -ln(c/512); c = 512..1024.",
             [[number(-log(mpf(c) / (1024 if c > 724 else 512)), "d")] for c in range(512, 1025)]),
         at + "rows_s_ha.inc": split("s", 8, 127, frozen("0.693145752", "s"), frozen("1.42859062e-06", "s"), -17),

@@ -44,7 +44,7 @@ def short_rows():
 
 
 def generate():
-    at = "zem/zem_core/pow/"
+    at = "zem/zem_core/powers/"
     c = reciprocals()
     reach = mpf("0.00392")  # |r| <= 2^-8 and the roundings of c
     log_powers, exp_powers = list(range(1, 6)), list(range(1, 5))

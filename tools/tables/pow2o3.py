@@ -13,7 +13,7 @@ def two_thirds(x):
 
 
 def generate():
-    at = "zem/zem_core/pow2o3/"
+    at = "zem/zem_core/roots/pow2o3/"
     values = [(two_thirds(mpf(2)**rem * centre(j)), 1 / centre(j)) for rem in range(3) for j in range(32)]
     split = [[number(v, "d"), number(v - rounded(v, 53), "d")] for v, _ in values]
     pairs = {t: [[number(v, t), number(c, t)] for v, c in values] for t in "ds"}

@@ -13,7 +13,7 @@ def three_halves(x):
 
 
 def generate():
-    at = "zem/zem_core/pow3o2/"
+    at = "zem/zem_core/roots/pow3o2/"
     values = [(three_halves(mpf(2)**odd * centre(j)), 1 / centre(j)) for odd in range(2) for j in range(32)]
     split = [[number(v, "d"), number(v - rounded(v, 53), "d")] for v, _ in values]
     pairs = {t: [[number(v, t), number(c, t)] for v, c in values] for t in "ds"}

@@ -12,7 +12,7 @@ def near_zero(limit, count, t):
 
 
 def generate():
-    at = "zem/zem_core/sinh/"
+    at = "zem/zem_core/exponentials/sinh/"
     return {
         at + "near_zero_d_ha.inc": near_zero(0.125, 4, "d"),
         at + "near_zero_d_la.inc": near_zero(0.5, 6, "d"),

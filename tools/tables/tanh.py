@@ -52,7 +52,7 @@ def split_slope(row):
 
 
 def generate():
-    at = "zem/zem_core/tanh/"
+    at = "zem/zem_core/exponentials/tanh/"
     given_d = {1: "-2.26e-14", 2: "-0.33333333332733495", 4: "0.13333336553530611",
                6: "-0.053950559160515929", 8: "0.023253339490596985"}
     d, worst_d = rows("d", 60, 10, given_d, lambda row: row + [mpf(0)] * 3)

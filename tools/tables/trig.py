@@ -206,5 +206,5 @@ def generate():
         "zem/zem_core/trig/sincos_quadrant.inc": quadrant_rows(),
         "zem/zem_core/trig/inverse_two_pi.inc": inverse_two_pi(),
         "zem/zem_core/trig/sine_fits.inc": sine_coefficients(),
-        "zem/zem_core/tan/tangent_fits.inc": tangent_coefficients(),
+        "zem/zem_core/trig/tan/tangent_fits.inc": tangent_coefficients(),
     }

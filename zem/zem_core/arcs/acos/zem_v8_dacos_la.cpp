@@ -1,0 +1,8 @@
+// Acos, double, LA: see asin.hpp. Bound: 2 ulp.
+#include "arcs/asin.hpp"
+#include "frame/chunk.hpp"
+#include "ork/zem_kernels.h"
+
+ORK_EXPORT void ork_zem_kernel_dAcos_V8LAynn(int n, const double* a, double* r) {
+  ork::chunk<ork::Acos<double, ork::AsinLa>>(n, {{a}, {r}});
+}

@@ -1,7 +1,0 @@
-#include "cadd/cadd.hpp"
-#include "ork/zem_kernels.h"
-
-ORK_EXPORT void ork_zem_kernel_zAdd_V8HAynn(int n, const double* a, const double* b, double* r) {
-  ork::interleaved<ork::ComplexSum<ork::Add, double>>(
-      n, {{ork::pairs(a), ork::pairs(b)}, {ork::pairs(r)}});
-}

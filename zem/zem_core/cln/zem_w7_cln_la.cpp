@@ -1,6 +1,0 @@
-#include "cln/cln.hpp"
-
-// Ln c, see cln.hpp. Bound: 0.51 ulp a part.
-ORK_EXPORT void ork_zem_kernel_cLn_W7LAynn(int n, const float* a, float* r) {
-  ork::block<ork::LnS>(n, {{ork::pairs(a)}, {ork::pairs(r)}});
-}

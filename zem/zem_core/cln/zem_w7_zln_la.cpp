@@ -1,6 +1,0 @@
-#include "cln/cln.hpp"
-
-// Ln z, LA: see cln.hpp. Bound: 2 ulp a part.
-ORK_EXPORT void ork_zem_kernel_zLn_W7LAynn(int n, const double* a, double* r) {
-  ork::block<ork::LnLaZ>(n, {{ork::pairs(a)}, {ork::pairs(r)}});
-}

@@ -1,5 +1,0 @@
-#include "cmul/cmul.hpp"
-
-ORK_EXPORT void ork_zem_kernel_zMul_V8HAynn(int n, const double* a, const double* b, double* r) {
-  ork::block<ork::ProductHaZ<false>>(n, {{ork::pairs(a), ork::pairs(b)}, {ork::pairs(r)}});
-}

@@ -1,0 +1,7 @@
+#include "complex/cadd.hpp"
+#include "ork/zem_kernels.h"
+
+ORK_EXPORT void ork_zem_kernel_cAdd_V8HAynn(int n, const float* a, const float* b, float* r) {
+  ork::interleaved<ork::ComplexSum<ork::Add, float>>(
+      n, {{ork::pairs(a), ork::pairs(b)}, {ork::pairs(r)}});
+}

@@ -1,0 +1,5 @@
+#include "complex/cdiv/cdiv.hpp"
+
+ORK_EXPORT void ork_zem_kernel_cDiv_V8EPnnn(int n, const float* a, const float* b, float* r) {
+  ork::block<ork::QuotientEp<float>>(n, {{ork::pairs(a), ork::pairs(b)}, {ork::pairs(r)}});
+}

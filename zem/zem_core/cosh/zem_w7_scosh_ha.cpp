@@ -1,6 +1,0 @@
-// Cosh, single, HA: table in two words. Bound: 0.55 ulp.
-#include "cosh/cosh.hpp"
-
-ORK_EXPORT void ork_zem_kernel_sCosh_W7HAynn(int n, const float* a, float* r) {
-  ork::block<ork::Cosh<ork::PairHaS>>(n, {{a}, {r}});
-}

@@ -1,0 +1,20 @@
+// CdfNorm, single, HA: P to 2^-31 of the result. Coefficients: of the series.
+#include "error_functions/cdfnorm/cdfnorm_s.hpp"
+
+namespace ork {
+namespace {
+
+struct Series {
+  static f64x2 p(const CdfNormReduced& r) {
+    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>,
+                        -ratio<1, 720>, ratio<1, 5040>) +
+           r.g * horner(r.e, -ratio<1, 6>, ratio<1, 8>, -ratio<1, 20>, ratio<1, 72>);
+  }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sCdfNorm_T7HAynn(int n, const float* a, float* r) {
+  ork::block<ork::CdfNormS<ork::Series>>(n, {{a}, {r}});
+}

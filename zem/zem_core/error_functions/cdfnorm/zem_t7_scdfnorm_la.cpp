@@ -1,0 +1,19 @@
+// CdfNorm, single, LA: P to 2^-27 of the result. Coefficients: of the series.
+#include "error_functions/cdfnorm/cdfnorm_s.hpp"
+
+namespace ork {
+namespace {
+
+struct Series {
+  static f64x2 p(const CdfNormReduced& r) {
+    return r.e * horner(r.e, -ratio<1, 2>, ratio<1, 6>, -ratio<1, 24>, ratio<1, 120>) +
+           r.g * horner(r.e, -ratio<1, 6>, ratio<1, 8>);
+  }
+};
+
+}  // namespace
+}  // namespace ork
+
+ORK_EXPORT void ork_zem_kernel_sCdfNorm_T7LAynn(int n, const float* a, float* r) {
+  ork::block<ork::CdfNormS<ork::Series>>(n, {{a}, {r}});
+}

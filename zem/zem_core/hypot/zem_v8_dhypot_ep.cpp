@@ -1,6 +1,0 @@
-#include "frame/chunk.hpp"
-#include "hypot/hypot_d_ep.hpp"
-
-ORK_EXPORT void ork_zem_kernel_dHypot_V8EPnnn(int n, const double* a, const double* b, double* r) {
-  ork::chunk<ork::HypotEpD>(n, {{a, b}, {r}});
-}

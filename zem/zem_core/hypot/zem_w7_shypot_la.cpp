@@ -1,5 +1,0 @@
-#include "hypot/hypot_s.hpp"
-
-ORK_EXPORT void ork_zem_kernel_sHypot_W7LAynn(int n, const float* a, const float* b, float* r) {
-  ork::block<ork::HypotS<ork::Level::la>>(n, {{a, b}, {r}});
-}

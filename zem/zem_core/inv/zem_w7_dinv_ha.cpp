@@ -1,5 +1,0 @@
-#include "inv/inv.hpp"
-
-ORK_EXPORT void ork_zem_kernel_dInv_W7HAynn(int n, const double* a, double* r) {
-  ork::block<ork::InvHa<double>>(n, {{a}, {r}});
-}

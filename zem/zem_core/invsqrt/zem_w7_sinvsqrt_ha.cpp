@@ -1,5 +1,0 @@
-#include "invsqrt/invsqrt_single.hpp"
-
-ORK_EXPORT void ork_zem_kernel_sInvSqrt_W7HAynn(int n, const float* a, float* r) {
-  ork::block<ork::InvSqrtHaS>(n, {{a}, {r}});
-}

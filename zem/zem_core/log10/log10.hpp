@@ -1,9 +1,0 @@
-#pragma once
-#include "ln/log_rare.hpp"
-
-namespace ork {
-
-int vdlog10_cout_rare(const double* a, double* out);
-int vslog10_cout_rare(const float* a, float* out);
-
-}  // namespace ork

@@ -1,0 +1,6 @@
+#include "packing/unpack/unpack.hpp"
+
+ORK_EXPORT void ork_zem_kernel_cUnpackM_PXHAynn(int32_t n_low, int32_t n_high, const float* a,
+                                                float* y, const void* mask, int width) {
+  ork::unpack_m<float, 2>(n_low, n_high, a, y, mask, width);
+}

@@ -1,6 +1,0 @@
-#include "frame/chunk.hpp"
-#include "pow/pow_s.hpp"
-
-ORK_EXPORT void ork_zem_kernel_sPow_V8EPnnn(int n, const float* a, const float* b, float* r) {
-  ork::chunk<ork::PowS<ork::Level::ep>>(n, {{a, b}, {r}});
-}

@@ -1,0 +1,5 @@
+#include "roots/cbrt_single.hpp"
+
+ORK_EXPORT void ork_zem_kernel_sCbrt_W7HAynn(int n, const float* a, float* r) {
+  ork::block<ork::CbrtS<ork::Level::ha>>(n, {{a}, {r}});
+}

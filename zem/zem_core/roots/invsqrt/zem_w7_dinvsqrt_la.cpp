@@ -1,0 +1,5 @@
+#include "roots/invsqrt/invsqrt.hpp"
+
+ORK_EXPORT void ork_zem_kernel_dInvSqrt_W7LAynn(int n, const double* a, double* r) {
+  ork::block<ork::InvSqrtD<ork::Level::la>>(n, {{a}, {r}});
+}

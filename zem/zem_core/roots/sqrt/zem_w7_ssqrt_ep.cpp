@@ -1,0 +1,5 @@
+#include "roots/sqrt/sqrt_single.hpp"
+
+ORK_EXPORT void ork_zem_kernel_sSqrt_W7EPnnn(int n, const float* a, float* r) {
+  ork::block<ork::SqrtS<ork::Level::ep>>(n, {{a}, {r}});
+}

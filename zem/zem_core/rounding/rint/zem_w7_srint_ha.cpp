@@ -1,0 +1,5 @@
+#include "rounding/rint.hpp"
+
+ORK_EXPORT void ork_zem_kernel_sRint_W7HAynn(int n, const float* a, float* r) {
+  ork::block<ork::Rint<float>>(n, {{a}, {r}});
+}

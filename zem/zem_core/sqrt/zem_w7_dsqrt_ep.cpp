@@ -1,5 +1,0 @@
-#include "sqrt/sqrt.hpp"
-
-ORK_EXPORT void ork_zem_kernel_dSqrt_W7EPnnn(int n, const double* a, double* r) {
-  ork::block<ork::SqrtD<ork::Level::ep>>(n, {{a}, {r}});
-}
