@@ -9,7 +9,7 @@
 
 namespace ork {
 
-inline int vdatan2_cout_rare(const double* y, const double* x, double* r) {
+inline int atan2_rare(const double* y, const double* x, double* r) {
   const double ay = __builtin_fabs(*y), ax = __builtin_fabs(*x), infinity = __builtin_inf();
   if (ay > 0 && ay < infinity && ax > 0 && ax < infinity)
     fpatan(y, x, r);
@@ -61,9 +61,7 @@ struct Atan2Ha : Core<double, 2> {
     rare |= as<u32x4>((f64x2)_mm_cmpneq_pd(r, high + (low - doubt)));
     return or_bits(r, as<u64x2>(y) & sign_f64x2);
   }
-  static int special(const double* y, const double* x, double* r) {
-    return vdatan2_cout_rare(y, x, r);
-  }
+  static int special(const double* y, const double* x, double* r) { return atan2_rare(y, x, r); }
 };
 
 }  // namespace ork

@@ -4,10 +4,6 @@
 
 namespace ork {
 
-inline int vsatan2_cout_rare(const float* y, const float* x, float* r) {
-  return atan2_special(y, x, r);
-}
-
 struct Atan2HaS : Core<float, 2> {
   static constexpr char name[] = "vsAtan2";
   ORK_INLINE f32x4 eval(f32x4 y, f32x4 x, u32x4& rare) {
@@ -19,9 +15,7 @@ struct Atan2HaS : Core<float, 2> {
     const f64x2 low = atan2_la(y_low, o_low), high = atan2_la(y_high, o_high);
     return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high));
   }
-  static int special(const float* y, const float* x, float* r) {
-    return vsatan2_cout_rare(y, x, r);
-  }
+  static int special(const float* y, const float* x, float* r) { return atan2_special(y, x, r); }
 };
 
 }  // namespace ork

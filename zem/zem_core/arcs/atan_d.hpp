@@ -7,7 +7,7 @@
 
 namespace ork {
 
-alignas(16) inline constexpr double _zemdAtanHATab[126][2] = {
+alignas(16) inline constexpr double atan_rows[126][2] = {
 #include "arcs/atan_rows_d.inc"
 };
 
@@ -22,7 +22,7 @@ ORK_INLINE f64x2 atan_break(f64x2 a, f64x2& high, f64x2& low) {
   const __m128i middle = _mm_set_epi16(0x3FBF, -0x8000, 0, 0, 0x3FBF, -0x8000, 0, 0);
   const f64x2 b = as<f64x2>(_mm_add_epi16(j, middle));
   const __m128i offset = _mm_slli_epi16(j, 4);
-  const char* const rows = (const char*)_zemdAtanHATab;
+  const char* const rows = (const char*)atan_rows;
   const f64x2 row0 = *(const f64x2*)(rows + _mm_extract_epi16(offset, 3));
   const f64x2 row1 = *(const f64x2*)(rows + _mm_extract_epi16(offset, 7));
   high = _mm_unpacklo_pd(row0, row1);

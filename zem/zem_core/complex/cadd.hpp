@@ -1,8 +1,8 @@
 #pragma once
 #include "arithmetic/add.hpp"
+#include "arithmetic/sub.hpp"
 #include "base/image.hpp"
 #include "frame/interleaved.hpp"
-#include "arithmetic/sub.hpp"
 
 namespace ork {
 

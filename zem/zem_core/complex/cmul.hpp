@@ -24,7 +24,7 @@ struct ProductHaC : Core<Complex<float>, 2>, ProductName<float, conj> {
     return _mm_unpacklo_ps(_mm_cvtpd_ps(p.re), _mm_cvtpd_ps(p.im));
   }
   static int special(const Complex<float>* a, const Complex<float>* b, Complex<float>* r) {
-    return vcmul_cout_rare<conj>(a, b, r);
+    return mul_rare<conj>(a, b, r);
   }
 };
 
@@ -46,7 +46,7 @@ struct ProductHaZ : Core<Complex<double>, 2>, ProductName<double, conj> {
     return {re.high + re.low, im.high + im.low};
   }
   static int special(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {
-    return vzmul_cout_rare<conj>(a, b, r);
+    return mul_rare<conj>(a, b, r);
   }
 };
 

@@ -76,7 +76,7 @@ ORK_INLINE int overflow_of(const Complex<R>& r) {
 }
 
 template <bool conj>
-inline int vcmul_cout_rare(const Complex<float>* a, const Complex<float>* b, Complex<float>* r) {
+inline int mul_rare(const Complex<float>* a, const Complex<float>* b, Complex<float>* r) {
   const Operand x(a->re, a->im), y(b->re, b->im);
   const bool finite = x.finite() && y.finite();
   const Complex<double> p =
@@ -88,7 +88,7 @@ inline int vcmul_cout_rare(const Complex<float>* a, const Complex<float>* b, Com
 // Finite operands of any exponents: exact products with exponents of their own, one rounding, also
 // into denormals.
 template <bool conj>
-inline int vzmul_cout_rare(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {
+inline int mul_rare(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {
   const Operand x(a->re, a->im), y(b->re, b->im);
   if (!x.finite() || !y.finite()) {
     *r = not_finite_product<conj>(x, y);

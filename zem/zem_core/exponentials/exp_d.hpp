@@ -3,7 +3,7 @@
 // k = n div N, and p = e^r - 1 a polynomial.
 // A level gives N, t and p by reduce(), 2^(j/N) (1 + p) as a sum by parts(), and combines it
 // with the scale 2^k. Fast range: |x| below 708.396 by its high word, at LA and EP x above -670.1,
-// so that no term of the scaled sum is denormal; beyond it _zemdSpecSc.
+// so that no term of the scaled sum is denormal; beyond it exp_rare.
 #include "base/image.hpp"
 #include "base/round.hpp"
 #include "common/exp_tables.hpp"
@@ -94,7 +94,7 @@ struct ExpEp : ExpOneWord {
 
 // One element beyond the fast range. x rises through the rows.
 template <class Level>
-int _zemdSpecSc(const double* a, double* out) {
+int exp_rare(const double* a, double* out) {
   const uint64_t magnitude = ork::magnitude(a);
   if (magnitude > infinity_bits<double>) {
     const uint64_t quiet = Level::nan_is_all_ones ? ~0ull : image(a) | 0x0008000000000000;
@@ -151,7 +151,7 @@ struct ExpD : Core<double> {
     const u64x2 k = as<u64x2>(as<u32x4>(t) + bias) << (52 - Level::log2_n);
     return Level::combine(t, p, as<f64x2>(k & field));
   }
-  static int special(const double* x, double* r) { return _zemdSpecSc<Level>(x, r); }
+  static int special(const double* x, double* r) { return exp_rare<Level>(x, r); }
 };
 
 }  // namespace ork

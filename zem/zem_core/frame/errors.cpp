@@ -20,7 +20,7 @@ static_assert(sizeof(ork_error_record) == 140);
 
 constexpr int name_limit = sizeof ork_error_record{}.name;
 
-int _zemCreateFuncNameStr(char* to, const char* from) {
+int copy_name(char* to, const char* from) {
   const int length = (int)strnlen(from, name_limit);
   memcpy(to, from, (size_t)length);
   if (length < name_limit) to[length] = '\0';
@@ -79,8 +79,8 @@ void print_report(const ork_error_record& e) {
 }
 
 // Smallest normal plus an ulp, largest finite, zero, one.
-alignas(16) constexpr uint64_t _zemdSpecialTab[4] = {0x0010000000000001, 0x7FEFFFFFFFFFFFFF, 0,
-                                                     0x3FF0000000000000};
+alignas(16) constexpr uint64_t flag_operands[4] = {0x0010000000000001, 0x7FEFFFFFFFFFFFFF, 0,
+                                                   0x3FF0000000000000};
 
 // One x87 operation, stored as a double: the flag is raised, or the trap taken, here.
 void raise_exception(int status) {
@@ -89,30 +89,30 @@ void raise_exception(int status) {
     case ZEM_STATUS_DOMAIN:
       asm volatile("fldl %1\n\tfdivl %1\n\tfstpl %0\n\tfwait"
                    : "=m"(result)
-                   : "m"(_zemdSpecialTab[2]));
+                   : "m"(flag_operands[2]));
       break;
     case ZEM_STATUS_SINGULARITY:
       asm volatile("fldl %1\n\tfdivl %2\n\tfstpl %0\n\tfwait"
                    : "=m"(result)
-                   : "m"(_zemdSpecialTab[3]), "m"(_zemdSpecialTab[2]));
+                   : "m"(flag_operands[3]), "m"(flag_operands[2]));
       break;
     case ZEM_STATUS_OVERFLOW:
       asm volatile("fldl %1\n\tfmull %1\n\tfstpl %0\n\tfwait"
                    : "=m"(result)
-                   : "m"(_zemdSpecialTab[1]));
+                   : "m"(flag_operands[1]));
       break;
     case ZEM_STATUS_UNDERFLOW:
       asm volatile("fldl %1\n\tfmull %1\n\tfstpl %0\n\tfwait"
                    : "=m"(result)
-                   : "m"(_zemdSpecialTab[0]));
+                   : "m"(flag_operands[0]));
       break;
     default:
       break;
   }
 }
 
-void _zemStdErrorHandler(const ork_error_record& e) {
-  const uint32_t mode = ork::_zem_static_wrapper32_GetMode();
+void report_as_mode_says(const ork_error_record& e) {
+  const uint32_t mode = ork::current_mode();
   if (mode & ORK_ZEM_ERRMODE_ERRNO) errno = errno_of(e.status);
   if (mode & ORK_ZEM_ERRMODE_STDERR) print_report(e);
   if (mode & ORK_ZEM_ERRMODE_EXCEPT) raise_exception(e.status);
@@ -125,16 +125,15 @@ void dispatch(int status, int index, const T* a, const T* b, T* r, T* r2, const 
   constexpr int element_shift = __builtin_ctz(parts * sizeof(T));
   constexpr uint32_t callback_bits = 0xF000, action_bits = 0x0F00;
 
-  thread_state.zemErrStatus = status;
-  if ((ork::_zem_static_wrapper32_GetMode() & ORK_ZEM_ERRMODE_MASK) == ORK_ZEM_ERRMODE_IGNORE)
-    return;
+  thread_state.status = status;
+  if ((ork::current_mode() & ORK_ZEM_ERRMODE_MASK) == ORK_ZEM_ERRMODE_IGNORE) return;
 
   ork_error_record e;
   e.status = status;
   e.index = index;
-  if (const void* start = thread_state.zemInterfInputVecorPointer)
+  if (const void* start = thread_state.input)
     e.index += (int)((intptr_t)a - (intptr_t)start) >> element_shift;
-  e.name_length = _zemCreateFuncNameStr(e.name, name);
+  e.name_length = copy_name(e.name, name);
 
   const bool has_element = status != ZEM_STATUS_BAD_ARGUMENT && status != ZEM_STATUS_BAD_ACCESS;
   const int i = index * parts;
@@ -152,10 +151,10 @@ void dispatch(int status, int index, const T* a, const T* b, T* r, T* r2, const 
   }
 
   // The mode is read afresh: a callback that changes it affects its own event.
-  const ork_error_callback callback = thread_state.zemErrorCallBack;
-  if ((ork::_zem_static_wrapper32_GetMode() & callback_bits) && callback != nullptr)
+  const ork_error_callback callback = thread_state.callback;
+  if ((ork::current_mode() & callback_bits) && callback != nullptr)
     if (callback(&e) != 0) return;
-  if (ork::_zem_static_wrapper32_GetMode() & action_bits) _zemStdErrorHandler(e);
+  if (ork::current_mode() & action_bits) report_as_mode_says(e);
 
   if (has_element) {
     // The first result last: it stands where both are one array.

@@ -90,7 +90,7 @@ template <class C>
 struct Control {
   __attribute__((always_inline)) static unsigned wanted() {
     if constexpr (C::csr == Csr::cleared) return 0;
-    return mxcsr_of_mode(_zem_static_wrapper32_GetMode()) | C::rounding;
+    return mxcsr_of_mode(current_mode()) | C::rounding;
   }
   MxcsrGuard mxcsr{wanted()};
   X87Guard<C::x87> x87;

@@ -71,52 +71,52 @@ ORK_EXPORT int64_t ork_zem_kernel_ReadEnvVarMode(void) {
 // A variable that gives 0 leaves the word uninitialised, to be read again at the next use.
 uint32_t ork::init_mode() {
   const int64_t from_environment = ork_zem_kernel_ReadEnvVarMode();
-  thread_state.zemMode =
+  thread_state.mode =
       from_environment == -1 ? (uint32_t)ORK_ZEM_DEFAULT_MODE : (uint32_t)from_environment;
-  return (uint32_t)thread_state.zemMode;
+  return (uint32_t)thread_state.mode;
 }
 
-ORK_EXPORT uint32_t ork_zem_kernel_GetMode(void) { return ork::_zem_static_wrapper32_GetMode(); }
+ORK_EXPORT uint32_t ork_zem_kernel_GetMode(void) { return ork::current_mode(); }
 
 ORK_EXPORT uint32_t ork_zem_kernel_SetMode(uint32_t wanted) {
-  const uint32_t previous = ork::_zem_static_wrapper32_GetMode();
+  const uint32_t previous = ork::current_mode();
   uint32_t mode = previous;
   constexpr uint32_t fields[] = {ORK_ZEM_ACCURACY_MASK, ORK_ZEM_ERRMODE_MASK,
                                  ORK_ZEM_DENORMAL_MASK};
   for (const uint32_t field : fields)
     if (wanted & field) mode = (mode & ~field) | (wanted & field);
-  thread_state.zemMode = mode;
+  thread_state.mode = mode;
   return previous;
 }
 
 ORK_EXPORT int ork_zem_kernel_GetTTableIndex(void) {
-  return (int)(ork::_zem_static_wrapper32_GetMode() & ORK_ZEM_ACCURACY_MASK) - 1;
+  return (int)(ork::current_mode() & ORK_ZEM_ACCURACY_MASK) - 1;
 }
 
 ORK_EXPORT int ork_zem_kernel_GetTTableIndexM(uint32_t, uint32_t mode) {
   return (int)(mode & ORK_ZEM_ACCURACY_MASK) - 1;
 }
 
-ORK_EXPORT int ork_zem_kernel_GetErrStatus(void) { return thread_state.zemErrStatus; }
+ORK_EXPORT int ork_zem_kernel_GetErrStatus(void) { return thread_state.status; }
 
 ORK_EXPORT int ork_zem_kernel_SetErrStatus(int status) {
-  const int previous = thread_state.zemErrStatus;
-  thread_state.zemErrStatus = status;
+  const int previous = thread_state.status;
+  thread_state.status = status;
   return previous;
 }
 
 ORK_EXPORT int ork_zem_kernel_ClearErrStatus(void) { return ork_zem_kernel_SetErrStatus(0); }
 
 ORK_EXPORT ork_error_callback ork_zem_kernel_GetErrorCallBack(void) {
-  return thread_state.zemErrorCallBack;
+  return thread_state.callback;
 }
 
 // The mode's callback bit follows the pointer; where it is the field's only bit, clearing
 // leaves it set, as a field cannot become 0. The dispatch tests the pointer as well.
 ORK_EXPORT ork_error_callback ork_zem_kernel_SetErrorCallBack(ork_error_callback callback) {
-  const ork_error_callback previous = thread_state.zemErrorCallBack;
-  const uint32_t mode = ork::_zem_static_wrapper32_GetMode();
-  thread_state.zemErrorCallBack = callback;
+  const ork_error_callback previous = thread_state.callback;
+  const uint32_t mode = ork::current_mode();
+  thread_state.callback = callback;
   const uint32_t bit = ORK_ZEM_ERRMODE_CALLBACK;
   ork_zem_kernel_SetMode(callback != nullptr ? mode | bit : mode & ~bit);
   return previous;
@@ -127,7 +127,7 @@ ORK_EXPORT ork_error_callback ork_zem_kernel_ClearErrorCallBack(void) {
 }
 
 ORK_EXPORT const void* ork_zem_kernel_SetInterfInputVectorPointer(const void* start) {
-  thread_state.zemInterfInputVecorPointer = start;
+  thread_state.input = start;
   return start;
 }
 

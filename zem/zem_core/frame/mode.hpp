@@ -8,10 +8,10 @@ namespace ork {
 
 // All zero when a thread starts. A zero mode word is one that is not initialised yet.
 struct ThreadState {
-  const void* zemInterfInputVecorPointer;
-  int32_t zemErrStatus;
-  ork_error_callback zemErrorCallBack;
-  uint64_t zemMode;
+  const void* input;
+  int32_t status;
+  ork_error_callback callback;
+  uint64_t mode;
 };
 extern __thread __attribute__((tls_model("initial-exec"), visibility("hidden")))
 ThreadState thread_state;
@@ -20,8 +20,8 @@ ThreadState thread_state;
 uint32_t init_mode();
 
 // How a kernel reads the mode: a thread-local load and a test.
-static inline uint32_t _zem_static_wrapper32_GetMode() {
-  const uint64_t mode = thread_state.zemMode;
+static inline uint32_t current_mode() {
+  const uint64_t mode = thread_state.mode;
   return __builtin_expect(mode != 0, 1) ? (uint32_t)mode : init_mode();
 }
 

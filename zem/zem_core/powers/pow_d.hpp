@@ -2,7 +2,7 @@
 // Pow, double: a^b = 2^(b log2 a). With a = 2^k m, c near L/m, L = 1.44... the high part of log2 e,
 // log2 a = k + log2(L/c) + log2(1 + w/L), w = m c - L, in two doubles, off by 2^-64 of itself.
 // 2^q = 2^n 2^(j/128) 2^f, |f| <= 1/256. The polynomials are frozen.
-// Fast: normal a > 0, finite b, |q| < 1000. vdpow_cout_rare: the others. Within 0.6 ulp.
+// Fast: normal a > 0, finite b, |q| < 1000. pow_rare: the others. Within 0.6 ulp.
 #include "base/image.hpp"
 #include "base/pair.hpp"
 #include "frame/chunk.hpp"
@@ -92,7 +92,7 @@ ORK_INLINE f64x2 pow_main(f64x2 a, f64x2 b, f64x2 b_high, f64x2 b_low, u32x4& ra
   return (r.high + r.low) * as<f64x2>(scale & field);
 }
 
-int vdpow_cout_rare(const double* a, const double* b, double* r);
+int pow_rare(const double* a, const double* b, double* r);
 
 struct PowD : Core<double, 2> {
   static constexpr char name[] = "vdPow";
@@ -103,9 +103,7 @@ struct PowD : Core<double, 2> {
     const f64x2 b_high = upper_half(b);
     return pow_main(a, b, b_high, b - b_high, rare);
   }
-  static int special(const double* a, const double* b, double* r) {
-    return vdpow_cout_rare(a, b, r);
-  }
+  static int special(const double* a, const double* b, double* r) { return pow_rare(a, b, r); }
 };
 
 }  // namespace ork

@@ -3,7 +3,7 @@
 // Log1p, degree 3; e^q = 2^n 2^(j/2048) e^f, |f| <= ln 2/4096. The absolute error of ln a,
 // 2^-41, counts b times.
 // Fast: normal a > 0, -674.8 < q < 708.4, so that no term of the scaled sum is denormal.
-// vdpow_cout_rare: the others. ln 2/2048 is rounded to double; the other constants are fits.
+// pow_rare: the others. ln 2/2048 is rounded to double; the other constants are fits.
 #include "base/round.hpp"
 #include "common/log_short_d.hpp"
 #include "powers/pow_d.hpp"
@@ -42,9 +42,7 @@ struct PowEpD : Core<double, 2> {
   static constexpr int vectors = 1;
 
   ORK_INLINE f64x2 eval(f64x2 a, f64x2 b, u32x4& rare) { return pow_main_ep(a, b, rare); }
-  static int special(const double* a, const double* b, double* r) {
-    return vdpow_cout_rare(a, b, r);
-  }
+  static int special(const double* a, const double* b, double* r) { return pow_rare(a, b, r); }
 };
 
 }  // namespace ork

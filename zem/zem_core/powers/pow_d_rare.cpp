@@ -7,7 +7,7 @@ double power_of_two(int n) { return as<double>((uint64_t)(n + 1023) << 52); }
 
 // a^b for finite a > 0, b != 0 with any exponents: the main path's logarithm and power, results
 // outside the normal range rounded once. The flags are those of the last operation.
-double pow_rare(double a, double b, bool negative) {
+double pow_general(double a, double b, bool negative) {
   volatile double tiny = 0x1p-1022, huge = 0x1p1023;
   const double one = negative ? -1.0 : 1.0;
   const bool denormal = as<uint64_t>(a) < 0x0010000000000000;
@@ -35,8 +35,8 @@ double pow_rare(double a, double b, bool negative) {
 
 }  // namespace
 
-int vdpow_cout_rare(const double* a, const double* b, double* r) {
-  return pow_special(a, b, r, pow_rare);
+int pow_rare(const double* a, const double* b, double* r) {
+  return pow_special(a, b, r, pow_general);
 }
 
 }  // namespace ork

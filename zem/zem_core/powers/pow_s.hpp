@@ -3,7 +3,7 @@
 // log2 a = k + log2(1/c) + log2(1 + r), r = m c - 1 exact, |r| <= 2^-8. 2^q = 2^n 2^(j/128) 2^f,
 // |f| <= 1/256. The result is rounded to single once, overflow and denormals included.
 // HA: polynomials of degree 5 and 4, within 0.501 ulp. EP: degree 3 and 1, relative error 2^-17.
-// Fast: normal a > 0, finite b, |b log2 a| < 1000. vspow_cout_rare: the others.
+// Fast: normal a > 0, finite b, |b log2 a| < 1000. pow_rare: the others.
 #include "common/exp_tables.hpp"
 #include "frame/block.hpp"
 #include "frame/level.hpp"
@@ -73,7 +73,7 @@ ORK_INLINE f32x4 pow_main(f32x4 a, f32x4 b, u32x4& rare) {
   return _mm_movelh_ps(low, high);
 }
 
-int vspow_cout_rare(const float* a, const float* b, float* r);
+int pow_rare(const float* a, const float* b, float* r);
 
 template <Level level>
 struct PowS : Core<float, 2> {
@@ -82,7 +82,7 @@ struct PowS : Core<float, 2> {
   static constexpr unsigned x87 = level == Level::ha ? x87_double : 0;
 
   ORK_INLINE f32x4 eval(f32x4 a, f32x4 b, u32x4& rare) { return pow_main<level>(a, b, rare); }
-  static int special(const float* a, const float* b, float* r) { return vspow_cout_rare(a, b, r); }
+  static int special(const float* a, const float* b, float* r) { return pow_rare(a, b, r); }
 };
 
 }  // namespace ork

@@ -1,7 +1,7 @@
 #pragma once
-#include "roots/reduce.hpp"
 #include "frame/level.hpp"
 #include "ork/zem_kernels.h"
+#include "roots/reduce.hpp"
 
 namespace ork {
 

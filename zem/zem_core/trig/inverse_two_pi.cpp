@@ -2,7 +2,7 @@
 
 namespace ork::trig {
 
-const Digits _VAPI_COMMON_DATA_NAME[128] = {
+const Digits inverse_two_pi[128] = {
 #include "trig/inverse_two_pi.inc"
 };
 

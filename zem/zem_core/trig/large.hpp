@@ -15,7 +15,7 @@ namespace ork::trig {
 struct alignas(32) Digits {
   uint32_t d[8];
 };
-extern const Digits _VAPI_COMMON_DATA_NAME[128];
+extern const Digits inverse_two_pi[128];
 struct alignas(16) SineCosine {
   double sine, cosine;
 };
@@ -47,7 +47,7 @@ ORK_INLINE f64x2 large_sine(f64x2 ax, int quarters) {
 
   // Digits of both lanes' rows, in the even words.
   const u64x2 g = (e << 2) & splat_u64(127 << 5);
-  const auto* base = reinterpret_cast<const char*>(_VAPI_COMMON_DATA_NAME);
+  const auto* base = reinterpret_cast<const char*>(inverse_two_pi);
   const auto* row0 = reinterpret_cast<const __m128i*>(base + _mm_cvtsi128_si32((__m128i)g));
   const auto* row1 = reinterpret_cast<const __m128i*>(base + _mm_extract_epi16((__m128i)g, 4));
   const __m128i a0 = _mm_load_si128(row0), a1 = _mm_load_si128(row1);

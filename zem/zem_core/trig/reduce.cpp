@@ -8,14 +8,14 @@
 namespace ork {
 namespace {
 
-alignas(16) const double _zemReductionTab[70] = {
+alignas(16) const double reduction_table[70] = {
 #include "trig/reduction_table.inc"
 };
-const double* const sign_row = _zemReductionTab + 2;
-const double* const quarter_pi_two = _zemReductionTab + 6;
-const double* const quarter_pi_four = _zemReductionTab + 10;
-const double* const quarter_pi_five = _zemReductionTab + 14;
-const double* const four_over_pi = _zemReductionTab + 20;
+const double* const sign_row = reduction_table + 2;
+const double* const quarter_pi_two = reduction_table + 6;
+const double* const quarter_pi_four = reduction_table + 10;
+const double* const quarter_pi_five = reduction_table + 14;
+const double* const four_over_pi = reduction_table + 20;
 
 constexpr int part_limit = 1052;  // biased exponent: 2^29 <= |x| < 2^30
 constexpr int four_limit = 1045;  // 2^22 <= |x| < 2^23
@@ -40,7 +40,7 @@ void store(double* reduced, long double high, long double low, int sign) {
 
 // |x| < 2^30: n = the even integer next to |x| * 4/pi; |x| - n * pi/4 part by part.
 int subtract_parts(double ax, int exponent, int sign, double* reduced) {
-  const double y = ax * _zemReductionTab[8];
+  const double y = ax * reduction_table[8];
   const uint64_t image = as<uint64_t>(y);
   const int y_exponent = (int)(image >> 52) - 1023;
   const uint32_t top = (uint32_t)(image >> 21) | 0x80000000u;
@@ -78,11 +78,11 @@ int multiply(double ax, int exponent, int sign, double* reduced) {
   turn.sum = modulo_8(turn.sum);
   int m = (int)turn.sum;
   if (m > turn.sum) --m;  // floor
-  const double even = m - _zemReductionTab[m & 1];
+  const double even = m - reduction_table[m & 1];
   const long double top = turn.sum - even;  // exact
   const long double fraction = top + turn.error, rest = (top - fraction) + turn.error;
 
-  const long double split = fraction * _zemReductionTab[4];
+  const long double split = fraction * reduction_table[4];
   const long double head =
       split - (split - fraction);  // 38 bits: head * pi/4's first part is exact
   const long double tail = (fraction - head) + rest;

@@ -1,6 +1,6 @@
 // Atan, double, HA: atan b + (t + (low + t z Q)), with the sign of x; see atan_d.hpp. t is at
 // most 1/32 of the result or exact, so its rounding errors count for little.
-// Fast range: |x| < 2^54; beyond it vdatan_cout_rare. Bound: 0.60 ulp.
+// Fast range: |x| < 2^54; beyond it atan_rare. Bound: 0.60 ulp.
 #include "arcs/atan_d.hpp"
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
@@ -8,7 +8,7 @@
 namespace ork {
 namespace {
 
-int vdatan_cout_rare(const double* x, double* r) {
+int atan_rare(const double* x, double* r) {
   const uint64_t magnitude = as<uint64_t>(*x) & ~0ull >> 1;
   if (magnitude > 0x7FF0000000000000)
     *r = *x + *x;
@@ -29,7 +29,7 @@ struct AtanHa : Core<double> {
     const f64x2 t = (a - b) / (1.0 + a * b);
     return or_bits(high + (t + (low + atan_tail(t))), as<u64x2>(x) & sign_f64x2);
   }
-  static int special(const double* x, double* r) { return vdatan_cout_rare(x, r); }
+  static int special(const double* x, double* r) { return atan_rare(x, r); }
 };
 
 }  // namespace

@@ -20,7 +20,7 @@ struct AcoshS : Core<float> {
           [](f64x2 w) __attribute__((always_inline)) { return ln_short(w + sqrt(w * w - 1.0)); });
     }
   }
-  static int _zemsAcosh_HA_scalar(const float* x, float* r) {
+  static int special(const float* x, float* r) {
     if (*x < 1.0f) {
       *r = -__builtin_nanf("");
       return ZEM_STATUS_DOMAIN;
@@ -28,7 +28,6 @@ struct AcoshS : Core<float> {
     *r = *x <= __FLT_MAX__ ? (float)ln_short(splat((double)*x + (double)*x))[0] : *x + *x;
     return 0;
   }
-  static int special(const float* x, float* r) { return _zemsAcosh_HA_scalar(x, r); }
 };
 
 }  // namespace ork

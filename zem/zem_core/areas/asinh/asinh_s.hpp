@@ -19,11 +19,10 @@ struct AsinhHaS : Core<float> {
         });
     return or_bits(y, as<u32x4>(x) & sign_f32x4);
   }
-  static int _zemsAsinh_HA_scalar(const float* x, float* r) {
+  static int special(const float* x, float* r) {
     *r = *x + *x;
     return 0;
   }
-  static int special(const float* x, float* r) { return _zemsAsinh_HA_scalar(x, r); }
 };
 
 // Rare: |x| >= 2^62, whose square would overflow; infinities and NaNs.

@@ -1,8 +1,8 @@
 #pragma once
 // Atanh, single. HA: ln((1 + a)/(1 - a))/2 in double, a = |x|; below 2^-12 a + a^3/3.
 // LA, EP: ln(1 + 2 a/(1 - a))/2. The sign of x. Rare: |x| >= 1, NaN.
-#include "areas/ln_s.hpp"
 #include "areas/atanh/atanh_rare.hpp"
+#include "areas/ln_s.hpp"
 
 namespace ork {
 

@@ -1,8 +1,8 @@
 // Atanh, double, HA: ln((1 + |x|)/(1 - |x|))/2 on the x87 unit in two passes, the sign of x.
 // Fast range: 2^-8 <= |x| < 1; below it the odd series in extended precision.
 // Bound: 0.60 ulp.
-#include "areas/two_pass.hpp"
 #include "areas/atanh/atanh_rare.hpp"
+#include "areas/two_pass.hpp"
 
 namespace ork {
 namespace {

@@ -1,7 +1,7 @@
 // Atanh, double, LA: ln(1 + 2 a/(1 - a))/2, a = |x|; the sign of x.
 // Rare: |x| >= 1, NaN. Bound: 2.5 ulp.
-#include "areas/log1p_la.hpp"
 #include "areas/atanh/atanh_rare.hpp"
+#include "areas/log1p_la.hpp"
 
 namespace ork {
 namespace {

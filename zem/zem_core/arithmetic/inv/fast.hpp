@@ -1,6 +1,6 @@
 #pragma once
-#include "arithmetic/reciprocal.hpp"
 #include "arithmetic/inv/inv.hpp"
+#include "arithmetic/reciprocal.hpp"
 
 namespace ork {
 

@@ -16,7 +16,7 @@ struct QuotientHaC : Core<Complex<float>, 2> {
     return _mm_unpacklo_ps(_mm_cvtpd_ps(p.re * inverse), _mm_cvtpd_ps(p.im * inverse));
   }
   static int special(const Complex<float>* a, const Complex<float>* b, Complex<float>* r) {
-    return vcdiv_cout_rare(a, b, r);
+    return div_rare(a, b, r);
   }
 };
 
@@ -40,7 +40,7 @@ struct QuotientHaZ : Core<Complex<double>, 2> {
     return {p.high + p.low, q.high + q.low};
   }
   static int special(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {
-    return vzdiv_cout_rare(a, b, r);
+    return div_rare(a, b, r);
   }
 };
 

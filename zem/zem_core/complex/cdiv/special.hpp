@@ -33,7 +33,7 @@ inline Complex<double> irregular_quotient(const Operand& a, const Operand& b) {
                 infinity);
 }
 
-inline int vcdiv_cout_rare(const Complex<float>* a, const Complex<float>* b, Complex<float>* r) {
+inline int div_rare(const Complex<float>* a, const Complex<float>* b, Complex<float>* r) {
   const Operand x(a->re, a->im), y(b->re, b->im);
   const bool regular = x.finite() && y.finite() && !y.zero;
   Complex<double> q;
@@ -61,7 +61,7 @@ ORK_INLINE double real_quotient(double x, double y, double zero) {
 
 // Finite operands of any exponents: as the vector path, exponents apart, one rounding, also into
 // denormals. A divisor with a zero part is a real one.
-inline int vzdiv_cout_rare(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {
+inline int div_rare(const Complex<double>* a, const Complex<double>* b, Complex<double>* r) {
   const Operand x(a->re, a->im), y(b->re, b->im);
   if (!x.finite() || !y.finite() || y.zero) {
     *r = irregular_quotient(x, y);

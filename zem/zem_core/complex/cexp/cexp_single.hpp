@@ -1,8 +1,8 @@
 #pragma once
 // Exp of single-precision complex vectors, in double: e^x of exp_d.hpp's LA, sine and cosine of
 // hyperbolic_single.hpp, each product rounded once. Fast range: |x| < 87.3365, |y| < 90112.
-#include "complex/hyperbolic_single.hpp"
 #include "complex/cexp/cexp.hpp"
+#include "complex/hyperbolic_single.hpp"
 
 namespace ork {
 

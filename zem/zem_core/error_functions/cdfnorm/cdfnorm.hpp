@@ -10,8 +10,8 @@
 
 namespace ork {
 
-int vdcdfnorm_cout_rare(const double* a, double* r);
-int vscdfnorm_cout_rare(const float* a, float* r);
+int cdfnorm_rare(const double* a, double* r);
+int cdfnorm_rare(const float* a, float* r);
 
 constexpr double cdfnorm_limit_d = -38.485408335567335;
 constexpr float cdfnorm_limit_s = -14.1701851f;
@@ -22,7 +22,7 @@ struct CdfNormD : Core<double> {
   static void test(f64x2 x, u32x4& rare) {
     rare |= as<u32x4>((f64x2)_mm_cmpnlt_pd(splat(cdfnorm_limit_d), x));
   }
-  static int special(const double* x, double* r) { return vdcdfnorm_cout_rare(x, r); }
+  static int special(const double* x, double* r) { return cdfnorm_rare(x, r); }
 };
 
 struct CdfNormReduced {

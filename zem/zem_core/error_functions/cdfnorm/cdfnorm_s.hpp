@@ -22,7 +22,7 @@ struct CdfNormS : Core<float> {
     const f32x4 high = _mm_cvtpd_ps(half(_mm_cvtps_pd(_mm_movehl_ps(x, x))));
     return _mm_movelh_ps(low, high);
   }
-  static int special(const float* x, float* r) { return vscdfnorm_cout_rare(x, r); }
+  static int special(const float* x, float* r) { return cdfnorm_rare(x, r); }
 };
 
 }  // namespace ork

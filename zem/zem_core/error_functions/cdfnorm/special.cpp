@@ -26,11 +26,7 @@ int rare(const T* a, T* r, T limit, T smallest) {
 
 }  // namespace
 
-int vdcdfnorm_cout_rare(const double* a, double* r) {
-  return rare(a, r, cdfnorm_limit_d, __DBL_MIN__);
-}
-int vscdfnorm_cout_rare(const float* a, float* r) {
-  return rare(a, r, cdfnorm_limit_s, __FLT_MIN__);
-}
+int cdfnorm_rare(const double* a, double* r) { return rare(a, r, cdfnorm_limit_d, __DBL_MIN__); }
+int cdfnorm_rare(const float* a, float* r) { return rare(a, r, cdfnorm_limit_s, __FLT_MIN__); }
 
 }  // namespace ork

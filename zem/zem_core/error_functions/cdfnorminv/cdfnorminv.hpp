@@ -5,8 +5,8 @@
 
 namespace ork {
 
-int dCdfNormInv_SC(const double* a, double* r);
-int sCdfNormInv_SC(const float* a, float* r);
+int cdfnorminv_rare(const double* a, double* r);
+int cdfnorminv_rare(const float* a, float* r);
 
 struct CdfNormInvSplit {
   static constexpr bool low_of_z = true;
@@ -24,14 +24,14 @@ struct CdfNormInvD : Core<double>, CdfNormInvSplit {
   static constexpr char name[] = "vdCdfNormInv";
   static constexpr Csr csr = Csr::untouched;
   static u32x4 rare(f64x2 p) { return outside(as<u32x4>(p), 0x3C900000, 0x3FF00000); }
-  static int special(const double* p, double* r) { return dCdfNormInv_SC(p, r); }
+  static int special(const double* p, double* r) { return cdfnorminv_rare(p, r); }
 };
 
 struct CdfNormInvS : Core<float>, CdfNormInvSplit {
   static constexpr char name[] = "vsCdfNormInv";
   static constexpr Csr csr = Csr::untouched;
   static u32x4 rare(f32x4 p) { return outside(as<u32x4>(p), 0x33000000, 0x3F800000); }
-  static int special(const float* p, float* r) { return sCdfNormInv_SC(p, r); }
+  static int special(const float* p, float* r) { return cdfnorminv_rare(p, r); }
 };
 
 }  // namespace ork

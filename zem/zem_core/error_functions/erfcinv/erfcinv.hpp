@@ -5,8 +5,8 @@
 
 namespace ork {
 
-int dErfcInv_SC(const double* a, double* r);
-int sErfcInv_SC(const float* a, float* r);
+int erfcinv_rare(const double* a, double* r);
+int erfcinv_rare(const float* a, float* r);
 
 struct ErfcInvSplit {
   static constexpr bool low_of_z = true;
@@ -24,14 +24,14 @@ struct ErfcInvD : Core<double>, ErfcInvSplit {
   static constexpr char name[] = "vdErfcInv";
   static constexpr Csr csr = Csr::untouched;
   static u32x4 rare(f64x2 x) { return outside(as<u32x4>(x), 0x3CA00000, 0x40000000); }
-  static int special(const double* x, double* r) { return dErfcInv_SC(x, r); }
+  static int special(const double* x, double* r) { return erfcinv_rare(x, r); }
 };
 
 struct ErfcInvS : Core<float>, ErfcInvSplit {
   static constexpr char name[] = "vsErfcInv";
   static constexpr Csr csr = Csr::untouched;
   static u32x4 rare(f32x4 x) { return outside(as<u32x4>(x), 0x33800000, 0x40000000); }
-  static int special(const float* x, float* r) { return sErfcInv_SC(x, r); }
+  static int special(const float* x, float* r) { return erfcinv_rare(x, r); }
 };
 
 }  // namespace ork

@@ -5,8 +5,8 @@
 
 namespace ork {
 
-int vderfinv_cout_rare(const double* a, double* r);
-int vserfinv_cout_rare(const float* a, float* r);
+int erfinv_rare(const double* a, double* r);
+int erfinv_rare(const float* a, float* r);
 
 ORK_INLINE InverseSplit erfinv_split(f64x2 x) {
   const f64x2 m = _mm_min_pd(abs(x), splat(0.99999999999999989)), w = 1.0 - m;
@@ -24,7 +24,7 @@ struct ErfInvD : Core<double> {
     const u64x2 interval = as<u64x2>(w) & splat_u64(0x7FFF000000000000);
     return w - as<f64x2>(interval | splat_u64(0x0000800000000000));
   }
-  static int special(const double* x, double* r) { return vderfinv_cout_rare(x, r); }
+  static int special(const double* x, double* r) { return erfinv_rare(x, r); }
 };
 
 struct ErfInvS : Core<float> {
@@ -35,7 +35,7 @@ struct ErfInvS : Core<float> {
     return s;
   }
   static u32x4 rare(f32x4 x) { return (u32x4)((i32x4)as<u32x4>(abs(x)) > 0x3F7FFFFF); }
-  static int special(const float* x, float* r) { return vserfinv_cout_rare(x, r); }
+  static int special(const float* x, float* r) { return erfinv_rare(x, r); }
 };
 
 // Single, LA and EP: cubics in w for each of `parts` intervals of a binade of w, from 2^-24

@@ -28,7 +28,7 @@ double scaled(const double* a) {
 
 }  // namespace
 
-int vderfinv_cout_rare(const double* a, double* r) {
+int erfinv_rare(const double* a, double* r) {
   const uint64_t m = magnitude(a);
   if (m == infinity_bits<double>) {
     *r = as<double>(domain_nan<double>);
@@ -54,7 +54,7 @@ int vderfinv_cout_rare(const double* a, double* r) {
   return ZEM_STATUS_DOMAIN;
 }
 
-int vserfinv_cout_rare(const float* a, float* r) {
+int erfinv_rare(const float* a, float* r) {
   const uint32_t m = magnitude(a);
   if (m > infinity_bits<float>) {
     *r = *a + *a;

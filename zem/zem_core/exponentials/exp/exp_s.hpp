@@ -1,7 +1,7 @@
 #pragma once
 // Exp, single, W7: e^x = 2^k 2^(j/128) e^r with n = round(x 128/ln 2), r = x - n ln 2/128,
 // j = n mod 128, k = n div 128. A level combines r, j and the scale 2^k.
-// Fast range: |x| below 87.3365479; beyond it _ScalarExp. The parts of ln 2/128 are frozen.
+// Fast range: |x| below 87.3365479; beyond it exp_rare. The parts of ln 2/128 are frozen.
 #include "base/image.hpp"
 #include "base/round.hpp"
 #include "common/exp_tables.hpp"
@@ -29,7 +29,7 @@ struct ExpLaS {
 };
 
 template <class Level>
-int _ScalarExp(const float* a, float* out);
+int exp_rare(const float* a, float* out);
 
 template <class Level>
 struct ExpS : Core<float> {
@@ -57,12 +57,12 @@ struct ExpS : Core<float> {
     rare |= 0x42AEAC4F - as<u32x4>(abs(x));
     return value<0>(x);
   }
-  static int special(const float* a, float* out) { return _ScalarExp<Level>(a, out); }
+  static int special(const float* a, float* out) { return exp_rare<Level>(a, out); }
 };
 
 // One element beyond the fast range.
 template <class Level>
-int _ScalarExp(const float* a, float* out) {
+int exp_rare(const float* a, float* out) {
   const float x = *a;
   const uint32_t magnitude = ork::magnitude(a);
   if (magnitude >= infinity_bits<float>) {

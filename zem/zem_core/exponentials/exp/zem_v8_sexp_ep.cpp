@@ -1,6 +1,6 @@
 // Exp, single, EP: e^x = 2^n 2^f, u = x log2 e, n = round(u), f = u - n; 2^f by a cubic of
 // relative error 1.3e-4 on [-1/2, 1/2]; 2^n is added to the exponent field.
-// Fast range: |x| up to 87.3365402; beyond it vsexp_cout_rare. Constants: frozen.
+// Fast range: |x| up to 87.3365402; beyond it exp_rare. Constants: frozen.
 #include "base/image.hpp"
 #include "base/round.hpp"
 #include "frame/chunk.hpp"
@@ -11,7 +11,7 @@ namespace {
 
 constexpr float shifter = integer_shifter<float>;
 
-int vsexp_cout_rare(const float* a, float* out) {
+int exp_rare(const float* a, float* out) {
   if (sign(a) && magnitude(a) == infinity_bits<float>) {
     *out = 0.0f;
     return 0;
@@ -55,7 +55,7 @@ struct ExpEpS : Core<float> {
     rare |= 0x42AEAC4F - as<u32x4>(abs(x));
     return as<f32x4>(as<u32x4>(p) + (as<u32x4>(t) << 23));
   }
-  static int special(const float* a, float* out) { return vsexp_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return exp_rare(a, out); }
 };
 
 }  // namespace

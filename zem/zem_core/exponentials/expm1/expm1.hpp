@@ -26,8 +26,8 @@ alignas(16) inline constexpr Expm1RowS expm1_split64_s[64] = {
 #include "exponentials/expm1/split64_s.inc"
 };
 
-int vdexpm1_cout_rare(const double* a, double* out);
-int vsexpm1_cout_rare(const float* a, float* out);
+int expm1_rare(const double* a, double* out);
+int expm1_rare(const float* a, float* out);
 
 struct Expm1D : Core<double> {
   static constexpr char name[] = "vdExpm1";
@@ -38,7 +38,7 @@ struct Expm1D : Core<double> {
     return ~far;
   }
   static f64x2 round(f64x2 y) { return y + integer_shifter<double> - integer_shifter<double>; }
-  static int special(const double* x, double* r) { return vdexpm1_cout_rare(x, r); }
+  static int special(const double* x, double* r) { return expm1_rare(x, r); }
 };
 
 // n to 2^(n/128) = S_hi + S_lo. Adding 1.5 * 2^48 + 1023 * 128 leaves 16 n in the low word.

@@ -45,11 +45,7 @@ int rare(const T* a, T* out, T limit, T largest) {
 
 }  // namespace
 
-int vdexpm1_cout_rare(const double* a, double* out) {
-  return rare(a, out, 709.782712893384, __DBL_MAX__);
-}
-int vsexpm1_cout_rare(const float* a, float* out) {
-  return rare(a, out, 88.72283172607422f, __FLT_MAX__);
-}
+int expm1_rare(const double* a, double* out) { return rare(a, out, 709.782712893384, __DBL_MAX__); }
+int expm1_rare(const float* a, float* out) { return rare(a, out, 88.72283172607422f, __FLT_MAX__); }
 
 }  // namespace ork

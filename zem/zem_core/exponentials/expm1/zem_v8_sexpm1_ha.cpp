@@ -30,7 +30,7 @@ struct Expm1HaS : Core<float> {
     const f32x4 s_hi = or_bits(high, exponent), s_lo = low * as<f32x4>(exponent);
     return with_sign_of(x, expm1_sum(s_hi, s_lo, u_hi, (u_lo - v0) + p));
   }
-  static int special(const float* a, float* out) { return vsexpm1_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return expm1_rare(a, out); }
 };
 
 }  // namespace

@@ -1,5 +1,5 @@
 #pragma once
-// Tanh, double: a = |x| picks a row by its exponent and three mantissa bits (_dtanh_rows),
+// Tanh, double: a = |x| picks a row by its exponent and three mantissa bits (tanh_rows_d),
 // t = a + shift, tanh a = c1 + (c2 t + t^2 (c3 + c4 t + ...) + c0), with the sign of x.
 // c2 t stands outside of Horner's form: in row 0, where c1 = 0 and c2 = 1, it is exact.
 // Rare: infinities and NaNs.
@@ -8,7 +8,7 @@
 
 namespace ork {
 
-alignas(16) inline constexpr double _dtanh_rows[60][16] = {
+alignas(16) inline constexpr double tanh_rows_d[60][16] = {
 #include "exponentials/tanh/rows_d.inc"
 };
 
@@ -24,8 +24,8 @@ struct TanhD : Core<double> {
     const __m128i last = _mm_set_epi16(59, 0, 0, 0, 59, 0, 0, 0);
     const __m128i row = _mm_min_epi16(_mm_subs_epu16(_mm_srli_epi16(as<__m128i>(a), 1), top), last);
     const __m128i offset = _mm_slli_epi16(row, 7);
-    const char* const row0 = (const char*)_dtanh_rows + _mm_extract_epi16(offset, 3);
-    const char* const row1 = (const char*)_dtanh_rows + _mm_extract_epi16(offset, 7);
+    const char* const row0 = (const char*)tanh_rows_d + _mm_extract_epi16(offset, 3);
+    const char* const row1 = (const char*)tanh_rows_d + _mm_extract_epi16(offset, 7);
     // Coefficients n and n + 1 of the two lanes.
     const auto pair = [&](int n, f64x2& second) -> f64x2 {
       const f64x2 low = *(const f64x2*)(row0 + 8 * n), high = *(const f64x2*)(row1 + 8 * n);

@@ -7,10 +7,10 @@
 
 namespace ork {
 
-alignas(16) inline constexpr float _stanh_rows[52][8] = {
+alignas(16) inline constexpr float tanh_rows_s[52][8] = {
 #include "exponentials/tanh/rows_s.inc"
 };
-alignas(16) inline constexpr float _stanh_ep_rows[52][4] = {
+alignas(16) inline constexpr float tanh_rows_s_ep[52][4] = {
 #include "exponentials/tanh/rows_s_ep.inc"
 };
 
@@ -51,8 +51,8 @@ struct TanhS : TanhBaseS {
     const f32x4 a = abs(x);
     const __m128i row = row_of(a, rare);
     f32x4 high[4], low[4];
-    columns<5>(_stanh_rows[0] + 4, row, high);
-    columns<5>(_stanh_rows[0], row, low);
+    columns<5>(tanh_rows_s[0] + 4, row, high);
+    columns<5>(tanh_rows_s[0], row, low);
     const f32x4 t = from_centre(a, row);
     f32x4 p = t * (low[3] + t * (high[0] + t * (high[1] + t * (high[2] + t * high[3]))));
     if (low_word) p += low[0];
@@ -66,7 +66,7 @@ struct TanhEpS : TanhBaseS {
     const f32x4 a = abs(x);
     const __m128i row = row_of(a, rare);
     f32x4 c[4];
-    columns<4>(_stanh_ep_rows[0], row, c);
+    columns<4>(tanh_rows_s_ep[0], row, c);
     const f32x4 t = from_centre(a, row);
     return or_bits(c[0] + t * (c[1] + t * (c[2] + t * c[3])), as<u32x4>(x) & sign_f32x4);
   }

@@ -5,7 +5,7 @@
 
 namespace ork {
 
-int vdlgamma_cout_rare(const double* a, double* r);
-int vslgamma_cout_rare(const float* a, float* r);
+int lgamma_rare(const double* a, double* r);
+int lgamma_rare(const float* a, float* r);
 
 }  // namespace ork

@@ -163,7 +163,7 @@ ORK_INLINE int rare(const T* a, T* r) {
 
 }  // namespace
 
-int vdlgamma_cout_rare(const double* a, double* r) { return rare(a, r); }
-int vslgamma_cout_rare(const float* a, float* r) { return rare(a, r); }
+int lgamma_rare(const double* a, double* r) { return rare(a, r); }
+int lgamma_rare(const float* a, float* r) { return rare(a, r); }
 
 }  // namespace ork

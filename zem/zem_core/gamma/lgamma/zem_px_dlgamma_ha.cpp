@@ -8,7 +8,7 @@ namespace {
 struct LGammaD : Core<double> {
   static constexpr char name[] = "vdLGamma";
   static constexpr Csr csr = Csr::untouched;
-  static int special(const double* a, double* r) { return vdlgamma_cout_rare(a, r); }
+  static int special(const double* a, double* r) { return lgamma_rare(a, r); }
 };
 
 }  // namespace

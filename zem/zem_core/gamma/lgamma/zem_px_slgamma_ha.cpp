@@ -8,7 +8,7 @@ namespace {
 struct LGammaS : Core<float> {
   static constexpr char name[] = "vsLGamma";
   static constexpr Csr csr = Csr::untouched;
-  static int special(const float* a, float* r) { return vslgamma_cout_rare(a, r); }
+  static int special(const float* a, float* r) { return lgamma_rare(a, r); }
 };
 
 }  // namespace

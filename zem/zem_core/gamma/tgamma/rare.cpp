@@ -5,8 +5,8 @@
 // x)). Within 0.51 ulp; factorials are correctly rounded.
 #include "base/image.hpp"
 #include "gamma/extended.hpp"
-#include "ork/zem.h"
 #include "gamma/tgamma/tgamma.hpp"
+#include "ork/zem.h"
 
 namespace ork {
 namespace {
@@ -120,7 +120,7 @@ ORK_INLINE int rare(const T* a, T* r) {
 
 }  // namespace
 
-int vdtgamma_cout_rare(const double* a, double* r) { return rare(a, r); }
-int vstgamma_cout_rare(const float* a, float* r) { return rare(a, r); }
+int tgamma_rare(const double* a, double* r) { return rare(a, r); }
+int tgamma_rare(const float* a, float* r) { return rare(a, r); }
 
 }  // namespace ork

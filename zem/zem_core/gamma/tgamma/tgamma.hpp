@@ -5,7 +5,7 @@
 
 namespace ork {
 
-int vdtgamma_cout_rare(const double* a, double* r);
-int vstgamma_cout_rare(const float* a, float* r);
+int tgamma_rare(const double* a, double* r);
+int tgamma_rare(const float* a, float* r);
 
 }  // namespace ork

@@ -1,6 +1,6 @@
 // TGamma, double, all levels: every element through the scalar routine.
-#include "ork/zem_kernels.h"
 #include "gamma/tgamma/tgamma.hpp"
+#include "ork/zem_kernels.h"
 
 namespace ork {
 namespace {
@@ -8,7 +8,7 @@ namespace {
 struct TGammaD : Core<double> {
   static constexpr char name[] = "vdTGamma";
   static constexpr Csr csr = Csr::untouched;
-  static int special(const double* a, double* r) { return vdtgamma_cout_rare(a, r); }
+  static int special(const double* a, double* r) { return tgamma_rare(a, r); }
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 // TGamma, float, all levels: every element through the scalar routine.
-#include "ork/zem_kernels.h"
 #include "gamma/tgamma/tgamma.hpp"
+#include "ork/zem_kernels.h"
 
 namespace ork {
 namespace {
@@ -8,7 +8,7 @@ namespace {
 struct TGammaS : Core<float> {
   static constexpr char name[] = "vsTGamma";
   static constexpr Csr csr = Csr::untouched;
-  static int special(const float* a, float* r) { return vstgamma_cout_rare(a, r); }
+  static int special(const float* a, float* r) { return tgamma_rare(a, r); }
 };
 
 }  // namespace

@@ -7,8 +7,6 @@ namespace ork::extended {
 
 #include "heap/real/exp.inc"
 
-constexpr long double whole_shift = 0x1.8p63L;  // rounds what is added to it to an integer
-
 // exp(x) = (high + low) 2^m, high a row of the table, |low| < 2^-9 high, for |x| < 11500: x is
 // reduced to |r| <= ln 2 / 512. Within 2^-72 of the value.
 struct Power {
@@ -16,7 +14,7 @@ struct Power {
   int m;
 };
 ORK_INLINE Power exp_step(long double x) {
-  const long double shifted = x * per_256th + whole_shift, n = shifted - whole_shift;
+  const long double shifted = x * per_256th + shifter, n = shifted - shifter;
   const int count = (int)low_word(shifted), j = (int8_t)count;
   const long double r = (x - n * ln2_256_high) - n * ln2_256_low;
   const double* row = ork_zem_core_expl_table_256[j + 128];
@@ -44,7 +42,7 @@ struct Hyperbolic {
   Pair sinh, cosh;
 };
 ORK_INLINE Hyperbolic hyperbolic_step(long double x) {
-  const long double shifted = x * per_256th + whole_shift, n = shifted - whole_shift;
+  const long double shifted = x * per_256th + shifter, n = shifted - shifter;
   const int count = (int)low_word(shifted), j = (int8_t)count, m = (count - j) >> 8;
   const long double r = (x - n * ln2_256_high) - n * ln2_256_low, z = r * r;
   const long double c = z * value(cosh_step, z), s = r + r * z * value(sinh_step, z);

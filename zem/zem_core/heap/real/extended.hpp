@@ -3,11 +3,16 @@
 // counts on the control word being at extended precision, to nearest; the functions here leave
 // MXCSR and the vector state alone.
 #include "base/pair.hpp"
+#include "base/round.hpp"
 
 namespace ork::extended {
 
 constexpr int bias = 16383;
 constexpr int special_exponent = 32767;
+
+// (x + shifter) - shifter is x without fraction; the others leave that many bits behind the point.
+constexpr long double shifter = integer_shifter<long double>;
+constexpr long double shifter_26 = 0x1.8p37L, shifter_31 = 0x1.8p32L;
 
 // Only the 16 bits that are wanted are loaded: a wider load behind the store of x would stall.
 ORK_INLINE int sign_and_exponent(long double x) {

@@ -14,8 +14,8 @@ ORK_INLINE Pair angle(long double y, long double x) {
   const long double a = size(x);
   const bool steep = y > a, back = negative(x);
   const long double small = steep ? a : y, large = steep ? y : a;
-  const long double shifted = small / large * 128 + 0x1.8p63L;
-  const long double c = (shifted - 0x1.8p63L) * 0x1p-7L;
+  const long double shifted = small / large * 128 + shifter;
+  const long double c = (shifted - shifter) * 0x1p-7L;
   const int j = (int)low_word(shifted);
   const Pair l = halves(large);  // c has 8 bits
   const long double turn = c * small;

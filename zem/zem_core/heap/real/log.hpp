@@ -17,7 +17,7 @@ ORK_INLINE Pair log_step(long double x, int extra = 0) {
   const long double k = exponent(x) - bias + extra;
   // The unit reads integers as signed; the leading bit is set in all of them.
   const long double m = ((long double)significand + 0x1p64L) * 0x1p-63L;
-  const long double head = (m + 0x1.8p32L) - 0x1.8p32L;
+  const long double head = (m + shifter_31) - shifter_31;
   const float c = ork_zem_core_rcp_table_256[j];
   const double* row = ork_zem_core_logl_table_256[j];
   const long double high = head * c - 1, low = (m - head) * c, r = high + low;

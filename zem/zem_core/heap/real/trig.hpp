@@ -30,7 +30,7 @@ ORK_INLINE Reduced reduce(long double a) {
   const int e = exponent(a);
   if (__builtin_expect(e >= 16413, 0)) return reduce_large(a);
   if (a < 0.785398163397448309616L) return {{a, 0}, 0};
-  const long double shifted = a * two_over_pi + 0x1.8p63L, n = shifted - 0x1.8p63L;
+  const long double shifted = a * two_over_pi + shifter, n = shifted - shifter;
   if (__builtin_expect(e >= 16400, 0))
     return {subtract_quarters(a, n, half_pi_5), low_word(shifted)};
   return {subtract_quarters(a, n, half_pi_3), low_word(shifted)};
@@ -40,13 +40,13 @@ ORK_INLINE Reduced reduce(long double a) {
 // exact, and so is their product with the first 11 bits of -1/6: what is rounded before the last
 // sum is below 2^-3 of the result.
 ORK_INLINE Pair sine_of(Pair r) {
-  const long double head = (r.high + 0x1.8p37L) - 0x1.8p37L, rest = r.high - head;
+  const long double head = (r.high + shifter_26) - shifter_26, rest = r.high - head;
   const long double z = r.high * r.high, z_head = head * head, z_rest = rest * (head + r.high);
   const long double t = z_rest * -0x1.554p-3L + z * value(sine, z);
   return {r.high, r.high * (z_head * -0x1.554p-3L) + (r.high * t + r.low * (1 - z * 0.5L))};
 }
 ORK_INLINE Pair cosine_of(Pair r) {
-  const long double head = (r.high + 0x1.8p37L) - 0x1.8p37L, rest = r.high - head;
+  const long double head = (r.high + shifter_26) - shifter_26, rest = r.high - head;
   const long double z = r.high * r.high;
   return {1 - head * head * 0.5L,
           z * z * value(cosine, z) - (rest * (head + rest * 0.5L) + r.high * r.low)};

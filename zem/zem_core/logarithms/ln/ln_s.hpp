@@ -1,14 +1,12 @@
 #pragma once
 // Ln, single, V8: p = u + u^2 q(u), u in [-1/3, 1/3); a level gives q and adds k ln 2.
-// Fast range: positive normal numbers; beyond it vsln_cout_rare. Constants: frozen.
+// Fast range: positive normal numbers; beyond it ln_rare. Constants: frozen.
 #include "frame/chunk.hpp"
 #include "logarithms/log_rare.hpp"
 #include "logarithms/log_s.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
-
-inline int vsln_cout_rare(const float* a, float* out) { return in_double(ln_rare, *a, out); }
 
 template <class Level>
 struct LnS : Core<float> {
@@ -19,7 +17,7 @@ struct LnS : Core<float> {
     const f32x4 u = log_reduce(as<u32x4>(x), two_thirds, k);
     return Level::sum(u + u * u * horner(u, Level::q), to_float(k));
   }
-  static int special(const float* a, float* out) { return vsln_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return in_double(ln_rare, *a, out); }
 };
 
 }  // namespace ork

@@ -3,7 +3,7 @@
 
 namespace ork {
 
-int vdlog10_cout_rare(const double* a, double* out);
-int vslog10_cout_rare(const float* a, float* out);
+int log10_rare(const double* a, double* out);
+int log10_rare(const float* a, float* out);
 
 }  // namespace ork

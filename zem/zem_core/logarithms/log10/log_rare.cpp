@@ -26,7 +26,7 @@ struct Decimal {
 
 }  // namespace
 
-int vdlog10_cout_rare(const double* a, double* out) { return log_rare<Decimal>(*a, out); }
-int vslog10_cout_rare(const float* a, float* out) { return in_double(log_rare<Decimal>, *a, out); }
+int log10_rare(const double* a, double* out) { return log_rare<Decimal>(*a, out); }
+int log10_rare(const float* a, float* out) { return in_double(log_rare<Decimal>, *a, out); }
 
 }  // namespace ork

@@ -1,8 +1,8 @@
 // Log10, double, LA: m = m_hi + m_lo with m_hi of 43 bits, v = (m_hi c - 1) + m_lo c,
 // log10 x = K log10 2 + (T(c) + p(v)), p of degree 5, |v| < 2^-9.5. Next to 1, v = m - 1.
 // Fast range: positive normal numbers. Constants: frozen.
-#include "frame/chunk.hpp"
 #include "common/log_short_d.hpp"
+#include "frame/chunk.hpp"
 #include "logarithms/log10/log10.hpp"
 #include "ork/zem_kernels.h"
 
@@ -24,7 +24,7 @@ struct Log10LaD : Core<double> {
                                         v2 * (-0.10857375315018218 + 0.086859055590810946 * v));
     return short_sum(f, x, table, 0.3010299956639812, p);
   }
-  static int special(const double* a, double* out) { return vdlog10_cout_rare(a, out); }
+  static int special(const double* a, double* out) { return log10_rare(a, out); }
 };
 
 }  // namespace

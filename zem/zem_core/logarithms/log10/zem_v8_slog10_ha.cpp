@@ -35,7 +35,7 @@ struct Log10HaS : Core<float> {
     const f32x4 q = r * horner(r, 0.00161610241f, -1.15502596f, 1.77590978f);
     return s + (e + (b + q));
   }
-  static int special(const float* a, float* out) { return vslog10_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return log10_rare(a, out); }
 };
 
 }  // namespace

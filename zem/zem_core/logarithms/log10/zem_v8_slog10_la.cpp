@@ -1,8 +1,8 @@
 // Log10, single, LA: p = u q(u) of degree 9, u in [-1/3, 1/3), log10 2 in two parts.
 // Fast range: positive normal numbers.
 #include "frame/chunk.hpp"
-#include "logarithms/log_s.hpp"
 #include "logarithms/log10/log10.hpp"
+#include "logarithms/log_s.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -19,7 +19,7 @@ struct Log10LaS : Core<float> {
     const f32x4 u = log_reduce(as<u32x4>(x), two_thirds, exponent), k = to_float(exponent);
     return (u * horner(u, q) + k * -3.02435365e-06f) + k * 0.30103302f;
   }
-  static int special(const float* a, float* out) { return vslog10_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return log10_rare(a, out); }
 };
 
 }  // namespace

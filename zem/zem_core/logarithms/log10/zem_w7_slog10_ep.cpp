@@ -1,8 +1,8 @@
 // Log10, single, EP: u q(u) of degree 5, u in [sqrt(1/2) - 1, sqrt(2) - 1), k log10 2.
 // Fast range: positive normal numbers.
 #include "frame/block.hpp"
-#include "logarithms/log_s.hpp"
 #include "logarithms/log10/log10.hpp"
+#include "logarithms/log_s.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -22,7 +22,7 @@ struct Log10EpS : Core<float> {
     const f32x4 u = as<f32x4>((carried & 0x007FFFFF) + root_half) - 1.0f;
     return u * horner(u, q) + k * 0.30103001f;
   }
-  static int special(const float* a, float* out) { return vslog10_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return log10_rare(a, out); }
 };
 
 }  // namespace

@@ -2,9 +2,9 @@
 // Log1p, double: s + e = 1 + x, s of 43 bits unless x is small; v = s c - 1 + e c with a
 // short c; ln(1 + x) = K ln 2 - ln c + ln(1 + v), a level doing the last sum.
 // Rare: x <= -1, x above 8.78e304 (where the scale of e would be denormal), NaN.
+#include "common/log_short_d.hpp"
 #include "frame/chunk.hpp"
 #include "logarithms/log_rare.hpp"
-#include "common/log_short_d.hpp"
 #include "ork/zem_kernels.h"
 
 namespace ork {
@@ -23,7 +23,7 @@ alignas(16) inline constexpr double log1p_rows_d_la[] = {
 #include "common/log1p_rows_d_la.inc"
 };
 
-inline int vdlog1p_cout_rare(const double* a, double* out) { return ln_rare(*a + 1.0, out); }
+inline int log1p_rare(const double* a, double* out) { return ln_rare(*a + 1.0, out); }
 
 template <class Level>
 struct Log1pD : Core<double> {
@@ -42,7 +42,7 @@ struct Log1pD : Core<double> {
     const f64x2 y = Level::sum(f, s, f.m * f.c - 1.0, e * (scale * f.c));
     return or_bits(y, as<u64x2>(x) & sign_f64x2);  // the sign of a zero
   }
-  static int special(const double* a, double* out) { return vdlog1p_cout_rare(a, out); }
+  static int special(const double* a, double* out) { return log1p_rare(a, out); }
 };
 
 }  // namespace ork

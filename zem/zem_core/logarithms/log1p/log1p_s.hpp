@@ -7,7 +7,7 @@
 namespace ork {
 
 // x + 1 is exact in double wherever the routine is called: x <= -1, or x beyond 2^118.
-inline int vslog1p_cout_rare(const float* a, float* out) {
+inline int log1p_rare(const float* a, float* out) {
   return in_double(ln_rare, (double)*a + 1.0, out);
 }
 
@@ -22,7 +22,7 @@ struct Log1pS : Core<float> {
     return ((f32x4)_mm_max_ps(x, splat(1.0f)) - s) + (f32x4)_mm_min_ps(x, splat(1.0f));
   }
   static f32x4 with_sign_of(f32x4 x, f32x4 y) { return or_bits(y, as<u32x4>(x) & sign_f32x4); }
-  static int special(const float* a, float* out) { return vslog1p_cout_rare(a, out); }
+  static int special(const float* a, float* out) { return log1p_rare(a, out); }
 };
 
 }  // namespace ork

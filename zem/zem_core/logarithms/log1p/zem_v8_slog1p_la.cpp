@@ -1,8 +1,8 @@
 // Log1p, single, LA: s + e = 1 + x, s = 2^k m, v = (m - 1) + e/2^k in [-1/3, 1/3],
 // ln(1 + x) = v + v^2 q(v) + k ln 2, degree 9.
 // Fast range: -1 < x <= 2^118.
-#include "logarithms/log_s.hpp"
 #include "logarithms/log1p/log1p_s.hpp"
+#include "logarithms/log_s.hpp"
 
 namespace ork {
 namespace {

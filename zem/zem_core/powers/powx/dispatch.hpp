@@ -7,12 +7,12 @@
 
 namespace ork {
 
-#define ORK_POWX_CALL(F)                                                \
-  ORK_INLINE void call_to_##F##_HA(int n, const double* a, double* r) { \
-    ork_zem_kernel_d##F##_ttab[1](n, a, r);                             \
-  }                                                                     \
-  ORK_INLINE void call_to_##F##_HA(int n, const float* a, float* r) {   \
-    ork_zem_kernel_s##F##_ttab[1](n, a, r);                             \
+#define ORK_POWX_CALL(F)                                        \
+  ORK_INLINE void call_##F(int n, const double* a, double* r) { \
+    ork_zem_kernel_d##F##_ttab[1](n, a, r);                     \
+  }                                                             \
+  ORK_INLINE void call_##F(int n, const float* a, float* r) {   \
+    ork_zem_kernel_s##F##_ttab[1](n, a, r);                     \
   }
 ORK_POWX_CALL(Sqrt)
 ORK_POWX_CALL(InvSqrt)
@@ -38,19 +38,19 @@ ORK_INLINE bool powx_is_done(int n, const T* a, T b, T* r) {
   if (is(2.0))
     block<PowxSquare<T>>(n, {{a}, {r}});
   else if (is(0.5))
-    call_to_Sqrt_HA(n, a, r);
+    call_Sqrt(n, a, r);
   else if (is(-0.5))
-    call_to_InvSqrt_HA(n, a, r);
+    call_InvSqrt(n, a, r);
   else if (is(-1.0))
-    call_to_Inv_HA(n, a, r);
+    call_Inv(n, a, r);
   else if (is(0.3333333333333333))
-    call_to_Cbrt_HA(n, a, r);
+    call_Cbrt(n, a, r);
   else if (is(-0.3333333333333333))
-    call_to_InvCbrt_HA(n, a, r);
+    call_InvCbrt(n, a, r);
   else if (is(0.6666666666666666))
-    call_to_Pow2o3_HA(n, a, r);
+    call_Pow2o3(n, a, r);
   else if (is(1.5))
-    call_to_Pow3o2_HA(n, a, r);
+    call_Pow3o2(n, a, r);
   else
     return false;
   return true;

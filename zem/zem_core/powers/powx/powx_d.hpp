@@ -11,10 +11,7 @@ struct PowxBaseD : Core<double> {
   double b;
   explicit PowxBaseD(double exponent) : b(exponent) {}
   const double* second(const double*, int index) const { return array_with(&b, index); }
-  int special(const double* a, double* r) const { return vdpowx_cout_rare(a, &b, r); }
-  static int vdpowx_cout_rare(const double* a, const double* b, double* r) {
-    return vdpow_cout_rare(a, b, r);
-  }
+  int special(const double* a, double* r) const { return pow_rare(a, &b, r); }
 };
 
 struct PowxD : PowxBaseD {

@@ -14,10 +14,7 @@ struct PowxS : Core<float> {
   __attribute__((always_inline)) f32x4 eval(f32x4 a, u32x4& rare) const {
     return pow_main<level>(a, splat(b), rare);
   }
-  int special(const float* a, float* r) const { return vspowx_cout_rare(a, &b, r); }
-  static int vspowx_cout_rare(const float* a, const float* b, float* r) {
-    return vspow_cout_rare(a, b, r);
-  }
+  int special(const float* a, float* r) const { return pow_rare(a, &b, r); }
 };
 
 }  // namespace ork

@@ -1,6 +1,6 @@
 #pragma once
-#include "roots/invsqrt/invsqrt_scalar.hpp"
 #include "ork/zem_kernels.h"
+#include "roots/invsqrt/invsqrt_scalar.hpp"
 #include "roots/rsqrt_seed.hpp"
 
 namespace ork {

@@ -1,7 +1,7 @@
 #pragma once
 #include "frame/level.hpp"
-#include "roots/invsqrt/invsqrt_scalar.hpp"
 #include "ork/zem_kernels.h"
+#include "roots/invsqrt/invsqrt_scalar.hpp"
 
 namespace ork {
 
@@ -26,7 +26,7 @@ struct InvSqrtHaS : Core<float> {
 };
 
 // The rare elements of LA and EP, positive finite ones by root and division on the x87 unit.
-int _zemsInvSqrtSpec(const float* x, float* r);
+int invsqrt_rare(const float* x, float* r);
 
 // LA: the hardware's 12-bit estimate and one Newton step, within 4 ulp. EP: the estimate, within
 // 2^-11. Rare: all but 2^-126 <= x <= 0x7F7FF001.
@@ -42,7 +42,7 @@ struct InvSqrtS : Core<float> {
     if constexpr (level == Level::ep) return y;
     return (splat(-0.5f) * y) * (x * y * y - splat(3.0f));
   }
-  static int special(const float* x, float* r) { return _zemsInvSqrtSpec(x, r); }
+  static int special(const float* x, float* r) { return invsqrt_rare(x, r); }
 };
 
 }  // namespace ork

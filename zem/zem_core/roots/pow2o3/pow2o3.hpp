@@ -2,9 +2,9 @@
 // x^(2/3) = (x^2)^(1/3), the sign dropped. With the cube root's reduction |x| = 2^(3(q - q0) + rem)
 // m, m = c_j (1 + r), c_j = 1 + (2j + 1)/64, |r| <= 2^-6: S T (1 + r P(r)), T = (c_j 2^rem)^(2/3),
 // S = 2^(2(q - q0)). Fast: normal x.
-#include "roots/reduce.hpp"
 #include "frame/level.hpp"
 #include "ork/zem_kernels.h"
+#include "roots/reduce.hpp"
 
 namespace ork {
 

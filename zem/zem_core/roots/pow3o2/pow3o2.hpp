@@ -1,9 +1,9 @@
 #pragma once
 // x^(3/2). x = 2^(2(q - q0) + odd) m, m = c_j (1 + r), c_j = 1 + (2j + 1)/64, |r| <= 2^-6:
 // S T (1 + r P(r)), T = (c_j 2^odd)^(3/2), S = 2^(3(q - q0)), q = (exponent - 1) div 2.
-#include "roots/reduce.hpp"
 #include "frame/level.hpp"
 #include "ork/zem_kernels.h"
+#include "roots/reduce.hpp"
 
 namespace ork {
 

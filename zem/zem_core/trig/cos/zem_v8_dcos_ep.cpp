@@ -5,8 +5,6 @@
 
 namespace ork::trig {
 
-static int vdcos_cout_rare(const double* x, double* r) { return scalar<_dCos>(x, r); }
-
 // Cosine, double, EP: modulo pi, see pi_kernel.hpp. Fast range |x| < 2^23. Bound 2^-26.
 struct CosEpD : Core<double> {
   static constexpr char name[] = "vdCos";
@@ -14,7 +12,7 @@ struct CosEpD : Core<double> {
     rare |= reaches<Cosine::limit>(abs(x));
     return odd_sine<PiEpD>(reduce<Cosine, PiEpD>(x));
   }
-  static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }
+  static int special(const double* x, double* r) { return scalar<_dCos>(x, r); }
 };
 
 }  // namespace ork::trig

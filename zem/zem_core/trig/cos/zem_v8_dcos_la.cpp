@@ -5,12 +5,6 @@
 
 namespace ork::trig {
 
-// What is finite has its result.
-static int vdcos_cout_rare(const double* x, double* r) {
-  *r = __builtin_isinf(*x) ? *x * 0.0 : *x * *x;
-  return status_of(*x);
-}
-
 // Cosine, double, LA: modulo pi, see pi_kernel.hpp, below 2^23; from there on by the digits of
 // 1/(2 pi), see large.hpp. Bound 3.1 ulp.
 struct CosLaD : Core<double> {
@@ -24,7 +18,11 @@ struct CosLaD : Core<double> {
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
     return replace_large<Cosine::limit>(abs(x), fast, large_sine(abs(x), 1), rare);
   }
-  static int special(const double* x, double* r) { return vdcos_cout_rare(x, r); }
+  // What is finite has its result.
+  static int special(const double* x, double* r) {
+    *r = __builtin_isinf(*x) ? *x * 0.0 : *x * *x;
+    return status_of(*x);
+  }
 };
 
 }  // namespace ork::trig

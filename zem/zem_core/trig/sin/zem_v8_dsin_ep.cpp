@@ -5,8 +5,6 @@
 
 namespace ork::trig {
 
-static int vdsin_cout_rare(const double* x, double* r) { return scalar<_dSin>(x, r); }
-
 // Sine, double, EP: modulo pi, see pi_kernel.hpp. Fast range |x| < 2^24. Bound 2^-26.
 struct SinEpD : Core<double> {
   static constexpr char name[] = "vdSin";
@@ -14,7 +12,7 @@ struct SinEpD : Core<double> {
     rare |= reaches<Sine::limit>(abs(x));
     return odd_sine<PiEpD>(reduce<Sine, PiEpD>(x));
   }
-  static int special(const double* x, double* r) { return vdsin_cout_rare(x, r); }
+  static int special(const double* x, double* r) { return scalar<_dSin>(x, r); }
 };
 
 }  // namespace ork::trig

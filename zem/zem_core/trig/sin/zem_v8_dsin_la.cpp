@@ -5,12 +5,6 @@
 
 namespace ork::trig {
 
-// What is finite has its result.
-static int vdsin_cout_rare(const double* x, double* r) {
-  *r = __builtin_isinf(*x) ? *x * 0.0 : *x * *x;
-  return status_of(*x);
-}
-
 // Sine, double, LA: modulo pi, see pi_kernel.hpp, below 2^24; from there on by the digits of
 // 1/(2 pi), see large.hpp. Bound 3.1 ulp.
 struct SinLaD : Core<double> {
@@ -22,7 +16,11 @@ struct SinLaD : Core<double> {
   static __attribute__((noinline)) f64x2 eval_rest(f64x2 x, f64x2 fast, u32x4& rare) {
     return replace_large<Sine::limit>(abs(x), fast, flip(large_sine(abs(x), 0), sign_of(x)), rare);
   }
-  static int special(const double* x, double* r) { return vdsin_cout_rare(x, r); }
+  // What is finite has its result.
+  static int special(const double* x, double* r) {
+    *r = __builtin_isinf(*x) ? *x * 0.0 : *x * *x;
+    return status_of(*x);
+  }
 };
 
 }  // namespace ork::trig

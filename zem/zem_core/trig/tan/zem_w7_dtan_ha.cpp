@@ -30,7 +30,7 @@ struct alignas(16) Stage {
 };
 
 // True if a lane is rare.
-ORK_INLINE bool _zemdTan_HA_Reduction(const double* a, int count, Stage& s) {
+ORK_INLINE bool reduce(const double* a, int count, Stage& s) {
   u32x4 any{};
   for (int i = 0; i < count; i += 2) {
     const f64x2 x = count - i >= 2 ? load(a + i) : load_part(a + i, 1);
@@ -46,7 +46,7 @@ ORK_INLINE bool _zemdTan_HA_Reduction(const double* a, int count, Stage& s) {
   return sign_mask<double>(any) != 0;
 }
 
-ORK_INLINE void _zemdTan_HA_Polynomial53(int count, Stage& s) {
+ORK_INLINE void short_terms(int count, Stage& s) {
   for (int i = 0; i < count; i += 2) {
     const f64x2 r = load_aligned(s.high + i), z = r * r;
     store_aligned(s.p + i, horner(z, double_ha_p2, double_ha_p3) * z);
@@ -61,7 +61,7 @@ ORK_INLINE long double choose(uint32_t odd, long double x, long double y) {
 }
 
 // Leaves the results in s.high.
-ORK_INLINE void _zemdTan_HA_Polynomial64(int count, Stage& s) {
+ORK_INLINE void extended_terms(int count, Stage& s) {
   for (int i = 0; i < count; ++i) {
     const long double r = (long double)s.high[i] + s.low[i], z = r * r;
     const long double rp = r + r * z * (double_ha_p1 + s.p[i]);
@@ -95,9 +95,9 @@ __attribute__((noipa)) void tangent(int n, const OperandsOf<TanHaD>& o) {
   Stage s;
   for (int first = 0; first < n; first += stage) {
     const int count = n - first < stage ? n - first : stage;
-    const bool rare = _zemdTan_HA_Reduction(o.in[0] + first, count, s);
-    _zemdTan_HA_Polynomial53(count, s);
-    _zemdTan_HA_Polynomial64(count, s);
+    const bool rare = reduce(o.in[0] + first, count, s);
+    short_terms(count, s);
+    extended_terms(count, s);
     if (__builtin_expect(rare, 0))
       store_mixed(s, o, first, count);
     else
