@@ -81,8 +81,9 @@ void digest_distribution(const Distribution& d) {
       for (const int32_t flag : {0, RUA_METHOD_ACCURATE}) {
         if (flag && d.methods > 1) continue;
         Stream stream(brng);
+        // Bits come in the generator's words, up to twice as long as a number.
         for (const int n : {3, 4 * kCount, 1, kCount})
-          add<uint8_t>(digest, int(d.bytes(n)), [&](int, uint8_t* r) {
+          add<uint8_t>(digest, 2 * int(d.bytes(n)), [&](int, uint8_t* r) {
             return d.kernel(method | flag, stream, n, r, d.sample);
           });
       }
