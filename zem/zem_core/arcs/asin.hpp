@@ -21,7 +21,7 @@ ORK_INLINE f64x2 root_estimate(f64x2 z) {
 }
 
 // 2 sqrt z = S (1 + w/2)^(-1/2) with S = 2 z rsqrt z, w = S rsqrt z - 2, |w| < 1.5e-3.
-// Degree 2 in w is good to 2^-33, degree 4 to 2^-53; both frozen.
+// Frozen: degree 2 in w is good to 2^-32.8 of the root, degree 4 to 2^-55.5, in single 2^-33.4.
 template <int degree>
 ORK_INLINE f64x2 twice_root(f64x2 twice_z, f64x2 estimate) {
   const f64x2 s = twice_z * estimate, w = s * estimate - 2.0;
@@ -50,7 +50,7 @@ ORK_INLINE f64x2 asin_poly(f64x2 y) {
       0.075000000004254969 + w * (c[3] + w * (c[5] + w * (c[7] + w * (c[9] + w * c[11]))));
   return even + y * odd;
 }
-// Degree 5 in y <= 1/4, frozen: relative error of asin 2^-28.
+// Degree 5 in y <= 1/4, frozen: relative error of asin 2^-30.8.
 ORK_INLINE f64x2 asin_poly_ep(f64x2 y) {
   const f64x2 w = y * y;
   return (0.16666656768980395 + y * 0.075006122693918847) +
@@ -66,7 +66,7 @@ ORK_INLINE f64x2 asin_poly_single(f64x2 y) {
   const f64x2 w = y * y;
   return (c[0] + w * (c[2] + w * c[4])) + y * (c[1] + w * (c[3] + w * c[5]));
 }
-// Degree 4 in y <= 1/4, frozen: relative error of asin 2^-27.
+// Degree 4 in y <= 1/4, frozen: relative error of asin 2^-26.7.
 ORK_INLINE f32x4 asin_poly(f32x4 y) {
   return 0.166667923f +
          y * (0.0749436766f + y * (0.0455576926f + y * (0.0238239374f + y * 0.0426903032f)));

@@ -37,8 +37,8 @@ ORK_INLINE f32x4 sasin_result(f32x4 k, u32x4 outer) {
   return k * f + and_bits(splat(1.57079637f), outer);
 }
 
-// v + v S(z) with v = sqrt z by rsqrt and one Newton step; relative error 2^-12.
-// S is frozen, of degree 2, for z <= 1/4.
+// v + v S(z), z <= 1/4, with v = sqrt z by rsqrt and one Newton step. S is frozen, of degree 2:
+// relative error of asin 2^-14.7.
 ORK_INLINE f32x4 sasin_ep(f32x4 z, f32x4 a, u32x4 outer) {
   const f32x4 y = and_bits(rsqrt_est(z), outer), s = z * y;  // of 0 it is infinite
   const f32x4 v = select(outer, (s * y - 3.0f) * (-0.5f * s), a);

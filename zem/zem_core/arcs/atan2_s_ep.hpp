@@ -1,6 +1,7 @@
 #pragma once
 // Atan2, single, EP: t = -|x|/|y| for |x| <= |y|, else |y|/|x|, by rcp and a Newton step;
-// t P(t^2) plus pi/2 or 0, from pi for x < 0, with the sign of y. Constants: frozen.
+// t P(t^2) plus pi/2 or 0, from pi for x < 0, with the sign of y.
+// P is frozen, of degree 3: relative error of atan 2^-12.1 on [0, 1].
 // Fast range: |x| and |y| above 2^-125 and below 1.06e37; beyond it fpatan. Bound: 2^-12.
 #include "arcs/atan2.hpp"
 

@@ -30,7 +30,7 @@ ORK_INLINE f64x2 atan_break(f64x2 a, f64x2& high, f64x2& low) {
   return _mm_and_pd(b, _mm_cmple_pd(splat(0.125), a));
 }
 
-// t z Q(z) = atan t - t for |t| <= 0.125. Constants: frozen, relative error of atan 2^-58.
+// t z Q(z) = atan t - t for |t| <= 0.125. Q is frozen, of degree 6: relative error of atan 2^-61.8.
 ORK_INLINE f64x2 atan_tail(f64x2 t) {
   const f64x2 z = t * t;
   return t * (z * (-0.3333333333333333 +
@@ -41,7 +41,7 @@ ORK_INLINE f64x2 atan_tail(f64x2 t) {
                                        z * (0.07683539769703819 + z * -0.06313688776899645)))))));
 }
 
-// t P(t^2) for |t| <= 1, relative error 2^-28. Constants: frozen.
+// t P(t^2) for |t| <= 1. P is frozen, of degree 9: relative error 2^-28.6.
 ORK_INLINE f64x2 atan_ep(f64x2 t) {
   const f64x2 z = t * t, w = z * z, v = w * w;
   const f64x2 p01 = 0.99999999759644054 + z * -0.33333283021381682;

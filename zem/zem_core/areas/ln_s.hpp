@@ -31,7 +31,8 @@ ORK_INLINE f64x2 ln_short(f64x2 y) {
 }
 
 // ln(1 + u) for 0 <= u < 2^100 in single: s + e = 1 + u, s = 2^k m, m in [2/3, 4/3),
-// v = (m - 1) + e 2^-k; ln = k ln 2 + (v + v^2 q(v)). Constants of LA: frozen, those of Ln HA.
+// v = (m - 1) + e 2^-k; ln = k ln 2 + (v + v^2 q(v)). q of LA is frozen, that of Ln HA:
+// ln(1 + v) to 2^-28.7 for |v| <= 1/3.
 template <bool ep>
 ORK_INLINE f32x4 log1p_s(f32x4 u) {
   const f32x4 s = 1.0f + u;

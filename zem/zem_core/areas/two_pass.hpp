@@ -35,7 +35,7 @@ ORK_INLINE uint16_t exponent_of(const Extended& e) {
 }
 
 // ln y = k ln 2 + T_j + ln(1 + r), r = y 2^-k c_j - 1, 0 <= r < 2^-8 but for the rounding of c.
-// Constants: frozen, absolute error 2^-70.
+// p is frozen: ln(1 + r) by degree 6, off by at most 2^-69.1.
 ORK_INLINE long double ln_extended(const Extended& e) {
   const double* const row = log_rows_d[mantissa_of(e) >> 23 & 0xFF];
   const int k = exponent_of(e) - 0x3FFF;

@@ -1,5 +1,6 @@
 // Asin, single, LA: v = a, z = a^2 below 0.5; z = (1 - a)/2, v = sqrt z above;
-// K = v + v S(z); the result is K or pi/2 - 2 K with the sign of x. S is frozen.
+// K = v + v S(z); the result is K or pi/2 - 2 K with the sign of x.
+// S is frozen, of degree 5 for z <= 1/4: relative error of asin 2^-27.2.
 // Rare: |x| >= 1, NaN. Bound: 2.5 ulp.
 #include "arcs/asin_s.hpp"
 #include "frame/block.hpp"

@@ -1,6 +1,6 @@
 // Atan, single, EP: t P(t^2) with t = |x| below 1, else t = -rcp |x| and pi/2 added; the sign
 // of x. No lane is rare: an infinity gives t = -0, a NaN flows through.
-// P has relative error 3e-5 on [0, 1]; constants: frozen. Bound: 2^-12.
+// P is frozen, of degree 4: relative error of atan 3.2e-5 on [0, 1]. Bound: 2^-12.
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 

@@ -1,6 +1,7 @@
 // Atan, single, LA: t P(t^2) with t = |x| below 1, else t = y (|x| y - 2), y = rcp |x|: -1/|x|
 // by one Newton step, and pi/2 added; the sign of x.
-// Rare: infinities alone. P is frozen. Bound: 3.6 ulp: rcp squared is 2^-23.
+// P is frozen, of degree 8: relative error of atan 2^-23.9 on [0, 1].
+// Rare: infinities alone. Bound: 3.6 ulp: rcp squared is 2^-23.
 #include "frame/block.hpp"
 #include "ork/zem_kernels.h"
 

@@ -49,7 +49,7 @@ ORK_INLINE f64x2 erf_value(f64x2 x, const ErfReduced& r, f64x2 p) {
   return or_bits(e + (q + q * p), as<u64x2>(x) & sign_f64x2);
 }
 
-// Coefficients of EP: frozen, relative error of the result below 2^-29.
+// P at EP, frozen: relative error of the result below 2^-29.
 ORK_INLINE f64x2 erf_short(const ErfReduced& r) {
   return r.e * (-1.0000014305126206 + r.e * 0.66666781107678186) +
          r.g * (-0.33333504994947405 + r.e * 0.5000019073510884);

@@ -1,5 +1,5 @@
 // Expm1, double, EP: p of degree 3, |r| <= ln 2/256; ln 2/128 and 2^(n/128) in one word.
-// Relative error r^3/24 <= 2^-30. Fast range: |x| <= 707.703. p is frozen.
+// p is frozen: relative error r^3/24 <= 2^-30.1. Fast range: |x| <= 707.703.
 #include "common/exp_tables.hpp"
 #include "exponentials/expm1/expm1.hpp"
 

@@ -1,6 +1,6 @@
 // Expm1, double, HA: p of degree 5, |r| <= ln 2/256, and a compensated sum.
 // r = u_hi + u_lo - v0, u_hi of 26 bits, so that S_hi u_hi is exact; n = 0 keeps u_hi = x.
-// Fast range: |x| <= 707.703. The polynomial is frozen.
+// Fast range: |x| <= 707.703. p is frozen: off by at most 2^-64.7.
 #include "exponentials/expm1/expm1.hpp"
 
 namespace ork {

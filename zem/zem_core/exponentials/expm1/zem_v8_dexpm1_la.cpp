@@ -1,5 +1,5 @@
 // Expm1, double, LA: p of degree 5, |r| <= ln 2/256; A = (S_hi - 1) + S_lo, then A + (A + 1) p.
-// Fast range: |x| <= 707.703. The polynomial is frozen.
+// Fast range: |x| <= 707.703. p is frozen: off by at most 2^-64.7.
 #include "exponentials/expm1/expm1.hpp"
 
 namespace ork {

@@ -1,6 +1,6 @@
 // Expm1, single, HA: N = 64, e^r - 1 - r of degree 3, |r| <= ln 2/128, and a compensated sum.
 // r = u_hi + u_lo - v0, u_hi of 12 bits, so that S_hi u_hi is exact; n = 0 keeps u_hi = x.
-// Fast range: |x| <= 86.6433945. The polynomial is frozen.
+// Fast range: |x| <= 86.6433945. The polynomial is frozen: off by at most 2^-36.6.
 #include "base/round.hpp"
 #include "exponentials/expm1/expm1.hpp"
 

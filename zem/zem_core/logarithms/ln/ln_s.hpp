@@ -1,6 +1,7 @@
 #pragma once
 // Ln, single, V8: p = u + u^2 q(u), u in [-1/3, 1/3); a level gives q and adds k ln 2.
-// Fast range: positive normal numbers; beyond it ln_rare. Constants: frozen.
+// Fast range: positive normal numbers; beyond it ln_rare.
+// The coefficients are frozen; a level names the worst error of p, at |u| = 1/3.
 #include "frame/chunk.hpp"
 #include "logarithms/log_rare.hpp"
 #include "logarithms/log_s.hpp"

@@ -3,7 +3,7 @@
 namespace ork {
 namespace {
 
-// p of degree 4.
+// p of degree 4: 2^-12.2, relative 2^-10.9.
 struct Ep {
   static constexpr float q[] = {-0.5f, 0.352845669f, -0.267846942f};
   static f32x4 sum(f32x4 p, f32x4 k) { return p + k * 0.693147182f; }

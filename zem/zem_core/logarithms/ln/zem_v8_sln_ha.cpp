@@ -3,7 +3,7 @@
 namespace ork {
 namespace {
 
-// p of degree 10, ln 2 in two parts.
+// p of degree 10: 2^-28.7, relative 2^-27.4. ln 2 in two parts.
 struct Ha {
   static constexpr float q[] = {-0.5f,         0.333332151f, -0.249997973f,
                                 0.200104058f,  -0.16680488f, 0.140058696f,

@@ -3,7 +3,8 @@
 namespace ork {
 namespace {
 
-// Base e. Constants: frozen; log_2 is short, the row of m = 2 holds the same number.
+// Base e. ln(1 + u) by degree 2, frozen: off by at most 2^-28.5. log_2 is short; the row of m = 2
+// holds the same number.
 struct Natural {
   static constexpr char name[] = "vdLn";
   static constexpr double log_2 = 0.6931471805601177;

@@ -3,7 +3,8 @@
 namespace ork {
 namespace {
 
-// Base 10. Constants: frozen; log_2 is short, the row of m = 2 holds the same number.
+// Base 10. log10(1 + u) by degree 2, frozen: off by at most 2^-29.7. log_2 is short; the row of
+// m = 2 holds the same number.
 struct Decimal {
   static constexpr char name[] = "vdLog10";
   static constexpr double log_2 = 0.30102999566406652;

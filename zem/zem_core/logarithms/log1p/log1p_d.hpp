@@ -9,7 +9,8 @@
 
 namespace ork {
 
-// The polynomials of the levels. Constants: frozen; fits of ln(1 + v), |v| < 2^-9.5.
+// The polynomials of the levels, frozen: ln(1 + v) for |v| < 2^-9.5, to 2^-61.7 by degree 5, to
+// 2^-39.9 by degree 3.
 ORK_INLINE f64x2 log1p_degree5(f64x2 v) {  // v^2 (...): ln(1 + v) - v
   const f64x2 v2 = v * v;
   return v2 * ((-0.49999999999988803 + 0.33333333333308374 * v) +

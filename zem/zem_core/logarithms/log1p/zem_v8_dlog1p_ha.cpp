@@ -5,7 +5,7 @@ namespace ork {
 namespace {
 
 // HA: p of degree 5; two-word ln 2 and table, sums with their errors kept. K is the biased
-// exponent: the rows hold -1023 ln 2, too. Constants: frozen.
+// exponent: the rows hold -1023 ln 2, too.
 struct Log1pHa {
   alignas(16) static constexpr double rows[][2] = {
 #include "logarithms/log1p/rows_d_ha.inc"

@@ -1,7 +1,7 @@
 // Log1p, single, HA: s + e = 1 + x, s of 16 bits unless x is small; m in [2^-8, 2^-7), c the
 // integer next to rcpps(m), r = m c - 1 exact, v = r + e c; ln(1 + x) = K ln 2 + L(c) +
 // v + p(v), p of degree 3, |v| < 2^-7.8, with the errors of the sums kept.
-// Fast range: -1 < x <= 2^118. Constants: frozen.
+// p is frozen: off by at most 2^-34.6. Fast range: -1 < x <= 2^118.
 #include "base/pair.hpp"
 #include "base/round.hpp"
 #include "logarithms/log1p/log1p_s.hpp"
