@@ -1,5 +1,5 @@
-// CdfNorm, double, EP: steps of 1/64. P is frozen, degree 7 in e and g times degree 3: relative error
-// of the result 2^-31.4, in the far tail.
+// CdfNorm, double, EP: steps of 1/64. P is frozen, degree 7 in e and g times degree 3: relative
+// error of the result 2^-31.4, in the far tail.
 #include "error_functions/cdfnorm/cdfnorm.hpp"
 
 namespace ork {
