@@ -121,6 +121,7 @@ int ork_iRngBernoulli(int method, RuaStream* stream, int n, int32_t* r, double p
  * precision. So values beyond 2^24 are multiples of powers of two, and those that a small p
  * leads beyond int32_t come as INT32_MIN. Range: p > 0, p < 1. */
 int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r, double p);
+int ork_iRngBinomial(int method, RuaStream* stream, int n, int32_t* r, int32_t ntrial, double p);
 
 
 #ifdef __cplusplus

@@ -157,7 +157,8 @@ int32_t _ruasRngGaussianMV(int32_t method, RuaStream* stream, int32_t n, float* 
                            int32_t mstorage, const float* a, const float* t);
 
 /* ---- Discrete distributions ---------------------------------------------------------------- *
- * Integers. None of these functions reads `method`. */
+ * Integers. None of these functions reads `method`. By rejection, how many uniform numbers an
+ * output takes varies, and calls in pieces give other numbers than one long call. */
 
 /* From a to b - 1: floors of uniform numbers in double. Where b - a is not a power of two,
  * values differ in probability by one step of the generator. A generator whose number can round
@@ -185,6 +186,15 @@ int32_t _ruaiRngBernoulli(int32_t method, RuaStream* stream, int32_t n, int32_t*
  * precision. So values beyond 2^24 are multiples of powers of two, and those that a small p
  * leads beyond int32_t come as INT32_MIN. Range: p > 0, p < 1. */
 int32_t _ruaiRngGeometric(int32_t method, RuaStream* stream, int32_t n, int32_t* r, double p);
+
+/* Successes among ntrial trials of probability p, from 0 to ntrial. While ntrial min(p, 1 - p)
+ * is below 30 by a table of sums of probabilities, a double uniform number each; from there on
+ * by rejection, pairs of single ones (Kachitvichyanukul, Schmeiser 1988: BTPE). For p of 1/2
+ * and above failures are drawn; after a failed draw r holds their numbers. Set-ups stay with
+ * the stream, in chunk 5, until ntrial or p changes. NO_MEMORY: the chunk could not be made;
+ * BAD_GENERATOR: it is too short. Range: ntrial >= 0, p >= 0, p <= 1. */
+int32_t _ruaiRngBinomial(int32_t method, RuaStream* stream, int32_t n, int32_t* r, int32_t ntrial,
+                         double p);
 
 #ifdef __cplusplus
 }

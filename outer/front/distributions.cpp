@@ -110,3 +110,6 @@ ORK_OUTER int ork_iRngBernoulli(int method, RuaStream* stream, int n, int32_t* r
 ORK_OUTER int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r, double p) {
   return draw(_ruaiRngGeometric, 1, p > 0 && p < 1, true, method, stream, n, r, p);
 }
+ORK_OUTER int ork_iRngBinomial(int method, RuaStream* stream, int n, int32_t* r, int32_t ntrial, double p) {
+  return draw(_ruaiRngBinomial, 1, ntrial >= 0 && p >= 0 && p <= 1, true, method, stream, n, r, ntrial, p);
+}

@@ -45,11 +45,32 @@ inline DiscreteLaw geometric(double p) {
           [=](int64_t k) { return k * log1pl(-p) + logl(p); }};
 }
 
+inline DiscreteLaw binomial(int32_t n, double p, bool coarse = false) {
+  return {"binomial " + std::to_string(n) + " " + std::to_string(p),
+          [=](auto* s, auto m, auto* r) { return _ruaiRngBinomial(0, s, m, r, n, p); },
+          0,
+          std::min(n, int32_t(floorl((n + real(1)) * p))),
+          n,
+          [=](int64_t k) {
+            return ln_factorial(n) - ln_factorial(k) - ln_factorial(n - k) + k * logl(p) +
+                   (n - k) * log1pl(-p);
+          },
+          coarse};
+}
+
 // Every method at its borders, and far away.
 inline std::vector<DiscreteLaw> all_discrete() {
   std::vector<DiscreteLaw> laws = {uniform(0, 100), uniform(-12, -3), bernoulli(0.3),
                                    bernoulli(0.99), geometric(0.3),   geometric(0.999),
                                    geometric(1e-3)};
+  for (const double p : {0.3, 0.5, 0.7}) laws.push_back(binomial(10, p));
+  for (const double product : {29.99, 30.0})
+    for (const int n : {60, 100, 1000000})
+      for (const double p : {product / n, 1 - product / n}) laws.push_back(binomial(n, p));
+  laws.push_back(binomial(300, 0.5));
+  laws.push_back(binomial(1000, 0.1));
+  laws.push_back(binomial(1000000, 0.3));
+  laws.push_back(binomial(1000000000, 0.5, true));
   return laws;
 }
 
