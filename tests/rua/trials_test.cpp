@@ -24,10 +24,27 @@ std::ostream& operator<<(std::ostream& out, const Binomial& b) {
 // Both methods at their border and mirrored; tables that end at ntrial; ratios that reach as far as
 // they are needed, and bounds beyond them; parameters where single precision is coarse.
 const Binomial kCases[] = {
-    {10, 0.3},      {10, 0.5},        {10, 0.7},      {1, 0.5},     {0, 0.5},       {5, 0},
-    {5, 1},         {60, 29.99 / 60}, {60, 0.5},      {100, 0.3},   {100, 0.7},     {1000000, 3e-5},
-    {1000000, 0.3}, {170, 0.5},       {90, 0.5},      {88, 0.5},    {2147483647, 1.39e-8},
-    {2000, 0.02},   {1000000, 2e-4},  {1000000000, 0.5}, {2147483647, 0.5},
+    {10, 0.3},
+    {10, 0.5},
+    {10, 0.7},
+    {1, 0.5},
+    {0, 0.5},
+    {5, 0},
+    {5, 1},
+    {60, 29.99 / 60},
+    {60, 0.5},
+    {100, 0.3},
+    {100, 0.7},
+    {1000000, 3e-5},
+    {1000000, 0.3},
+    {170, 0.5},
+    {90, 0.5},
+    {88, 0.5},
+    {2147483647, 1.39e-8},
+    {2000, 0.02},
+    {1000000, 2e-4},
+    {1000000000, 0.5},
+    {2147483647, 0.5},
 };
 
 class TrialsTest : public RuaTest {

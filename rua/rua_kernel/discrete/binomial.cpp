@@ -73,8 +73,8 @@ ORK_EXPORT int32_t _ruaiRngBinomial(int32_t, RuaStream* stream, int32_t n, int32
     kept->ntrial = ntrial;
     kept->p = p;
   }
-  const int32_t status = by_hat ? binomial_by_hat(stream, n, r, kept->hat)
-                                : by_sums(stream, n, r, ntrial, q, *kept);
+  const int32_t status =
+      by_hat ? binomial_by_hat(stream, n, r, kept->hat) : by_sums(stream, n, r, ntrial, q, *kept);
   if (status < 0 || !mirrored) return status;
   for (int32_t i = 0; i < n; ++i) r[i] = ntrial - r[i];
   return status;

@@ -9,14 +9,14 @@ namespace ork::rua {
 // Of the hat of four regions: parallelograms around the mode, exponential tails. All in single
 // precision, as are the candidates.
 struct BinomialHat {
-  float n, npq, s, a;              // s = q / (1 - q), a = (n + 1) s: f(i) / f(i - 1) = a / i - s
-  float mode, xm, xl, xr, p1, c;   // xm = mode + 1/2; half the width p1; the second region's height
-  float p2, p3, p4;                // areas up to the second, third, fourth region
-  float cut0, cut1, cut2;          // where each region ends, over p4
-  float left, right;               // slopes of the tails
-  float stirling;                  // of the mode's two factorials
-  float near;                      // from the mode the ratios decide up to here
-  Ratios<32> ratios;               // f(mode + k) / f(mode)
+  float n, npq, s, a;             // s = q / (1 - q), a = (n + 1) s: f(i) / f(i - 1) = a / i - s
+  float mode, xm, xl, xr, p1, c;  // xm = mode + 1/2; half the width p1; the second region's height
+  float p2, p3, p4;               // areas up to the second, third, fourth region
+  float cut0, cut1, cut2;         // where each region ends, over p4
+  float left, right;              // slopes of the tails
+  float stirling;                 // of the mode's two factorials
+  float near;                     // from the mode the ratios decide up to here
+  Ratios<32> ratios;              // f(mode + k) / f(mode)
 };
 
 // Chunk 5: what the last call worked out.

@@ -13,7 +13,8 @@ namespace {
 
 constexpr int32_t kPairs = 512;
 
-// What ln t! has beyond (t - 1/2) ln t - t and a constant, for t = k + 1; below 1e-9 off from 15 on.
+// What ln t! has beyond (t - 1/2) ln t - t and a constant, for t = k + 1; below 1e-9 off from 15
+// on.
 float stirling_rest(float t) {
   const float t2 = t * t;
   return 1 / t *
@@ -96,7 +97,7 @@ void test_far(const BinomialHat& h, int32_t m, uint16_t* far, const Rest& rest, 
     const f32x4 kk = abs(load(k + i)), l = load(ln_v + i);
     const f32x4 middle = -(0.5f * kk) * kk * w;
     const f32x4 width = kk * w * (((kk * 0.33333334f + 0.625f) * kk + 0.16666667f) * w + 0.5f);
-    const auto in = kk < bounded, below = l < middle - width, above = l > middle + width;
+    const auto in = kk < bounded, below = l<middle - width, above = l> middle + width;
     store(accepted + i, as<f32x4>(in & below));
     return ~(in & (below | above));
   });
@@ -120,7 +121,8 @@ void candidates_of(const BinomialHat& h, int32_t m, const float* pairs, int32_t*
   const int32_t others = list_places(m, rest.place, [&](int32_t i) {
     const f32x4 a = load(pairs + 2 * i), b = load(pairs + 2 * i + 4);
     const f32x4 u = evens(a, b), v = odds(a, b);
-    _mm_store_si128(reinterpret_cast<__m128i*>(y + i), _mm_cvttps_epi32(h.xm - h.p1 * v + u * h.p4));
+    _mm_store_si128(reinterpret_cast<__m128i*>(y + i),
+                    _mm_cvttps_epi32(h.xm - h.p1 * v + u * h.p4));
     return u > h.cut0;
   });
   if (others == 0) return;
@@ -173,9 +175,9 @@ BinomialHat binomial_hat(int32_t ntrial, double q, double other) {
 }
 
 int32_t binomial_by_hat(RuaStream* stream, int32_t n, int32_t* r, const BinomialHat& h) {
-  return accept_of_pairs<kPairs, 0>(
-      stream, n, r,
-      [&](int32_t m, const float* pairs, int32_t* y) { candidates_of(h, m, pairs, y); });
+  return accept_of_pairs<kPairs, 0>(stream, n, r, [&](int32_t m, const float* pairs, int32_t* y) {
+    candidates_of(h, m, pairs, y);
+  });
 }
 
 }  // namespace ork::rua
