@@ -47,19 +47,22 @@ inline void run_team(const ork_threader* threader, int threads, F f) {
 }
 
 // f(item, thread) as run_items() does; after it, and after those of all lower items,
-// in_order(item, thread).
+// in_order(item, thread), where there is something to be done `ordered`.
 template <class F, class G>
-inline void run_in_order(const ork_threader* threader, int items, int threads, F f, G in_order) {
+inline void run_in_order(const ork_threader* threader, int items, int threads, F f, G in_order,
+                         bool ordered = true) {
   struct Context {
     const ork_threader* threader;
     F& f;
     G& in_order;
-  } context{threader, f, in_order};
+    bool ordered;
+  } context{threader, f, in_order, ordered};
   if (threads > 1)
     threader->ordered_for(
         items, threads, &context, [](int item, int thread, int third, void* words) ORK_BODY {
           const Context& c = *static_cast<Context*>(words);
           c.f(item, thread);
+          if (!c.ordered) return;
           c.threader->ordered(item, thread, third, words,
                               [](int own_item, int own_thread, int, void* same) ORK_BODY {
                                 static_cast<Context*>(same)->in_order(own_item, own_thread);
@@ -68,7 +71,7 @@ inline void run_in_order(const ork_threader* threader, int items, int threads, F
   else
     for (int item = 0; item < items; ++item) {
       f(item, 0);
-      in_order(item, 0);
+      if (ordered) in_order(item, 0);
     }
 }
 

@@ -494,6 +494,41 @@ int32_t _ruadSSPartialCovariance(ork_ss_task* task, uint32_t estimates_low, uint
 int32_t _ruasSSPartialCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
                                  uint32_t method_low);
 
+/* POOLED_COV and GROUP_COV, by ONE_PASS: mean and covariance within groups, observation i being of
+ * the group groupIndex[i]. With W, W2 of each group, S its sum of w (x - mean)(x - mean)' about
+ * its own mean:
+ *
+ *   group      mean, S / (W - W2 / W); written where groupRequest holds 1 for the group, p means
+ *              and one matrix for each of these, one behind the other
+ *   pooled     sum W mean / sum W, sum S / sum (W - W2 / W), sums over the groups
+ *
+ * Groups are 0 to the greatest number in groupIndex, and groupRequest, when not null, is as long.
+ * A group that no observation has, or none but with weight 0, counts for nothing in the pool; its
+ * own mean and covariance, if asked for, are 0, as is a covariance whose divisor is 0 (that of one
+ * observation). An observation of weight 0 is not read. With a variable mask, packed matrices hold
+ * the triangle of the selected variables alone, at the start of the room of p (p + 1) / 2 values
+ * that each matrix has; full ones and means leave the places of the others as they were.
+ *
+ * Observations are sorted by group first (4 (n + groups) bytes), so time does not grow with
+ * groups times observations. In row storage, though, a cache line is read for each group that
+ * has a member in it: where groups alternate, columns are faster. From p = 11 on groups run on
+ * the threads of the table; p (p + 1) numbers of the next wider type and 256 p reals are taken for
+ * each, and p (p + 1) for the pool. Results do not depend on the number of threads. Below 200001
+ * observations a group's scatter comes from sums about an origin near its mean, from there on from
+ * updates of the running mean; both differ in rounding only.
+ *
+ * Statuses in their order: storageFormat null -4044, unknown -4003; groupIndex -4030; for
+ * POOLED_COV its storage -4044, pooledCov -4034, pooledMean -4035; for GROUP_COV its storage -4044,
+ * groupRequest -4030, groupCov -4036, groupMeans -4037; method -4029; a group number below 0 or
+ * above 2^31 - 2, then a request that is neither 0 nor 1, asked for or not, -4038; memory -4000.
+ * On failure nothing is written. p, n and observations are not checked. */
+int32_t _ruadSSPooledCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                uint32_t method_low, uint32_t method_high,
+                                const ork_threader* threader);
+int32_t _ruasSSPooledCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                uint32_t method_low, uint32_t method_high,
+                                const ork_threader* threader);
+
 #ifdef __cplusplus
 }
 #endif

@@ -27,6 +27,7 @@ struct Api;
     static constexpr auto basic = _rua##t##SSBasic;                       \
     static constexpr auto minmax = _rua##t##SSMinmax;                     \
     static constexpr auto partial = _rua##t##SSPartialCovariance;         \
+    static constexpr auto pooled = _rua##t##SSPooledCovariance;           \
     static constexpr auto quantiles = _rua##t##SSQuantiles;               \
     static constexpr auto stream = _rua##t##SSStreamQuantiles;            \
     static constexpr auto deviations = _rua##t##SSMAD;                    \

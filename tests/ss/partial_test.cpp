@@ -1,6 +1,7 @@
 // Partial covariance and correlation against quadruple precision.
 #include <quadmath.h>
 
+#include "ss/matrices.hpp"
 #include "ss/statistics.hpp"
 
 namespace {
@@ -10,23 +11,6 @@ template <class R>
 struct StatisticsPartial : ::testing::Test {};
 typedef ::testing::Types<double, float> RealTypes;
 TYPED_TEST_SUITE(StatisticsPartial, RealTypes);
-
-constexpr int kStorages[] = {ORK_SS_FULL, ORK_SS_LOWER_PACKED, ORK_SS_UPPER_PACKED};
-
-int size_of(int storage, int p) { return storage == ORK_SS_FULL ? p * p : p * (p + 1) / 2; }
-// Where (i, j) stands, j <= i: packed triangles are counted element by element.
-int place(int storage, int p, int i, int j) {
-  if (storage == ORK_SS_FULL) return i * p + j;
-  int k = 0;
-  for (int row = 0; row < p; ++row)
-    for (int column = 0; column < p; ++column) {
-      const bool lower = storage == ORK_SS_LOWER_PACKED;
-      if (lower ? column > row : column < row) continue;
-      if (row == (lower ? i : j) && column == (lower ? j : i)) return k;
-      ++k;
-    }
-  return -1;
-}
 
 // A matrix well away from singular; unlike variances.
 template <class R>

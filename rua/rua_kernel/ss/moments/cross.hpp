@@ -21,9 +21,11 @@ constexpr uint64_t cross_scratch(int p) {
   return uint64_t(2 * kChunk) * cross_stride<R>(p);
 }
 
-// s[k][j] += scaled_j distance_k, j <= k, for each observation in order.
-template <class R>
-__attribute__((noinline)) void add_cross_products(int p, int count, const R* distance, R* s) {
+// s[k][j] += scaled_j distance_k, j <= k, for each observation in order. Sums of a wider type take
+// in the sum of the chunk, as one.
+template <class R, class Sum>
+__attribute__((noinline)) void add_cross_products(int p, int count, const R* distance, Sum* s) {
+  constexpr bool apart = sizeof(Sum) > sizeof(R);
   typedef vec_of<R> V;
   constexpr int width = simd<R>::width, columns = 2 * width;
   const int stride = cross_stride<R>(p);
@@ -38,7 +40,7 @@ __attribute__((noinline)) void add_cross_products(int p, int count, const R* dis
       };
       for (auto& row : tile)
         for (R& value : row) value = 0;
-      each([](R& t, R& value) { t = value; });
+      if constexpr (!apart) each([](R& t, R& value) { t = value; });
       V a = load(tile[0]), b = load(tile[0] + width);
       V c = load(tile[1]), d = load(tile[1] + width);
       const R *u = scaled + j, *v = distance + k;
@@ -52,7 +54,7 @@ __attribute__((noinline)) void add_cross_products(int p, int count, const R* dis
       }
       store(tile[0], a), store(tile[0] + width, b);
       store(tile[1], c), store(tile[1] + width, d);
-      each([](R& t, R& value) { value = t; });
+      each([](R t, Sum& value) { value = apart ? value + t : t; });
     }
 }
 

@@ -42,4 +42,27 @@ inline void put_matrix(const Task<R>& t, const Symmetric<R>& to, Value value) {
     if (t.selected(i)) to.set(i, i, value(i, i));
 }
 
+// The same for storage that closes up: a packed triangle is that of the selected variables alone.
+// value must not read what is written.
+template <class R, class Value>
+inline void put_selected(const Task<R>& t, const Symmetric<R>& to, Value value) {
+  Symmetric<R> closed = to;
+  if (!to.full()) {
+    closed.p = 0;
+    for (int i = 0; i < to.p; ++i) closed.p += t.selected(i);
+  }
+  for (int i = 0, row = 0; i < to.p; ++i) {
+    if (!t.selected(i)) continue;
+    for (int j = 0, column = 0; j <= i; ++j) {
+      if (!t.selected(j)) continue;
+      if (to.full())
+        to.set(i, j, value(i, j));
+      else
+        closed.at(row, column) = value(i, j);
+      ++column;
+    }
+    ++row;
+  }
+}
+
 }  // namespace ork::ss
