@@ -112,19 +112,25 @@ int ork_stream_load(RuaStream** stream, const char* file);
 
 /* Distributions: ork_dRngGaussian and the others of front_distributions.h. */
 
-/* ---- Statistics ---------------------------------------------------------------------------
- *
- * Computes the estimates (a mask of bits of ss.h) of a task made by __ruadSSNewTask or
- * __ruasSSNewTask, each by the method bits that serve it: moments, sums and matrices first, then
- * extremes, quantiles, deviations. QUANTILES by STREAM or STREAM_ADD are the streaming ones.
- * threader null: one thread.
+/* ---- Statistics --------------------------------------------------------------------------- */
+
+/* Computations that have no estimate bit in ss.h: bits beside those, for ork_ss_compute alone. */
+#define ORK_SS_REPAIRED_COR (1ull << 40) /* paramCorrelation from cor, by SPECTRAL */
+
+/* Computes the estimates (a mask of bits of ss.h and of those above) of a task made by
+ * __ruadSSNewTask or __ruasSSNewTask, each by the method bits that serve it, in this order:
+ * moments, sums and matrices; extremes; quantiles; deviations; pooled and group covariance; partial
+ * covariance; repair. So the last two may start from a covariance or correlation of the same call.
+ * QUANTILES by STREAM or STREAM_ADD are the streaming ones. threader null: one thread.
  *
  * Before anything is computed: NULL_TASK; BAD_METHOD for an estimate that no method bit serves;
  * then for each computation BAD_DIMENSION, BAD_OBSERVATION_COUNT, NULL_OBSERVATIONS, NULL_STORAGE,
- * and a number of quantile orders that is negative. Numbers of a task with 64-bit integers must fit
- * 32 bits. From sums (FROM_SUMS) no observations are needed; streaming quantiles take n = 0, no new
- * values. After that the first failing computation's status: what ran before it stands. Whether an
- * array is as long as these numbers say cannot be checked. */
+ * and a number of quantile orders that is negative; then the status of the first array, storage
+ * code or parameter that is null and needed, moments last. Numbers of a task with 64-bit integers
+ * must fit 32 bits. From sums (FROM_SUMS), and by partial covariance and repair, no observations
+ * are needed; streaming quantiles take n = 0, no new values. After that the first failing
+ * computation's status: what ran before it stands. Whether an array is as long as these numbers
+ * say cannot be checked. */
 int ork_ss_compute(ork_ss_task* task, uint64_t estimates, uint64_t method,
                    const ork_threader* threader);
 
