@@ -180,6 +180,88 @@ TYPED_TEST(Repair, MatchesJacobiInEveryStorageAndInPlace) {
         }
 }
 
+// The nearest correlation matrix by alternating projections (N. J. Higham, IMA J. Numer. Anal. 22,
+// 2002): onto positive semidefinite matrices, with Dykstra's correction, and onto those with a
+// diagonal of 1.
+Square nearest(int p, const Square& cor) {
+  Square y = cor, correction(p * p, 0);
+  for (int k = 0; k < 3000; ++k) {
+    Square r(p * p), values(p * p), x(p * p, 0);
+    for (int i = 0; i < p * p; ++i) values[i] = r[i] = y[i] - correction[i];
+    const Square v = jacobi(p, values);
+    for (int i = 0; i < p; ++i)
+      for (int j = 0; j < p; ++j)
+        for (int e = 0; e < p; ++e)
+          x[i * p + j] += std::max(values[e * p + e], Wide(0)) * v[e * p + i] * v[e * p + j];
+    Wide moved = 0;
+    for (int i = 0; i < p * p; ++i) {
+      correction[i] = x[i] - r[i];
+      const Wide next = i % (p + 1) == 0 ? Wide(1) : x[i];
+      moved = std::max(moved, fabsl(next - y[i]));
+      y[i] = next;
+    }
+    if (moved < 1e-12L) break;
+  }
+  return y;
+}
+
+// How far the repair goes, beside the nearest correlation matrix. Higham's paper prints the
+// nearest to his two: 0.7607 and 0.1573; -0.8084, 0.1916, 0.1068 and -0.6562.
+TEST(RepairDistance, BesideTheNearestCorrelationMatrix) {
+  const struct {
+    const char* source;
+    int p;
+    Square below;              // row after row
+    double nearest, repaired;  // distances, Frobenius norm
+    Square printed;            // first elements of the nearest one, row after row
+  } matrices[] = {
+      {"Higham 2002, 3 x 3", 3, {1, 0, 1}, 0.5278, 0.5376, {0.7607, 0.1573, 0.7607}},
+      {"Higham 2002, 4 x 4",
+       4,
+       {-1, 0, -1, 0, 0, -1},
+       0.7435,
+       0.7691,
+       {-0.8084, 0.1916, -0.6562, 0.1068, 0.1916, -0.8084}},
+      {"Rebonato, Jaeckel 1999", 3, {0.9, 0.7, 0.3}, 0.0097, 0.01, {}},
+      {"Turkay, Epperlein, Christofides 2003",
+       4,
+       {-0.55, -0.15, 0.9, -0.1, 0.9, 0.9},
+       0.0374,
+       0.0393,
+       {}},
+      {"Knol, ten Berge 1989",
+       6,
+       {0.477, 0.644, 0.516, 0.478, 0.233, 0.599, 0.651, 0.682, 0.581, 0.741, 0.826, 0.75, 0.742,
+        0.8, 0.798},
+       0.0743,
+       0.0839,
+       {}},
+  };
+  for (const auto& m : matrices) {
+    SCOPED_TRACE(m.source);
+    const int p = m.p;
+    Square cor(p * p, 1);
+    for (int i = 0, k = 0; i < p; ++i)
+      for (int j = 0; j < i; ++j) cor[i * p + j] = cor[j * p + i] = m.below[k++];
+    EXPECT_LT(least_eigenvalue(p, cor), 0);
+    Case<double> run(p, ORK_SS_FULL, ORK_SS_FULL, false, cor);
+    ASSERT_EQ(run.run(), 0);
+    const Square best = nearest(p, cor), ours(run.result, run.result + p * p);
+    const auto distance = [&](const Square& a) {
+      Wide sum = 0;
+      for (int i = 0; i < p * p; ++i) sum += (a[i] - cor[i]) * (a[i] - cor[i]);
+      return double(sqrtl(sum));
+    };
+    for (int i = 0, k = 0; i < p && !m.printed.empty(); ++i)
+      for (int j = 0; j < i; ++j) EXPECT_NEAR(best[i * p + j], m.printed[k++], 6e-5) << i << j;
+    EXPECT_NEAR(distance(best), m.nearest, 6e-5);
+    EXPECT_NEAR(distance(ours), m.repaired, 6e-5);
+    EXPECT_GE(distance(ours), distance(best) - 1e-9);
+    EXPECT_GE(least_eigenvalue(p, ours),
+              1e-14 / p - 2 * p * std::numeric_limits<double>::epsilon());
+  }
+}
+
 TYPED_TEST(Repair, StatusesComeInOrder) {
   typedef TypeParam R;
   const Square bad = {1, 1, 0, 1, 1, 1, 0, 1, 1};
