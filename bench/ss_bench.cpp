@@ -1,6 +1,7 @@
 // Statistics: cycles beside their bounds and the peers of the same run.
 //
-//   ss_bench [SECTION ...] [--record]      SECTION: helpers, moments, quantiles
+//   ss_bench [SECTION ...] [--record]      SECTION: helpers, moments, quantiles, groups
+#include "ss_groups.hpp"
 #include "ss_helpers.hpp"
 #include "ss_moments.hpp"
 #include "ss_quantiles.hpp"
@@ -10,4 +11,5 @@ int main(int argc, char** argv) {
   if (report.wants("helpers")) helpers::run(report);
   if (report.wants("moments")) moments::run(report);
   if (report.wants("quantiles")) quantiles::run(report);
+  if (report.wants("groups")) groups::run(report);
 }
