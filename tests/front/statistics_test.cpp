@@ -4,22 +4,12 @@
 #include <regex>
 
 #include "ork/front.h"
+#include "ss/api.hpp"
 #include "support/pch.hpp"
 
 namespace {
 
-template <class R>
-struct Edit;
-template <>
-struct Edit<double> {
-  static constexpr auto create = __ruadSSNewTask;
-  static constexpr auto real = __ruadSSEditTask;
-};
-template <>
-struct Edit<float> {
-  static constexpr auto create = __ruasSSNewTask;
-  static constexpr auto real = __ruasSSEditTask;
-};
+using statistics::Api;
 
 // Two variables of six observations in two groups.
 template <class R>
@@ -31,7 +21,7 @@ struct Data {
   ork_ss_task* task = nullptr;
 
   Data() {
-    EXPECT_EQ(Edit<R>::create(&task, &p, &n, &layout, x, nullptr, nullptr, 0), 0);
+    EXPECT_EQ(Api<R>::make(&task, &p, &n, &layout, x, nullptr, nullptr, 0), 0);
     set(ORK_SS_EDIT_SUM);
   }
   ~Data() { __ruaSSDeleteTask(&task); }
@@ -52,8 +42,8 @@ struct Data {
     if (const auto i = integers.find(code); i != integers.end())
       EXPECT_EQ(__ruaiSSEditTask(task, code, i->second), 0) << code;
     else
-      EXPECT_EQ(Edit<R>::real(task, code,
-                              (arrays[code] = std::vector<R>(12, parameter ? half : R(7))).data()),
+      EXPECT_EQ(Api<R>::edit(task, code,
+                             (arrays[code] = std::vector<R>(12, parameter ? half : R(7))).data()),
                 0)
           << code;
   }
