@@ -34,7 +34,7 @@ class Digest {
   uint64_t value_ = 0xCBF29CE484222325;
 };
 
-// Prints a line, the name and 16 digits, unless the name does not hold the text asked for.
+// Prints a line, the name and 16 digits, if the name holds the text of the command line.
 bool wanted(const std::string& name);
 void print(const std::string& name, const Digest& digest);
 

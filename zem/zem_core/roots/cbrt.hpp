@@ -13,7 +13,8 @@ alignas(16) inline constexpr CbrtPair<double> cbrt_pairs[96] = {
 #include "roots/cbrt_pairs.inc"
 };
 
-// ((1 + r)^(1/3) - 1) / r. Given. Series, for HA and single precision; LA: a fit on |r| <= 2^-6.
+// ((1 + r)^(1/3) - 1) / r, |r| <= 2^-6, frozen. The root by the series, for HA and single
+// precision, to 2^-59.7; by the fit, for LA, to 2^-52.7.
 inline constexpr double cbrt_series[8] = {
     1.0 / 3,
     -0.1111111111111111,

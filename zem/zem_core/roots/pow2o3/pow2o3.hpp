@@ -53,7 +53,7 @@ struct Pow2o3D : Core<double> {
       gather_pairs(pow2o3_rows[row0], pow2o3_rows[row1], high, low);
       const f64x2 r = (m - c) * gather(&cbrt_reciprocals[row0 % 32], &cbrt_reciprocals[row1 % 32]);
       const f64x2 t = s * high;
-      // Given.
+      // Frozen: (1 + r)^(2/3) to 2^-60 for |r| <= 2^-6; its first three, at EP, to 2^-29.
       const f64x2 p = horner(r, 0.66666666666666663, -0.11111111111113359, 0.049382716049477096,
                              -0.028806583804519968, 0.01920438846475599, -0.013873768944592883,
                              0.010572274330113525);
