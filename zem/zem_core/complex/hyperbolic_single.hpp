@@ -4,6 +4,7 @@
 // product rounded once to single. Rare lanes go to the scalars: parts that are zero, infinite or
 // NaNs, a hyperbolic argument from 87.34 on, where results may overflow, an angle from 90112 on.
 #include "exponentials/exp_d.hpp"
+#include "frame/block.hpp"
 #include "heap/complex/element.hpp"
 #include "trig/single.hpp"
 #include "trig/table_kernel.hpp"
@@ -33,9 +34,9 @@ ORK_INLINE Two circular(f64x2 y) {
   return {flip(s, sign_of(y)), table_sine_la(gather(rows_pi64 + quarter_turn, reduced.rows), z, p)};
 }
 
-// F::of(hyperbolic, circular) gives both parts. turned: the angle is the real part, and the result
-// is -i times that of iz, as the caller's F has it.
-template <class F, auto scalar, bool reports, bool turned>
+// parts(hyperbolic, circular) gives both parts. turned: the angle is the real part, and the result
+// is -i times that of iz, as `parts` has it.
+template <auto parts, auto scalar, bool reports, bool turned>
 struct HyperbolicS : OfScalar<float, scalar, reports> {
   static constexpr Csr csr = Csr::from_mode;
   static constexpr int vectors = 1;
@@ -45,8 +46,8 @@ struct HyperbolicS : OfScalar<float, scalar, reports> {
     const u32x4 ax = as<u32x4>(ork::abs(x)), ay = as<u32x4>(ork::abs(y));
     rare |= (0x42AEAC4F - ax) | (0x47AFFFFF - ay) | (ax - splat_u32(1)) | (ay - splat_u32(1));
     const trig::Widened u = trig::widen(x), v = trig::widen(y);
-    const Planes<f64x2> low = F::of(hyperbolic(u.low), circular(v.low));
-    const Planes<f64x2> high = F::of(hyperbolic(u.high), circular(v.high));
+    const Planes<f64x2> low = parts(hyperbolic(u.low), circular(v.low));
+    const Planes<f64x2> high = parts(hyperbolic(u.high), circular(v.high));
     return {trig::narrow(low.re, high.re), trig::narrow(low.im, high.im)};
   }
 };
@@ -58,3 +59,14 @@ ORK_INLINE Planes<f64x2> tanh_parts(Two h, Two c) {
 }
 
 }  // namespace ork
+
+// A function's kernel, with what HyperbolicS wants.
+#define ORK_HYPERBOLIC(Name, parts, scalar, reports, turned)                          \
+  namespace {                                                                         \
+  struct Name##S : ork::HyperbolicS<parts, scalar, reports, turned> {                 \
+    static constexpr char name[] = "vc" #Name;                                        \
+  };                                                                                  \
+  }                                                                                   \
+  ORK_EXPORT void ork_zem_kernel_c##Name##_PXHAynn(int n, const float* a, float* r) { \
+    ork::block<Name##S>(n, {{ork::pairs(a)}, {ork::pairs(r)}});                       \
+  }

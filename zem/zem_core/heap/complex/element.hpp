@@ -70,4 +70,27 @@ ORK_INLINE int power_element(const Complex<R>& a, const Complex<R>& b, Complex<R
              : ZEM_STATUS_NONE;
 }
 
+template <class R>
+struct PowOfScalar : Core<Complex<R>, 2> {
+  static constexpr char name[] = {'v', sizeof(R) == 8 ? 'z' : 'c', 'P', 'o', 'w', 0};
+  static constexpr Csr csr = Csr::untouched;
+  static constexpr unsigned x87 = x87_extended;
+  static int special(const Complex<R>* a, const Complex<R>* b, Complex<R>* r) {
+    return power_element(*a, *b, r);
+  }
+};
+
+// The exponent is an ork_c or ork_z.
+template <class R>
+struct PowxOfScalar : Core<Complex<R>> {
+  static constexpr char name[] = {'v', sizeof(R) == 8 ? 'z' : 'c', 'P', 'o', 'w', 'x', 0};
+  static constexpr Csr csr = Csr::untouched;
+  static constexpr unsigned x87 = x87_extended;
+  Complex<R> b;
+  template <class Scalar>
+  explicit PowxOfScalar(Scalar exponent) : b{exponent.re, exponent.im} {}
+  const Complex<R>* second(const Complex<R>*, int index) const { return array_with(&b, index); }
+  int special(const Complex<R>* a, Complex<R>* r) const { return power_element(*a, b, r); }
+};
+
 }  // namespace ork
