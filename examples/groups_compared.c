@@ -35,14 +35,14 @@ int main(void) {
   status |= __ruadSSNewTask(&task, &p, &n, &columns, flowers[0], NULL, NULL, 0);
   if (status != 0) return 1;
   status |= __ruadSSEditCovCor(task, mean, cov, &full, NULL, NULL);
-  status |= __ruadSSEditPooledCovariance(task, group, pooled_mean, pooled, wanted, means[0],
-                                         covs[0]);
+  status |=
+      __ruadSSEditPooledCovariance(task, group, pooled_mean, pooled, wanted, means[0], covs[0]);
   status |= __ruaiSSEditTask(task, ORK_SS_EDIT_POOLED_COV_STORAGE, &full);
   status |= __ruaiSSEditTask(task, ORK_SS_EDIT_GROUP_COV_STORAGE, &full);
 
   /* 2. The covariance of all flowers, that of each species, and the pooled one. */
-  status |= ork_ss_compute(task, ORK_SS_COV | ORK_SS_POOLED_COV | ORK_SS_GROUP_COV,
-                           ORK_SS_ONE_PASS, NULL);
+  status |= ork_ss_compute(task, ORK_SS_COV | ORK_SS_POOLED_COV | ORK_SS_GROUP_COV, ORK_SS_ONE_PASS,
+                           NULL);
   status |= __ruaSSDeleteTask(&task);
 
   /* 3. Over all flowers length and width of a sepal seem to have nothing to do with each other;

@@ -172,8 +172,7 @@ TYPED_TEST(Pooled, MatchesQuadInAllForms) {
   typedef TypeParam R;
   const struct {
     int p, n;
-  } sizes[] = {{1, 1},    {3, 2},      {1, 1000},   {2, 200},   {5, 700},
-               {12, 900}, {2, 200000}, {3, 200001}, {1, 200001}};
+  } sizes[] = {{1, 1}, {3, 2}, {1, 1000}, {2, 200}, {5, 700}, {12, 900}, {1, 200000}, {2, 200001}};
   for (const auto& [p, n] : sizes)
     for (const bool weighted : {false, true}) {
       Groups<R> g(p, n, weighted && n > 1);
