@@ -231,6 +231,26 @@ TYPED_TEST(Sorting, SelectionHasABoundOnAnyInput) {
     }
 }
 
+TYPED_TEST(Sorting, QuicksortHasABoundOnAnyInput) {
+  typedef TypeParam R;
+  for (const int n : {40, 300, 5003}) {
+    Adversary act;
+    adversary = &act;
+    act.rank.assign(n, Adversary::kOpen);
+    Values<int> ids(n);
+    std::iota(ids.begin(), ids.end(), 0);
+    ork::quicksort(MadeUpSequence{ids.data()}, n);
+    EXPECT_LE(act.comparisons, 5 * n * std::log2(n)) << n;
+    for (int i = 0; i < n; ++i) EXPECT_EQ(act.fix(ids[i]), i);
+    // The same input for the library, with companions.
+    R* const a = this->pages.template at_end<R>(n);
+    R* const b = this->more.template at_end<R>(n);
+    for (int i = 0; i < n; ++i) a[i] = R(act.rank[i]), b[i] = -a[i];
+    Api<R>::sort_map(n, a, b);
+    for (int i = 0; i < n; ++i) ASSERT_TRUE(a[i] == R(i) && b[i] == R(-i));
+  }
+}
+
 TYPED_TEST(Sorting, NaNsLoseNoValueAndLeaveNoArray) {
   typedef TypeParam R;
   for (const int one_in : {1, 2, 10})

@@ -95,22 +95,51 @@ inline void insertion_sort(Sequence& a, int l, int r) {
   }
 }
 
+// Each element sinks below its larger child; heap place k is l + k.
+template <class Sequence>
+__attribute__((noinline)) void heapsort(Sequence a, int l, int r) {
+  const int n = r - l + 1;
+  const auto sink = [&](int place, int end) {
+    const auto moving = a.load(l + place);
+    for (int child; (child = 2 * place + 1) < end; place = child) {
+      if (child + 1 < end && a.key(l + child + 1) > a.key(l + child)) ++child;
+      if (!(a.key(l + child) > moving.key)) break;
+      a.store(l + place, a.load(l + child));
+    }
+    a.store(l + place, moving);
+  };
+  for (int place = n / 2; place-- > 0;) sink(place, n);
+  for (int end = n - 1; end > 0; --end) {
+    exchange(a, l, l + end);
+    sink(0, end);
+  }
+}
+
+// Never above some 4 n log2 n comparisons: ranges that come of more than 2 log2 n partitions one
+// within the other, as inputs made against medians of three have them, go to the heap
+// (D. R. Musser 1997).
 template <class Sequence>
 inline void quicksort(Sequence a, int n) {
   constexpr int short_range = 7;  // partitions of fewer differences do not pay
   struct {
-    int l, r;
+    int l, r, depth;
   } stack[64], *top = stack;  // of the larger parts: their sizes halve, 31 would do
-  int l = 0, r = n - 1;
+  int l = 0, r = n - 1, depth = 0;
+  const int deepest = n < 2 ? 0 : 2 * (31 - __builtin_clz(unsigned(n)));
   for (;;) {
     while (r - l >= short_range) {
+      if (depth++ == deepest) {
+        heapsort(a, l, r);
+        l = r;
+        break;
+      }
       int i, j;
       partition(a, l, r, i, j);
       if (r - i + 1 < j - l) {
-        *top++ = {l, j - 1};
+        *top++ = {l, j - 1, depth};
         l = i;
       } else {
-        *top++ = {i, r};
+        *top++ = {i, r, depth};
         r = j - 1;
       }
     }
@@ -119,6 +148,7 @@ inline void quicksort(Sequence a, int n) {
     --top;
     l = top->l;
     r = top->r;
+    depth = top->depth;
   }
 }
 
