@@ -157,6 +157,20 @@ TEST(ConstructionStatus, RefusesWhatItsEntryDoesNotServe) {
   ASSERT_EQ(ork_df_kernel_dNewTask1D(&task, 5, x, 0, 1, y, 0, 0), 0);
   EXPECT_EQ(ork_df_kernel_dDFAkimaCubicSpline1D(task, 0, 0, &ork_threader_serial),
             ORK_DF_BAD_COEFFS);
+  auto* const record = reinterpret_cast<char*>(task);
+  const struct {
+    int offset;  // of a field of 64 bits
+    int64_t value;
+    int expected;
+  } spoilt[] = {{16, 1, ORK_DF_BAD_NX}, {48, 64, ORK_DF_BAD_YHINT}};
+  for (const auto& s : spoilt) {
+    int64_t kept;
+    memcpy(&kept, record + s.offset, sizeof kept);
+    memcpy(record + s.offset, &s.value, sizeof kept);
+    for (auto* entry : FitApi<double>::build)
+      EXPECT_EQ(entry(task, 0, 0, &ork_threader_serial), s.expected);
+    memcpy(record + s.offset, &kept, sizeof kept);
+  }
   ork_df_kernel_DeleteTask(&task);
 }
 

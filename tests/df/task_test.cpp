@@ -126,6 +126,34 @@ TEST(Task, FunctionsFollowTheirHint) {
   }
 }
 
+// Every function that the count says has a row, and rows set one by one stay; a task whose table
+// cannot grow keeps its count.
+TEST(Task, TablesGrowWithTheCountOfFunctions) {
+  double other = 0, coeffs[64];
+  for (const int64_t hint : {0, 128}) {
+    Task t(2, hint);
+    ASSERT_EQ(ork_df_kernel_iEditVal(t.task, 18, 2), 0);
+    ASSERT_EQ(ork_df_kernel_iEditVal(t.task, 22, hint), 0);
+    ASSERT_EQ(ork_df_kernel_dEditPtr(t.task, 5, coeffs), 0);
+    ASSERT_EQ(ork_df_kernel_dEditIdxPtr(t.task, 2, 1, &other), 0);
+    for (const int ny : {3, 2, 40}) {
+      blocks::fail_each([&] {
+        const int status = ork_df_kernel_iEditVal(t.task, 16, ny);
+        EXPECT_EQ(status, blocks::failed() ? -1001 : 0);
+      });
+      EXPECT_EQ(t.value(16), ny);
+      EXPECT_EQ(t.row(2, 1), &other);
+      for (int f = 2; f < ny; ++f) {
+        EXPECT_EQ(t.row(2, f), hint == 128 ? nullptr : y15 + 5 * f) << f;
+        EXPECT_EQ(t.row(5, f), hint == 128 ? nullptr : coeffs + 8 * f) << f;
+      }
+    }
+  }
+  Task t(3, 32);  // by columns the table has one row
+  ASSERT_EQ(ork_df_kernel_iEditVal(t.task, 17, 16), 0);
+  EXPECT_EQ(t.row(2, 2), y15 + 10);
+}
+
 TEST(Task, PointersAreCheckedAndStored) {
   Task t;
   double v[20], *p = nullptr;

@@ -35,20 +35,48 @@ int replace_table(void**& table, Make make) {
   return table != nullptr ? ORK_DF_OK : ORK_DF_NO_MEMORY;
 }
 
-template <class T>
-void** function_table(const T* y, int64_t ny, int64_t nx, int64_t yhint) {
-  return make_table(y, yhint == ORK_DF_COLS ? 1 : ny, nx, (yhint & ORK_DF_ROWS_APART) == 0);
+// A table for more rows: those it has, which rows set one by one may have moved, then new ones as
+// make_table lays them. Without memory the old table stays.
+int grow_table(void**& table, int64_t has, int64_t rows, int64_t row_bytes, bool together) {
+  if (table == nullptr || rows <= has) return ORK_DF_OK;
+  void** longer = make_table(static_cast<const char*>(table[0]), rows, row_bytes, together);
+  if (longer == nullptr) return ORK_DF_NO_MEMORY;
+  memcpy(longer, table, static_cast<size_t>(has) * sizeof(void*));
+  ork_serv_deallocate(table);
+  table = longer;
+  return ORK_DF_OK;
 }
 
-// Coefficient rows for the order and type of the task.
+// Rows in the table of functions. Coefficients have one for each, whatever the hint.
+int64_t table_rows(int64_t ny, int64_t yhint) { return yhint == ORK_DF_COLS || ny < 1 ? 1 : ny; }
+
+template <class T>
+void** function_table(const T* y, int64_t ny, int64_t nx, int64_t yhint) {
+  return make_table(y, table_rows(ny, yhint), nx, (yhint & ORK_DF_ROWS_APART) == 0);
+}
+
+// Coefficients of a row, by the order and type of the task.
+int64_t row_of_coefficients(const Task* task) {
+  const int64_t pieces = task->splineType == ORK_DF_TYPE_SUBBOTIN ? task->nx : task->nx - 1;
+  return task->splineOrder * pieces;
+}
 template <class T>
 int set_coefficients(Task* task, const T* coeffs, int64_t hint) {
   if (task->ny == 0) return ORK_DF_BAD_NY;
-  const int64_t pieces = task->splineType == ORK_DF_TYPE_SUBBOTIN ? task->nx : task->nx - 1;
   return replace_table(task->coeffs, [&] {
-    return make_table(coeffs, task->ny, task->splineOrder * pieces,
-                      (hint & ORK_DF_ROWS_APART) == 0);
+    return make_table(coeffs, task->ny, row_of_coefficients(task), (hint & ORK_DF_ROWS_APART) == 0);
   });
+}
+
+// Both tables long enough for so many functions under that hint: entries read as many rows as the
+// task says.
+int hold_functions(Task* task, int64_t ny, int64_t yhint) {
+  const int64_t bytes = task->precisionFlag ? sizeof(double) : sizeof(float);
+  const int status = grow_table(task->y, table_rows(task->ny, task->yhint), table_rows(ny, yhint),
+                                task->nx * bytes, (yhint & ORK_DF_ROWS_APART) == 0);
+  if (status != ORK_DF_OK) return status;
+  return grow_table(task->coeffs, table_rows(task->ny, 0), ny, row_of_coefficients(task) * bytes,
+                    (task->coeffHint & ORK_DF_ROWS_APART) == 0);
 }
 
 template <class T>
@@ -213,10 +241,15 @@ int edit_value(Task* task, int64_t code, int64_t value) {
           value == ORK_DF_X_NON_UNIFORM || (value != ORK_DF_X_UNIFORM && task->bucketCount == 0);
       return status == ORK_DF_OK && build ? build_buckets(task) : status;
     }
-    case ORK_DF_VAL_NY:
-      return store(task->ny, value >= 1, ORK_DF_BAD_NY);
-    case ORK_DF_VAL_YHINT:
-      return store(task->yhint, valid_storage(value), ORK_DF_BAD_YHINT);
+    case ORK_DF_VAL_NY: {
+      const int status = value >= 1 ? hold_functions(task, value, task->yhint) : ORK_DF_BAD_NY;
+      return store(task->ny, status == ORK_DF_OK, status);
+    }
+    case ORK_DF_VAL_YHINT: {
+      const int status =
+          valid_storage(value) ? hold_functions(task, task->ny, value) : ORK_DF_BAD_YHINT;
+      return store(task->yhint, status == ORK_DF_OK, status);
+    }
     case ORK_DF_VAL_ORDER:
       return store(task->splineOrder, value >= 0, ORK_DF_BAD_ORDER);
     case ORK_DF_VAL_TYPE:
