@@ -12,8 +12,7 @@
  * gives the same numbers. The d functions work in double with vector kernels of level EP, the
  * s functions in single precision with level LA. Uniform numbers at the ends of their range
  * give finite numbers (for Cauchy, the tangent of the ends). The thread's error mode
- * and error callback are as they were when a function returns; its denormal handling becomes
- * KEEP, which is what no handling means, if it had none.
+ * and error callback are as they were when a function returns.
  */
 #ifndef ORK_RUA_DISTRIBUTIONS_H
 #define ORK_RUA_DISTRIBUTIONS_H

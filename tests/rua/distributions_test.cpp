@@ -1,6 +1,9 @@
 // What holds for every distribution alike.
 #include "registry/distributions.hpp"
 
+#include <thread>
+
+#include "ork/zem.h"
 #include "rua/stream_fixture.hpp"
 #include "support/stack.hpp"
 
@@ -39,6 +42,24 @@ TEST_F(Distributions, StackMayBeMisaligned) {
       }
     }
   }
+}
+
+// Whatever the denormal field says: 0, as in a thread that never set it, or on.
+TEST_F(Distributions, ModeStaysAsItWas) {
+  std::thread([] {
+    for (const uint32_t mode : {0u, ORK_ZEM_DENORMAL_ZERO, ORK_ZEM_DENORMAL_KEEP}) {
+      if (mode) ork_zem_kernel_SetMode(mode);
+      const uint32_t before = ork_zem_kernel_GetMode();
+      EXPECT_EQ(before & ORK_ZEM_DENORMAL_MASK, mode);
+      for (const Distribution& d : distributions)
+        for (int method = 0; method < d.methods; ++method) {
+          Stream s(RUA_BRNG_MT19937, {3});
+          std::vector<char> r(d.bytes(9));
+          ASSERT_EQ(d.kernel(method, s, 9, r.data(), d.sample), 0);
+          ASSERT_EQ(ork_zem_kernel_GetMode(), before) << d.full_name();
+        }
+    }
+  }).join();
 }
 
 // The k-th allocation fails: the call says so, draws nothing and leaves nothing behind. What the
