@@ -121,7 +121,25 @@ int ork_iRngBernoulli(int method, RuaStream* stream, int n, int32_t* r, double p
  * precision. So values beyond 2^24 are multiples of powers of two, and those that a small p
  * leads beyond int32_t come as INT32_MIN. Range: p > 0, p < 1. */
 int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r, double p);
+
+/* Successes among ntrial trials of probability p, from 0 to ntrial. While ntrial min(p, 1 - p)
+ * is below 30 by a table of sums of probabilities, a double uniform number each; from there on
+ * by rejection, pairs of single ones (Kachitvichyanukul, Schmeiser 1988: BTPE). For p of 1/2
+ * and above failures are drawn; after a failed draw r holds their numbers. Set-ups stay with
+ * the stream, in chunk 5, until ntrial or p changes. NO_MEMORY: the chunk could not be made;
+ * BAD_GENERATOR: it is too short. Range: ntrial >= 0, p >= 0, p <= 1. */
 int ork_iRngBinomial(int method, RuaStream* stream, int n, int32_t* r, int32_t ntrial, double p);
+
+/* Failures before the a-th success of probability p, 0 and above: k has the probability Gamma(a
+ * + k) / (Gamma(a) k!) p^a (1 - p)^k, a not necessarily an integer. Mean m = a (1 - p) / p,
+ * variance m / p. By sums of probabilities and one uniform number in double for each output
+ * where (a - 1)(1 - p) / p is below 100, and in shapes to about 2; else by rejection below a
+ * hat of five regions in single precision, so that above 2^24 values are multiples of powers of
+ * two. What a and p lead to stays with the stream, in chunk 4. Values beyond int32_t come as
+ * INT32_MAX by sums, and not at all by rejection. BAD_ARGUMENT: m + 2 sqrt(m / p) is beyond
+ * int32_t, or no number; nothing is drawn. NO_MEMORY: the chunk could not be made;
+ * BAD_GENERATOR: it is too short. Range: a > 0, p > 0, p < 1. */
+int ork_iRngNegbinomial(int method, RuaStream* stream, int n, int32_t* r, double a, double p);
 
 
 #ifdef __cplusplus

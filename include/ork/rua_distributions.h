@@ -195,6 +195,18 @@ int32_t _ruaiRngGeometric(int32_t method, RuaStream* stream, int32_t n, int32_t*
 int32_t _ruaiRngBinomial(int32_t method, RuaStream* stream, int32_t n, int32_t* r, int32_t ntrial,
                          double p);
 
+/* Failures before the a-th success of probability p, 0 and above: k has the probability Gamma(a
+ * + k) / (Gamma(a) k!) p^a (1 - p)^k, a not necessarily an integer. Mean m = a (1 - p) / p,
+ * variance m / p. By sums of probabilities and one uniform number in double for each output
+ * where (a - 1)(1 - p) / p is below 100, and in shapes to about 2; else by rejection below a
+ * hat of five regions in single precision, so that above 2^24 values are multiples of powers of
+ * two. What a and p lead to stays with the stream, in chunk 4. Values beyond int32_t come as
+ * INT32_MAX by sums, and not at all by rejection. BAD_ARGUMENT: m + 2 sqrt(m / p) is beyond
+ * int32_t, or no number; nothing is drawn. NO_MEMORY: the chunk could not be made;
+ * BAD_GENERATOR: it is too short. Range: a > 0, p > 0, p < 1. */
+int32_t _ruaiRngNegbinomial(int32_t method, RuaStream* stream, int32_t n, int32_t* r, double a,
+                            double p);
+
 #ifdef __cplusplus
 }
 #endif

@@ -113,3 +113,6 @@ ORK_OUTER int ork_iRngGeometric(int method, RuaStream* stream, int n, int32_t* r
 ORK_OUTER int ork_iRngBinomial(int method, RuaStream* stream, int n, int32_t* r, int32_t ntrial, double p) {
   return draw(_ruaiRngBinomial, 1, ntrial >= 0 && p >= 0 && p <= 1, true, method, stream, n, r, ntrial, p);
 }
+ORK_OUTER int ork_iRngNegbinomial(int method, RuaStream* stream, int n, int32_t* r, double a, double p) {
+  return draw(_ruaiRngNegbinomial, 1, a > 0 && p > 0 && p < 1, true, method, stream, n, r, a, p);
+}

@@ -58,6 +58,21 @@ inline DiscreteLaw binomial(int32_t n, double p, bool coarse = false) {
           coarse};
 }
 
+inline DiscreteLaw negbinomial(double a, double p, bool coarse = false) {
+  std::string name = "negbinomial " + std::to_string(a) + " " + std::to_string(p);
+  const real mode = floorl((a - 1) * (1 - real(p)) / p);
+  return {std::move(name),
+          [=](auto* s, auto n, auto* r) { return _ruaiRngNegbinomial(0, s, n, r, a, p); },
+          0,
+          mode > 0 ? int64_t(mode) : 0,
+          INT32_MAX,
+          [=](int64_t k) {
+            return lgammal(k + real(a)) - ln_factorial(k) - lgammal(a) + a * logl(p) +
+                   k * log1pl(-p);
+          },
+          coarse};
+}
+
 // Every method at its borders, and far away.
 inline std::vector<DiscreteLaw> all_discrete() {
   std::vector<DiscreteLaw> laws = {uniform(0, 100), uniform(-12, -3), bernoulli(0.3),
@@ -71,6 +86,12 @@ inline std::vector<DiscreteLaw> all_discrete() {
   laws.push_back(binomial(1000, 0.1));
   laws.push_back(binomial(1000000, 0.3));
   laws.push_back(binomial(1000000000, 0.5, true));
+  // The hat begins where (a - 1)(1 - p)/p is 100; before that, and in shapes to about 2, sums.
+  const double ap[][2] = {{10, 0.3},   {1, 0.3},     {0.5, 0.3},   {100.9, 0.5}, {101, 0.5},
+                          {0.5, 1e-3}, {1.5, 0.004}, {2.2, 0.005}, {2.3, 0.005}, {3, 0.01},
+                          {1000, 0.3}, {20, 1e-3},   {2e5, 0.999}, {1e6, 0.5}};
+  for (const auto& [a, p] : ap) laws.push_back(negbinomial(a, p));
+  laws.push_back(negbinomial(1e8, 0.5, true));
   return laws;
 }
 

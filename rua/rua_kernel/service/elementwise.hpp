@@ -14,6 +14,7 @@ struct Tables;
   template <>                                                                                     \
   struct Tables<R> {                                                                              \
     static constexpr auto &ln = ork_zem_kernel_##t##Ln_ttab, &exp = ork_zem_kernel_##t##Exp_ttab, \
+                          &log1p = ork_zem_kernel_##t##Log1p_ttab,                                \
                           &sqrt = ork_zem_kernel_##t##Sqrt_ttab,                                  \
                           &inv = ork_zem_kernel_##t##Inv_ttab,                                    \
                           &sin = ork_zem_kernel_##t##Sin_ttab,                                    \
