@@ -24,9 +24,9 @@ std::ostream& operator<<(std::ostream& out, const Parameters& d) {
 // Sums of a table, from either side of the mode and behind it; far behind it; below the hat near
 // the mode and far from it, with the left tail near 0 and away from it. 100.9 and 101 are the two
 // sides of where the hat begins.
-const Parameters kSums[] = {{10, 0.3},   {1, 0.3},  {0.5, 0.3},    {1e-3, 0.5},  {3, 0.999},
+const Parameters kSums[] = {{10, 0.3},    {1, 0.3},    {0.5, 0.3},  {1e-3, 0.5},  {3, 0.999},
                             {100.9, 0.5}, {1.5, 0.02}, {0.5, 1e-4}, {1.5, 0.004}, {2.05, 1e-3}};
-const Parameters kHats[] = {{101, 0.5},   {1000, 0.3}, {3, 0.01},  {2.3, 0.005},
+const Parameters kHats[] = {{101, 0.5},  {1000, 0.3},  {3, 0.01},  {2.3, 0.005},
                             {20, 0.001}, {2e5, 0.999}, {1e6, 0.5}, {1e9, 1 - 1e-7}};
 
 // Extended precision: the shapes' log-gammas cancel.
@@ -92,8 +92,9 @@ class Reference {
                  a2 = gl * q * (d.a + il) / (il + 1), r2 = (d.a + ir) * q / (ir + 1),
                  t1 = gr * std::pow(r2, xr - 1 - ir), t2 = gl * std::pow(r1, xl - il);
     const float w1 = float(x2 - x1), w2 = float(x1 - xl), w3 = float(xr - x2);
-    const float areas[] = {w1, float((0.5 * fr + a1) * (xr - x2)), float((0.5 * fl + a2) * (x1 - xl)),
-                           float(-t1 / std::log(r2)), float(t2 / std::log(r1))};
+    const float areas[] = {w1, float((0.5 * fr + a1) * (xr - x2)),
+                           float((0.5 * fl + a2) * (x1 - xl)), float(-t1 / std::log(r2)),
+                           float(t2 / std::log(r1))};
     double sum = 0, total = 0;
     for (const float area : areas) total += area;
     float c[5];
@@ -265,7 +266,7 @@ TEST_F(Negbinomial, RejectionBeginsAtTheSameHeight) {
 // is made again, or at least ends.
 TEST_F(Negbinomial, SetUpFollowsTheParameters) {
   const Parameters turn[] = {{1000, 0.3}, {1000, 0.3}, {10, 0.3}, {10, 0.3}, {1000, 0.3}, {3, 0.01},
-                             {3, 0.011}, {10, 0.3},   {1, 1e-6}, {3, 0.01},  {1.5, 0.004}};
+                             {3, 0.011},  {10, 0.3},   {1, 1e-6}, {3, 0.01}, {1.5, 0.004}};
   Stream s(RUA_BRNG_MT19937, {kSeed});
   std::vector<int32_t> r, want;
   for (int call = 0; call < 33; ++call) {
@@ -319,9 +320,9 @@ TEST_F(Negbinomial, FailingDrawEndsTheCall) {
 // Uniform numbers of 0 and 1 in every place of a pair, and every shape and probability: calls end,
 // with numbers whose mean is that of the law, or say that they would not fit.
 TEST_F(Negbinomial, EndsOfTheRanges) {
-  const double shapes[] = {5e-324, 1e-300, 1e-10, 0.5,  1,    1.5,  2.05, 2.1,  2.2,    2.3,   3,
-                           10,     100,    1e4,   1e6,  1e9,  1e12, 1e18, 1e25, 1e100, 1.7e308},
-               successes[] = {5e-324, 1e-300, 1e-12, 2e-9, 1e-6, 1e-3,     0.01,
+  const double shapes[] = {5e-324, 1e-300, 1e-10, 0.5, 1,   1.5,  2.05, 2.1,  2.2,   2.3,    3,
+                           10,     100,    1e4,   1e6, 1e9, 1e12, 1e18, 1e25, 1e100, 1.7e308},
+               successes[] = {5e-324, 1e-300, 1e-12, 2e-9,  1e-6,     1e-3,       0.01,
                               0.1,    0.5,    0.9,   0.999, 1 - 1e-9, 1 - 0x1p-53};
   std::vector<int32_t> r;
   for (const double a : shapes)
