@@ -260,7 +260,7 @@ int32_t __ruaiSSEditTask(ork_ss_task* task, int64_t code, const void* value);
 #define ORK_SS_EDIT_ROBUST_MEAN 39         /* p */
 #define ORK_SS_EDIT_ROBUST_COV 40          /* p p, or packed */
 #define ORK_SS_EDIT_OUTLIER_PARAM_COUNT 41 /* (int) */
-#define ORK_SS_EDIT_OUTLIER_PARAMS 42
+#define ORK_SS_EDIT_OUTLIER_PARAMS 42      /* 3: start, alpha, tol */
 #define ORK_SS_EDIT_OUTLIER_WEIGHTS 43     /* n: 0 marks an outlier */
 #define ORK_SS_EDIT_ORDER_STATS_STORAGE 44 /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
 #define ORK_SS_EDIT_PARTIAL_INDEX 45       /* (int) p: 1 of the result, -1 conditioned on */
@@ -472,6 +472,45 @@ int32_t _ruasSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
  * Beyond p = 256 one block of 8 p reals (s: 16 p) is taken. Returns 0 or -4000. */
 int32_t _ruadSSMahDistance(ork_ss_task* task);
 int32_t _ruasSSMahDistance(ork_ss_task* task);
+
+/* Outliers of a multivariate sample, by BACON (Billor, Hadi, Velleman, Computational Statistics &
+ * Data Analysis 34, 2000): outlierWeights[i] becomes 0 for an outlier, and the observation's own
+ * weight, or 1, for the others. A subset of 5 p observations gives mean and covariance (by weight,
+ * in one pass); the next subset is that of all observations whose Mahalanobis distance from these
+ * is below
+ *
+ *   sqrt(chi2(p, 1 - alpha)) (max(0, (h - r) / (h + r)) + 1 + (p + 1) / (n - p) + 2 / (n - 1 - 3
+ * p))
+ *
+ * with r the size of the subset at hand and h = (n + p + 1) / 2; and so on until the size changes
+ * by less than tol of itself, or the subset holds everything, or after 1000 rounds.
+ *
+ * outlierParams counts only if outlierParamCount holds 3, else all defaults apply. A value out of
+ * its range, NaN too, is replaced by its default:
+ *   0  start   1: the 5 p observations nearest to the mean, in Mahalanobis distance; any other
+ *              value, and the default: those nearest to the medians (weighted if there are
+ *              weights) in Euclidean distance, which withstands far more outliers, but wants
+ *              variables of like scale
+ *   1  alpha   in [0, 1], default 0.05: the tail of each single observation, so that good ones are
+ *              lost at about that rate; the article divides it by n. 0: no outliers
+ *   2  tol     above 0, default 0.005
+ *
+ * The variable mask does not count. A NaN or infinity in the data ends the call with -5040 (p = 1:
+ * -4033). Two blocks are taken, of p^2 + 6 p + 2048 T reals and of 5 p + T integers on T threads,
+ * besides those of moments, quantiles, rank test and distances. Threads divide the moments, and
+ * the distances where n p >= 10000; mean and covariance depend on their number by rounding, the
+ * weights only for an observation that lies within rounding of the threshold.
+ *
+ * Statuses in their order: p -4001; n below 5 p -4002; layout null or unknown -4003; outlierWeights
+ * null -4041; method without BACON -4029; memory -4000; those of rank test and inverse covariance;
+ * a last subset of 5 p observations or fewer -4026, which outlierWeights describes as usual. After
+ * the others outlierWeights is of no use. */
+int32_t _ruadSSOutliersDetection(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                 uint32_t method_low, uint32_t method_high,
+                                 const ork_threader* threader);
+int32_t _ruasSSOutliersDetection(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                 uint32_t method_low, uint32_t method_high,
+                                 const ork_threader* threader);
 
 /* The weighted quantile of each variable, of the first order in quantileOrders, in quantiles
  * (p). Nothing is checked; weights must be there. No memory: -4000. */

@@ -43,7 +43,8 @@ std::vector<double> results(int shift) {
     call(A::edit_pooled, t, nullptr, out, out, nullptr, out, out);
     call(A::edit_quantiles, t, &three, orders, quantiles.data(), sorted.data(), &layout);
     call(A::edit_stream, t, &three, orders, streamed.data(), &one, &epsilon);
-    call(A::edit_outliers, t, nullptr, none, out);
+    std::vector<R> kept(n);
+    call(A::edit_outliers, t, nullptr, none, kept.data());
     call(A::edit_robust, t, nullptr, nullptr, none, out, out);
     call(A::edit_missing, t, nullptr, none, nullptr, none, nullptr, none, nullptr, out, nullptr,
          out);
@@ -66,8 +67,9 @@ std::vector<double> results(int shift) {
       call(A::quantiles, t, ORK_SS_QUANTILES | ORK_SS_ORDER_STATS, 0, ORK_SS_FAST, 0, table);
       call(A::quantiles, t, ORK_SS_QUANTILES, 0, ORK_SS_FAST, 0, table);
       call(A::stream, t, 0, 0, ORK_SS_STREAM, 0, table);
+      call(A::outliers, t, 0, 0, ORK_SS_BACON, 0, table);
       call(A::deviations, t, 0, 2, ORK_SS_FAST, 0, table);
-      for (const auto* a : {&v[15], &v[16], &sorted, &quantiles, &streamed}) keep(*a);
+      for (const auto* a : {&v[15], &v[16], &sorted, &quantiles, &streamed, &kept}) keep(*a);
     }
     call(A::median, t);
     keep(quantiles);
