@@ -57,8 +57,8 @@ Times measure(int layout, const double* x) {
 }
 
 inline void run(Report& report) {
-  report.line(format("# outliers: BACON, cycles per entry, p = %d, n = %d, a fifth outliers, double",
-                     p, n));
+  report.line(format(
+      "# outliers: BACON, cycles per entry, p = %d, n = %d, a fifth outliers, double", p, n));
   report.line("  layout     covariance   round  bound          rounds  start and one  two threads");
   std::mt19937 g(2);
   std::normal_distribution<double> gauss;
@@ -72,10 +72,10 @@ inline void run(Report& report) {
     const double* const x = by_rows ? rows.data() : columns.data();
     const Times one = measure<ork_threader_serial>(layout, x);
     const Times two = measure<ork_threader_parallel>(layout, x);
-    report.line(format("d %-10s %8.2f %9.2f %6.2f %-7s %6d %13.2f %9.2f: %.2f times", //
-                       by_rows ? "rows" : "columns", one.covariance, one.round,
-                       3 * one.covariance, one.round <= 3 * one.covariance ? "met" : "MISSED",
-                       one.rounds, one.one_round, two.round, one.round / two.round));
+    report.line(format("d %-10s %8.2f %9.2f %6.2f %-7s %6d %13.2f %9.2f: %.2f times",  //
+                       by_rows ? "rows" : "columns", one.covariance, one.round, 3 * one.covariance,
+                       one.round <= 3 * one.covariance ? "met" : "MISSED", one.rounds,
+                       one.one_round, two.round, one.round / two.round));
   }
 }
 
