@@ -147,6 +147,10 @@ class Library:
                                capture_output=True, text=True, check=True).stdout.strip()
         return shlex.split(max(lines.split("&&"), key=len))
 
+    @staticmethod
+    def soname(words):
+        return next(w for w in words if w.startswith("-Wl,-soname,")).rsplit(",", 1)[1]
+
     def suites(self, file):
         name = str(file.relative_to(ROOT))
         return SUITES[max((p for p in SUITES if name.startswith(p + "/")), key=len)]
@@ -185,7 +189,7 @@ class Copy:
             file.unlink()
         for name in {self.library.library[target] for target in objects}:
             words = [str(objects.get(word, word)) for word in self.library.links[name]]
-            words[words.index("-o") + 1] = str(self.place / "lib" / f"libork_{name}.so")
+            words[words.index("-o") + 1] = str(self.place / "lib" / self.library.soname(words))
             subprocess.run(words, cwd=BUILD, check=True, capture_output=True)
 
     def run(self, arguments, limit):

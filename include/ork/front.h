@@ -15,6 +15,7 @@
 #include "ork/rua_distributions.h"
 #include "ork/ss.h"
 #include "ork/threader.h"
+#include "ork/version.h"
 #include "ork/zem_kernels.h"
 
 #ifdef __cplusplus

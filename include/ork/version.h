@@ -8,4 +8,17 @@
 #define ORK_VERSION_PATCH 0
 #define ORK_VERSION_STRING "0.1.0"
 
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The version of the libraries that the program runs with: 10000 major + 100 minor + patch, and in
+ * words. */
+int ork_version(void);
+const char* ork_version_string(void);
+
+#ifdef __cplusplus
+}
+#endif
+
 #endif

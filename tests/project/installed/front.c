@@ -12,5 +12,6 @@ int main(void) {
   ok = ok && ork_stream_delete(&stream) == 0;
   ok = ok && ork_ss_compute(NULL, ORK_SS_MEAN, ORK_SS_FAST, NULL) == ORK_SS_NULL_TASK;
   ok = ok && ork_dDFConstruct(NULL, &ork_threader_serial) == ORK_DF_NULL_TASK;
+  ok = ok && ork_version() == 10000 * ORK_VERSION_MAJOR + 100 * ORK_VERSION_MINOR + ORK_VERSION_PATCH;
   return !ok;
 }
