@@ -4,6 +4,7 @@
 //   SECTION: helpers, moments, quantiles, groups, outliers, robust, missing
 #include "ss_groups.hpp"
 #include "ss_helpers.hpp"
+#include "ss_missing.hpp"
 #include "ss_moments.hpp"
 #include "ss_outliers.hpp"
 #include "ss_quantiles.hpp"
@@ -15,4 +16,5 @@ int main(int argc, char** argv) {
   if (report.wants("outliers")) outliers::run(report);
   if (report.wants("quantiles")) quantiles::run(report);
   if (report.wants("groups")) groups::run(report);
+  if (report.wants("missing")) missing::run(report);
 }

@@ -267,17 +267,17 @@ int32_t __ruaiSSEditTask(ork_ss_task* task, int64_t code, const void* value);
 #define ORK_SS_EDIT_PARTIAL_COV 46
 #define ORK_SS_EDIT_PARTIAL_COV_STORAGE 47 /* (int) */
 #define ORK_SS_EDIT_PARTIAL_COR 48
-#define ORK_SS_EDIT_PARTIAL_COR_STORAGE 49 /* (int) */
-#define ORK_SS_EDIT_MISSING_PARAM_COUNT 50 /* (int) 5 */
-#define ORK_SS_EDIT_MISSING_PARAMS 51
-#define ORK_SS_EDIT_INIT_ESTIMATE_COUNT 52 /* (int) */
-#define ORK_SS_EDIT_INIT_ESTIMATES 53
-#define ORK_SS_EDIT_SIMULATED_COUNT 54 /* (int) */
-#define ORK_SS_EDIT_SIMULATED 55
-#define ORK_SS_EDIT_ESTIMATE_COUNT 56 /* (int) */
-#define ORK_SS_EDIT_ESTIMATES 57
-#define ORK_SS_EDIT_PRIOR_COUNT 58 /* (int) */
-#define ORK_SS_EDIT_PRIOR 59
+#define ORK_SS_EDIT_PARTIAL_COR_STORAGE 49   /* (int) */
+#define ORK_SS_EDIT_MISSING_PARAM_COUNT 50   /* (int) 5 */
+#define ORK_SS_EDIT_MISSING_PARAMS 51        /* 5: see MissingValues */
+#define ORK_SS_EDIT_INIT_ESTIMATE_COUNT 52   /* (int) */
+#define ORK_SS_EDIT_INIT_ESTIMATES 53        /* p (p + 3) / 2: where the iterations start */
+#define ORK_SS_EDIT_SIMULATED_COUNT 54       /* (int) */
+#define ORK_SS_EDIT_SIMULATED 55             /* imputations times missing values */
+#define ORK_SS_EDIT_ESTIMATE_COUNT 56        /* (int) */
+#define ORK_SS_EDIT_ESTIMATES 57             /* p (p + 3) / 2 for each step of the chain */
+#define ORK_SS_EDIT_PRIOR_COUNT 58           /* (int) */
+#define ORK_SS_EDIT_PRIOR 59                 /* p (p + 3) / 2 + 2 */
 #define ORK_SS_EDIT_PARAM_COR 60             /* p p, or packed */
 #define ORK_SS_EDIT_PARAM_COR_STORAGE 61     /* (int) */
 #define ORK_SS_EDIT_STREAM_PARAM_COUNT 62    /* (int) 1 */
@@ -511,6 +511,58 @@ int32_t _ruadSSOutliersDetection(ork_ss_task* task, uint32_t estimates_low, uint
 int32_t _ruasSSOutliersDetection(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
                                  uint32_t method_low, uint32_t method_high,
                                  const ork_threader* threader);
+
+/* Missing values by multiple imputation under a multivariate normal model, by IMPUTATION. An
+ * entry of the observations is missing where it is a negative quiet NaN: high bits 0xFFF8 of a
+ * double's word, 0xFFC0 of a float's. Every other NaN is data, and spreads.
+ *
+ * First, mean and covariance (divisor n) by expectation-maximisation; then one chain of data
+ * augmentation from there, whose steps draw the missing values given mean and covariance, and
+ * mean and covariance given the completed data. Its numbers come from a stream of the call's own,
+ * always the same: equal input gives equal output. Weights, mask and estimate bits do not count;
+ * nothing runs on other threads.
+ *
+ *   missingParams    [0] most iterations of expectation-maximisation (below 1: 50)
+ *                    [1] steps L of the chain for each imputation (below 1: 30)
+ *                    [2] these iterations end when no mean or covariance moves by as much
+ *                        (0, below, NaN: 0.001; absolute, so mind the variables' units)
+ *                    [3] imputations m
+ *                    [4] missing entries of the whole matrix, to check
+ *                    reals of which the whole part counts, but for [2]
+ *   simulated        m records of all missing values, observation after observation, variables
+ *                    ascending: the draws of every L-th step; simulatedCount m [4], or both null
+ *   estimates        m L records, mean and covariance after each step: p means, then the rows of
+ *                    the upper triangle (0,0), (0,1), ..., (1,1), ...; estimateCount
+ *                    m L p (p + 3) / 2, or one of both null
+ *   initEstimates    where to start, such a record; if initEstimateCount is another number, or
+ *                    one of both null, means 0 and unit covariance
+ *   prior            p means, their weight tau in observations (below 0: 0), degrees of freedom
+ *                    (below p: p), the rows of the upper triangle of the inverted Wishart law's
+ *                    matrix; if priorCount is less than that, or one of both null, none
+ *
+ * The posterior of each step is the prior of the next, imputations included: what is drawn for
+ * mean and covariance settles down as the chain goes on, and imputations differ by the missing
+ * values' spread alone. See docs/statistics.md for what that does to intervals. Step number t
+ * draws about p n t numbers for the degrees of freedom alone: m L at a hundred takes 5000 p n.
+ *
+ * Memory: a copy of the data, up to 45 bytes an observation (p / 8 more), batches of up to
+ * 3 * 2^18 reals, and where simulated is null a record of it.
+ *
+ * Statuses in their order: p -4001; storage null or unknown -4003; missingParams null -4048, its
+ * count null -4049, not 5 -4050; simulated without its count -4055, the reverse -4054; neither
+ * simulated values nor estimates asked for -4060; method -4029; n null or below 0 -4002;
+ * observations null -4032; [4] is not the number of missing entries -4063; [3] or [4] below 1
+ * -4051; simulatedCount -4058; estimateCount -4059; memory -4000. From then on the outputs hold
+ * what was done: the stream not made (its status, -4); a missing part's covariance not positive
+ * definite -5021, or its numbers not drawn -5022; numbers of mean and covariance not drawn -5023;
+ * the posterior matrix not positive definite -5024, the Wishart draw singular -5025. Where the
+ * chain never began, the first record of estimates is that of expectation-maximisation. */
+int32_t _ruadSSMissingValues(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                             uint32_t method_low, uint32_t method_high,
+                             const ork_threader* threader);
+int32_t _ruasSSMissingValues(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                             uint32_t method_low, uint32_t method_high,
+                             const ork_threader* threader);
 
 /* The weighted quantile of each variable, of the first order in quantileOrders, in quantiles
  * (p). Nothing is checked; weights must be there. No memory: -4000. */

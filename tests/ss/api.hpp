@@ -34,6 +34,7 @@ struct Api;
     static constexpr auto median = _rua##t##SSWMedian;                    \
     static constexpr auto repair = _rua##t##SSCorParametrization;         \
     static constexpr auto outliers = _rua##t##SSOutliersDetection;        \
+    static constexpr auto missing = _rua##t##SSMissingValues;             \
     static constexpr auto select = __rua##t##QSortSelect;                 \
     static constexpr auto sort = __rua##t##QSort;                         \
     static constexpr auto sort_step = __rua##t##QSortStep;                \
