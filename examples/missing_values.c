@@ -6,7 +6,7 @@
 #include <stdlib.h>
 #include <string.h>
 
-#define PEOPLE 500
+#define PEOPLE 200
 #define QUESTIONS 3 /* age, hours of work a week, income in hundreds */
 #define IMPUTATIONS 5
 
@@ -44,7 +44,7 @@ int main(void) {
   check(ork_stream_new(&stream, RUA_BRNG_MCG59, 4));
   check(ork_dRngGaussianMV(RUA_GAUSSIANMV_ICDF, stream, PEOPLE, answers, QUESTIONS, RUA_MATRIX_FULL,
                            centre, t));
-  check(ork_dRngUniform(RUA_UNIFORM_STD, stream, PEOPLE, u, 0, 1));
+  check(ork_dRngUniform(0, stream, PEOPLE, u, 0, 1));
   check(ork_stream_delete(&stream));
   int missing = 0;
   double* const income = table + 2 * PEOPLE; /* row storage: a variable's values stand together */

@@ -519,8 +519,9 @@ int32_t _ruasSSOutliersDetection(ork_ss_task* task, uint32_t estimates_low, uint
  * First, mean and covariance (divisor n) by expectation-maximisation; then one chain of data
  * augmentation from there, whose steps draw the missing values given mean and covariance, and
  * mean and covariance given the completed data. Its numbers come from a stream of the call's own,
- * always the same: equal input gives equal output. Weights, mask and estimate bits do not count;
- * nothing runs on other threads.
+ * always the same, so that equal input gives equal output: MCG59 from the state 2^50, which has a
+ * period of 128 numbers only (docs/statistics.md tells what that does). Weights, mask and estimate
+ * bits do not count; nothing runs on other threads.
  *
  *   missingParams    [0] most iterations of expectation-maximisation (below 1: 50)
  *                    [1] steps L of the chain for each imputation (below 1: 30)

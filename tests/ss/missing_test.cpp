@@ -162,18 +162,17 @@ std::vector<bool> gaps_of(int p, const R* row) {
 // Mean and covariance of completed rows, and what conditional covariances add to them.
 Normal estimate(int p, int n, const Vector& rows, const Vector& extra) {
   Normal law(p);
-  for (int j = 0; j < p; ++j) {
-    Wide sum = 0;
-    for (int i = 0; i < n; ++i) sum += rows[i * p + j];
-    law.mean[j] = sum / n;
+  for (int i = 0; i < n; ++i)
+    for (int j = 0; j < p; ++j) law.mean[j] += rows[i * p + j] / n;
+  law.cov = extra;
+  Vector own(p);
+  for (int i = 0; i < n; ++i) {
+    for (int j = 0; j < p; ++j) own[j] = rows[i * p + j] - law.mean[j];
+    for (int j = 0; j < p; ++j)
+      for (int k = 0; k <= j; ++k) law.cov[j * p + k] += own[j] * own[k];
   }
   for (int j = 0; j < p; ++j)
-    for (int k = 0; k < p; ++k) {
-      Wide sum = extra[j * p + k];
-      for (int i = 0; i < n; ++i)
-        sum += (rows[i * p + j] - law.mean[j]) * (rows[i * p + k] - law.mean[k]);
-      law.cov[j * p + k] = sum / n;
-    }
+    for (int k = 0; k <= j; ++k) law.cov[k * p + j] = law.cov[j * p + k] /= n;
   return law;
 }
 
@@ -267,9 +266,10 @@ TYPED_TEST(Missing, IterationsMatchSolving) {
       {5, 200, kRandom, 0.1, 1000},  {5, 120, kMonotone, 0.4, 0},   {5, 400, kRandom, 0.01, 0},
       {12, 300, kWholeRows, 0.4, 0}, {12, 150, kBlocks, 0.3, -50},  {12, 200, kRandom, 0.1, 0},
       {30, 400, kRandom, 0.4, 0},    {30, 300, kWholeRows, 0.1, 0}, {30, 300, kMonotone, 0.4, 20},
-      {30, 5000, kBlocks, 0.4, 0},
+      {120, 2600, kBlocks, 0.9, 0},  // several batches
   };
   for (const auto& c : cases) {
+    if (c.p == 120 && sizeof(R) == 4) continue;  // long, and the same code
     SCOPED_TRACE(testing::Message() << "case " << &c - cases);
     const auto x = incomplete<R>(c.p, c.n, c.kind, c.rate, c.offset, unsigned(&c - cases));
     const int live = blocks::live();
@@ -283,7 +283,7 @@ TYPED_TEST(Missing, IterationsMatchSolving) {
     if (given) law = Normal(c.p, start.data());
     for (int iterations = 1; iterations <= 3; ++iterations) {
       law = em_step(law, c.n, x);
-      if (c.n >= 5000 && iterations < 3) continue;
+      if (c.p == 120 && iterations < 3) continue;
       Case<R> run(c.p, c.n, x, iterations % 2 ? ORK_SS_ROWS : ORK_SS_COLUMNS, 1, 1, iterations);
       run.ask_estimates();
       if (given) run.start(start);
@@ -307,7 +307,7 @@ constexpr auto gaussian = _ruadRngGaussian;
 template <>
 constexpr auto gaussian<float> = _ruasRngGaussian;
 
-// Data augmentation, step by step, one number after the other.
+// Data augmentation, step by step.
 template <class R>
 struct Chain {
   int p, n;
@@ -317,10 +317,11 @@ struct Chain {
   Wide tau = 0, freedom;
   Vector rows;  // completed
   RuaStream* stream;
+  std::vector<R> ahead;  // numbers drawn, the next one last
 
-  Chain(const Normal& law, int n, const std::vector<R>& x)
+  Chain(const Normal& law, int n, const std::vector<R>& x, uint32_t seed_word = 0)
       : p(law.p), n(n), x(x), law(law), mu(p), matrix(p * p), freedom(p), rows(x.begin(), x.end()) {
-    const uint32_t seed[] = {0, 0x40000};
+    const uint32_t seed[] = {seed_word, 0x40000};
     EXPECT_EQ(__ruaNewStreamEx(&stream, RUA_BRNG_MCG59, 2, seed), 0);
   }
   ~Chain() { __ruaDeleteStream(&stream); }
@@ -337,8 +338,13 @@ struct Chain {
     tau = values[p], freedom = values[p + 1];
   }
   Wide draw() {
-    R z = 0;
-    EXPECT_EQ(gaussian<R>(RUA_GAUSSIAN_ICDF, stream, 1, &z, 0, 1), 0);
+    if (ahead.empty()) {
+      ahead.resize(1000);
+      EXPECT_EQ(gaussian<R>(RUA_GAUSSIAN_ICDF, stream, 1000, ahead.data(), 0, 1), 0);
+      std::reverse(ahead.begin(), ahead.end());
+    }
+    const R z = ahead.back();
+    ahead.pop_back();
     return z;
   }
   void impute() {
@@ -422,8 +428,9 @@ TYPED_TEST(Missing, ChainMatchesItsTranscription) {
   } cases[] = {{1, 20, kRandom, 0.3, false},   {2, 40, kRandom, 0.3, false},
                {2, 60, kWholeRows, 0.2, true}, {3, 50, kWholeRows, 0.3, false},
                {3, 600, kBlocks, 0.3, true},   {24, 90, kRandom, 0.5, false},
-               {45, 130, kRandom, 0.5, true}};
+               {45, 130, kRandom, 0.5, true},  {120, 5000, kBlocks, 0.9, false}};
   for (const auto& c : cases) {
+    if (c.p == 120 && sizeof(R) == 4) continue;  // long, and the same code
     SCOPED_TRACE(testing::Message() << "case " << &c - cases);
     const auto x = incomplete<R>(c.p, c.n, c.kind, c.rate, 3, 5);
     constexpr int imputations = 2, steps = 2, iterations = 2;
@@ -609,35 +616,44 @@ Normal completed(const Case<R>& run, const std::vector<R>& x, int imputation) {
   return estimate(run.p, run.n, rows, Vector(run.p * run.p));
 }
 
-// The imputations of a chain follow one another, and their mean scatters more than that of as many
-// independent ones: by how much shows between data sets.
+// The imputations of a chain follow one another, so their mean scatters more than that of as many
+// independent ones. By how much, chains of the transcription from other seeds tell; their own mean
+// shows that the law is right.
 TEST(Missing, MeansOfTheImputationsScatterAroundTheEstimate) {
-  constexpr int p = 3, n = 60, imputations = 200, sets = 25, values = p + p * p;
-  Vector sum(values), squares(values);
-  for (int set = 0; set < sets; ++set) {
-    const auto x = incomplete<double>(p, n, kRandom, 0.25, 2, 100 + set);
-    Normal law(p);
-    for (int i = 0; i < 60; ++i) law = em_step(law, n, x);
-    Case<double> run(p, n, x, ORK_SS_COLUMNS, imputations, 1, 100, 1e-6);
-    run.ask_simulated();
-    ASSERT_EQ(run.run(), 0);
+  constexpr int p = 3, n = 40, imputations = 200, chains = 16, values = p + p * p;
+  const auto x = incomplete<double>(p, n, kRandom, 0.25, 2, 6);
+  Normal law(p);
+  for (int i = 0; i < 100; ++i) law = em_step(law, n, x);
+  // Means in deviations, covariances likewise, as distances from the estimate.
+  const auto add = [&](Vector& to, const Normal& c) {
+    const auto deviation = [&](int j) { return sqrtl(law.cov[j * p + j]); };
+    for (int i = 0; i < p; ++i) {
+      to[i] += (c.mean[i] - law.mean[i]) / deviation(i) / imputations;
+      for (int j = 0; j < p; ++j)
+        to[p + i * p + j] +=
+            (c.cov[i * p + j] - law.cov[i * p + j]) / (deviation(i) * deviation(j) * imputations);
+    }
+  };
+  Vector sum(values), squares(values), own(values);
+  for (int k = 0; k < chains; ++k) {
+    Chain<double> chain(law, n, x, 4 * k + 1);
     Vector mean(values);
     for (int i = 0; i < imputations; ++i) {
-      const Normal c = completed(run, x, i);
-      for (int k = 0; k < values; ++k)
-        mean[k] += (k < p ? c.mean[k] - law.mean[k] : c.cov[k - p] - law.cov[k - p]) / imputations;
+      chain.impute();
+      add(mean, estimate(p, n, chain.rows, Vector(p * p)));
+      chain.draw_law();
     }
-    for (int k = 0; k < values; ++k) {
-      const int i = k < p ? k : (k - p) / p, j = k < p ? k : k % p;
-      const Wide scale = sqrtl(law.cov[i * p + i]) * (k < p ? 1 : sqrtl(law.cov[j * p + j]));
-      EXPECT_LT(fabsl(mean[k]), scale / 4) << set << " " << k;
-      sum[k] += mean[k] / scale, squares[k] += mean[k] * mean[k] / (scale * scale);
-    }
+    for (int i = 0; i < values; ++i) sum[i] += mean[i], squares[i] += mean[i] * mean[i];
   }
-  for (int k = 0; k < values; ++k) {
-    const Wide mean = sum[k] / sets, variance = squares[k] / sets - mean * mean;
-    EXPECT_LT(fabsl(mean), 4 * sqrtl(variance / sets)) << k;
-    printf("%d %g %g\n", k, double(mean), double(sqrtl(variance)));
+  Case<double> run(p, n, x, ORK_SS_COLUMNS, imputations, 1, 100, 1e-9);
+  run.ask_simulated();
+  ASSERT_EQ(run.run(), 0);
+  for (int i = 0; i < imputations; ++i) add(own, completed(run, x, i));
+  for (int i = 0; i < values; ++i) {
+    const Wide mean = sum[i] / chains, spread = sqrtl(squares[i] / chains - mean * mean);
+    EXPECT_LT(spread, 0.25) << i;
+    EXPECT_LT(fabsl(mean), 4 * spread / sqrtl(chains)) << i;
+    EXPECT_LT(fabsl(own[i]), 3 * spread) << i;
   }
 }
 
@@ -673,7 +689,6 @@ TEST(Missing, IntervalsCoverTheMean) {
   }
   EXPECT_GE(covered, sets * 0.93);
   EXPECT_LE(covered, sets * 0.97);
-  printf("covered %d of %d\n", covered, sets);
 }
 
 }  // namespace

@@ -22,11 +22,11 @@ class Imputation {
         blocks_(2 * square() + p_),
         area_(3 * uint64_t(length_) * p_),
         factor_(blocks_.get()),
-        products_(factor_ + square()),
-        zeros_(products_ + square()),
+        products_(place(blocks_, square())),
+        zeros_(place(blocks_, 2 * square())),
         x_(area_.get()),
-        z_(x_ + size_t(length_) * p_),
-        draws_(z_ + size_t(length_) * p_) {
+        z_(place(area_, uint64_t(length_) * p_)),
+        draws_(place(area_, 2 * uint64_t(length_) * p_)) {
     if (blocks_) std::fill_n(zeros_, p_, R(0));
   }
   explicit operator bool() const { return blocks_ && area_; }

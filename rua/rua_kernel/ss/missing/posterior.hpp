@@ -18,11 +18,11 @@ class Posterior {
         p_(model.p),
         blocks_(3 * square() + 3 * uint64_t(p_)),
         matrix_(blocks_.get()),
-        bartlett_(matrix_ + square()),
-        root_(bartlett_ + square()),
-        mean_(root_ + square()),
-        drawn_(mean_ + p_),
-        normals_(drawn_ + p_) {
+        bartlett_(place(blocks_, square())),
+        root_(place(blocks_, 2 * square())),
+        mean_(place(blocks_, 3 * square())),
+        drawn_(place(blocks_, 3 * square() + p_)),
+        normals_(place(blocks_, 3 * square() + 2 * uint64_t(p_))) {
     if (blocks_) set_prior(prior, centre);
   }
   explicit operator bool() const { return bool(blocks_); }
