@@ -62,7 +62,7 @@ int main(void) {
   if (status != 0) return 1;
   check(__ruadSSEditMissingVals(task, &params, param, NULL, NULL, NULL, NULL, &count, simulated,
                                 NULL, NULL));
-  check(_ruadSSMissingValues(task, 0, 0, ORK_SS_IMPUTATION, 0, &ork_threader_serial));
+  check(ork_ss_compute(task, ORK_SS_IMPUTED_VALUES, ORK_SS_IMPUTATION, &ork_threader_serial));
   check(__ruaSSDeleteTask(&task));
 
   /* 3. Each imputation completes the table; its mean and the square of its standard error. */

@@ -116,13 +116,15 @@ int ork_stream_load(RuaStream** stream, const char* file);
 /* ---- Statistics --------------------------------------------------------------------------- */
 
 /* Computations that have no estimate bit in ss.h: bits beside those, for ork_ss_compute alone. */
-#define ORK_SS_REPAIRED_COR (1ull << 40) /* paramCorrelation from cor, by SPECTRAL */
+#define ORK_SS_REPAIRED_COR (1ull << 40)   /* paramCorrelation from cor, by SPECTRAL */
+#define ORK_SS_IMPUTED_VALUES (1ull << 41) /* simulated and estimates, by IMPUTATION */
 
 /* Computes the estimates (a mask of bits of ss.h and of those above) of a task made by
  * __ruadSSNewTask or __ruasSSNewTask, each by the method bits that serve it, in this order:
  * moments, sums and matrices; extremes; quantiles; deviations; pooled and group covariance; partial
- * covariance; repair. So the last two may start from a covariance or correlation of the same call.
- * QUANTILES by STREAM or STREAM_ADD are the streaming ones. threader null: one thread.
+ * covariance; repair; imputation. So the two before it may start from a covariance or correlation
+ * of the same call. QUANTILES by STREAM or STREAM_ADD are the streaming ones. threader null: one
+ * thread.
  *
  * Before anything is computed: NULL_TASK; BAD_METHOD for an estimate that no method bit serves;
  * then for each computation BAD_DIMENSION, BAD_OBSERVATION_COUNT, NULL_OBSERVATIONS, NULL_STORAGE,

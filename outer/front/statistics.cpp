@@ -48,6 +48,7 @@ constexpr Computation computations[] = {
      alone<_ruasSSPartialCovariance>, false},
     {ORK_SS_REPAIRED_COR, ORK_SS_SPECTRAL, _ruadSSCorParametrization, _ruasSSCorParametrization,
      false},
+    {ORK_SS_IMPUTED_VALUES, ORK_SS_IMPUTATION, _ruadSSMissingValues, _ruasSSMissingValues},
 };
 
 // Fields without which these estimates cannot be had by these methods, in the order in which
@@ -97,6 +98,15 @@ constexpr Need needs[] = {
     {ORK_SS_REPAIRED_COR, any, ORK_HAS(corStorage), ORK_SS_NULL_STORAGE},
     {ORK_SS_REPAIRED_COR, any, ORK_HAS(paramCorrelation), ORK_SS_NULL_PARAM_COR},
     {ORK_SS_REPAIRED_COR, any, ORK_HAS(paramCorrelationStorage), ORK_SS_NULL_STORAGE},
+    {ORK_SS_IMPUTED_VALUES, any, ORK_HAS(missingParams), ORK_SS_NULL_MISSING_PARAMS},
+    {ORK_SS_IMPUTED_VALUES, any, ORK_HAS(missingParamCount), ORK_SS_NULL_MISSING_PARAM_COUNT},
+    {ORK_SS_IMPUTED_VALUES, any, [](const Record& t) { return !t.simulated || t.simulatedCount; },
+     ORK_SS_NULL_SIMULATED_COUNT},
+    {ORK_SS_IMPUTED_VALUES, any, [](const Record& t) { return t.simulated || !t.simulatedCount; },
+     ORK_SS_NULL_SIMULATED},
+    {ORK_SS_IMPUTED_VALUES, any,
+     [](const Record& t) { return t.simulated || (t.estimates && t.estimateCount); },
+     ORK_SS_NOTHING_TO_IMPUTE},
 };
 #undef ORK_HAS
 

@@ -36,7 +36,8 @@ struct Data {
         {ORK_SS_EDIT_PARAM_COR_STORAGE, &full},   {ORK_SS_EDIT_ORDER_STATS_STORAGE, &layout},
         {ORK_SS_EDIT_GROUP_INDEX, groups},        {ORK_SS_EDIT_GROUP_REQUEST, request},
         {ORK_SS_EDIT_PARTIAL_INDEX, partial},     {ORK_SS_EDIT_QUANTILE_COUNT, &one},
-        {ORK_SS_EDIT_STREAM_ORDER_COUNT, &one},   {ORK_SS_EDIT_STREAM_PARAM_COUNT, &one}};
+        {ORK_SS_EDIT_STREAM_ORDER_COUNT, &one},   {ORK_SS_EDIT_STREAM_PARAM_COUNT, &one},
+        {ORK_SS_EDIT_MISSING_PARAM_COUNT, &one},  {ORK_SS_EDIT_ESTIMATE_COUNT, &one}};
     const bool parameter = code == ORK_SS_EDIT_QUANTILE_ORDERS ||
                            code == ORK_SS_EDIT_STREAM_ORDERS || code == ORK_SS_EDIT_STREAM_PARAMS;
     if (const auto i = integers.find(code); i != integers.end())
@@ -122,6 +123,12 @@ const struct {
       {ORK_SS_EDIT_COR_STORAGE, ORK_SS_NULL_STORAGE},
       {ORK_SS_EDIT_PARAM_COR, ORK_SS_NULL_PARAM_COR},
       {ORK_SS_EDIT_PARAM_COR_STORAGE, ORK_SS_NULL_STORAGE}}},
+    {ORK_SS_IMPUTED_VALUES,
+     ORK_SS_IMPUTATION,
+     {{ORK_SS_EDIT_MISSING_PARAMS, ORK_SS_NULL_MISSING_PARAMS},
+      {ORK_SS_EDIT_MISSING_PARAM_COUNT, ORK_SS_NULL_MISSING_PARAM_COUNT},
+      {ORK_SS_EDIT_ESTIMATES, ORK_SS_NOTHING_TO_IMPUTE},
+      {ORK_SS_EDIT_ESTIMATE_COUNT, ORK_SS_NOTHING_TO_IMPUTE}}},
 };
 
 // Of those missing the first is named; and nothing runs, sums neither, which come first.
@@ -168,6 +175,8 @@ TYPED_TEST(FrontComputations, GroupsPartialCovarianceAndRepair) {
   ASSERT_EQ(d.compute(ORK_SS_COR | ORK_SS_REPAIRED_COR, ORK_SS_ONE_PASS | ORK_SS_SPECTRAL), 0);
   EXPECT_NEAR(d.at(ORK_SS_EDIT_PARAM_COR, 1), std::sqrt(6.8 / 8), 1e-6);
   EXPECT_EQ(d.at(ORK_SS_EDIT_PARAM_COR, 3), 1);
+  // Of the five parameters there is one.
+  EXPECT_EQ(d.compute(ORK_SS_IMPUTED_VALUES, ORK_SS_IMPUTATION), ORK_SS_BAD_MISSING_PARAM_COUNT);
 }
 
 // Every estimate that the headers name is served by one of the methods that they name.
