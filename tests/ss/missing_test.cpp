@@ -283,7 +283,7 @@ TYPED_TEST(Missing, IterationsMatchSolving) {
     if (given) law = Normal(c.p, start.data());
     for (int iterations = 1; iterations <= 3; ++iterations) {
       law = em_step(law, c.n, x);
-      if (c.p == 120 && iterations < 3) continue;
+      if (c.p == 120 && iterations > 1) break;  // time
       Case<R> run(c.p, c.n, x, iterations % 2 ? ORK_SS_ROWS : ORK_SS_COLUMNS, 1, 1, iterations);
       run.ask_estimates();
       if (given) run.start(start);
