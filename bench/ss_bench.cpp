@@ -8,6 +8,7 @@
 #include "ss_moments.hpp"
 #include "ss_outliers.hpp"
 #include "ss_quantiles.hpp"
+#include "ss_robust.hpp"
 
 int main(int argc, char** argv) {
   Report report("ss", argc, argv);
@@ -17,4 +18,5 @@ int main(int argc, char** argv) {
   if (report.wants("quantiles")) quantiles::run(report);
   if (report.wants("groups")) groups::run(report);
   if (report.wants("missing")) missing::run(report);
+  if (report.wants("robust")) robust::run(report);
 }

@@ -219,44 +219,44 @@ int32_t __ruasSSEditTask(ork_ss_task* task, int64_t code, const float* value);
 int32_t __ruaiSSEditTask(ork_ss_task* task, int64_t code, const void* value);
 
 /* Codes; the comment gives the length of arrays, and (int) marks those of the i form. */
-#define ORK_SS_EDIT_DIMENSION 1           /* (int) p */
-#define ORK_SS_EDIT_OBSERVATION_COUNT 2   /* (int) n */
-#define ORK_SS_EDIT_OBSERVATIONS 3        /* p n */
-#define ORK_SS_EDIT_STORAGE_FORMAT 4      /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
-#define ORK_SS_EDIT_VARIABLE_MASK 5       /* (int) p */
-#define ORK_SS_EDIT_WEIGHTS 6             /* n */
-#define ORK_SS_EDIT_MEAN 7                /* p; in the two-pass method an input */
-#define ORK_SS_EDIT_RAW2 8                /* p */
-#define ORK_SS_EDIT_RAW3 9                /* p */
-#define ORK_SS_EDIT_RAW4 10               /* p */
-#define ORK_SS_EDIT_CENTRAL2 11           /* p */
-#define ORK_SS_EDIT_CENTRAL3 12           /* p */
-#define ORK_SS_EDIT_CENTRAL4 13           /* p */
-#define ORK_SS_EDIT_KURTOSIS 14           /* p */
-#define ORK_SS_EDIT_SKEWNESS 15           /* p */
-#define ORK_SS_EDIT_MIN 16                /* p */
-#define ORK_SS_EDIT_MAX 17                /* p */
-#define ORK_SS_EDIT_VARIATION 18          /* p */
-#define ORK_SS_EDIT_COV 19                /* p p, or packed */
-#define ORK_SS_EDIT_COV_STORAGE 20        /* (int) ORK_SS_FULL, _LOWER_PACKED, _UPPER_PACKED */
-#define ORK_SS_EDIT_COR 21                /* p p, or packed */
-#define ORK_SS_EDIT_COR_STORAGE 22        /* (int) */
-#define ORK_SS_EDIT_ACCUMULATED_WEIGHT 23 /* 2: W and W2 so far, {0, 0} to begin */
-#define ORK_SS_EDIT_QUANTILE_COUNT 24     /* (int) */
-#define ORK_SS_EDIT_QUANTILE_ORDERS 25    /* quantileCount, each in [0, 1] */
-#define ORK_SS_EDIT_QUANTILES 26          /* quantileCount for each variable processed */
-#define ORK_SS_EDIT_ORDER_STATS 27        /* p n */
-#define ORK_SS_EDIT_GROUP_INDEX 28        /* (int) n, each 0 or more */
-#define ORK_SS_EDIT_POOLED_COV_STORAGE 29 /* (int) */
-#define ORK_SS_EDIT_POOLED_MEAN 30        /* p */
-#define ORK_SS_EDIT_POOLED_COV 31         /* p p, or packed */
-#define ORK_SS_EDIT_GROUP_REQUEST 32      /* (int) 0 or 1 for each group */
-#define ORK_SS_EDIT_GROUP_MEANS 33        /* p for each group asked for */
-#define ORK_SS_EDIT_GROUP_COV_STORAGE 34  /* (int) */
-#define ORK_SS_EDIT_GROUP_COV 35          /* one matrix for each group asked for */
-#define ORK_SS_EDIT_ROBUST_COV_STORAGE 36 /* (int) */
-#define ORK_SS_EDIT_ROBUST_PARAM_COUNT 37 /* (int) */
-#define ORK_SS_EDIT_ROBUST_PARAMS 38
+#define ORK_SS_EDIT_DIMENSION 1            /* (int) p */
+#define ORK_SS_EDIT_OBSERVATION_COUNT 2    /* (int) n */
+#define ORK_SS_EDIT_OBSERVATIONS 3         /* p n */
+#define ORK_SS_EDIT_STORAGE_FORMAT 4       /* (int) ORK_SS_ROWS or ORK_SS_COLUMNS */
+#define ORK_SS_EDIT_VARIABLE_MASK 5        /* (int) p */
+#define ORK_SS_EDIT_WEIGHTS 6              /* n */
+#define ORK_SS_EDIT_MEAN 7                 /* p; in the two-pass method an input */
+#define ORK_SS_EDIT_RAW2 8                 /* p */
+#define ORK_SS_EDIT_RAW3 9                 /* p */
+#define ORK_SS_EDIT_RAW4 10                /* p */
+#define ORK_SS_EDIT_CENTRAL2 11            /* p */
+#define ORK_SS_EDIT_CENTRAL3 12            /* p */
+#define ORK_SS_EDIT_CENTRAL4 13            /* p */
+#define ORK_SS_EDIT_KURTOSIS 14            /* p */
+#define ORK_SS_EDIT_SKEWNESS 15            /* p */
+#define ORK_SS_EDIT_MIN 16                 /* p */
+#define ORK_SS_EDIT_MAX 17                 /* p */
+#define ORK_SS_EDIT_VARIATION 18           /* p */
+#define ORK_SS_EDIT_COV 19                 /* p p, or packed */
+#define ORK_SS_EDIT_COV_STORAGE 20         /* (int) ORK_SS_FULL, _LOWER_PACKED, _UPPER_PACKED */
+#define ORK_SS_EDIT_COR 21                 /* p p, or packed */
+#define ORK_SS_EDIT_COR_STORAGE 22         /* (int) */
+#define ORK_SS_EDIT_ACCUMULATED_WEIGHT 23  /* 2: W and W2 so far, {0, 0} to begin */
+#define ORK_SS_EDIT_QUANTILE_COUNT 24      /* (int) */
+#define ORK_SS_EDIT_QUANTILE_ORDERS 25     /* quantileCount, each in [0, 1] */
+#define ORK_SS_EDIT_QUANTILES 26           /* quantileCount for each variable processed */
+#define ORK_SS_EDIT_ORDER_STATS 27         /* p n */
+#define ORK_SS_EDIT_GROUP_INDEX 28         /* (int) n, each 0 or more */
+#define ORK_SS_EDIT_POOLED_COV_STORAGE 29  /* (int) */
+#define ORK_SS_EDIT_POOLED_MEAN 30         /* p */
+#define ORK_SS_EDIT_POOLED_COV 31          /* p p, or packed */
+#define ORK_SS_EDIT_GROUP_REQUEST 32       /* (int) 0 or 1 for each group */
+#define ORK_SS_EDIT_GROUP_MEANS 33         /* p for each group asked for */
+#define ORK_SS_EDIT_GROUP_COV_STORAGE 34   /* (int) */
+#define ORK_SS_EDIT_GROUP_COV 35           /* one matrix for each group asked for */
+#define ORK_SS_EDIT_ROBUST_COV_STORAGE 36  /* (int) */
+#define ORK_SS_EDIT_ROBUST_PARAM_COUNT 37  /* (int) */
+#define ORK_SS_EDIT_ROBUST_PARAMS 38       /* 4: breakdown, rejection, accuracy, steps */
 #define ORK_SS_EDIT_ROBUST_MEAN 39         /* p */
 #define ORK_SS_EDIT_ROBUST_COV 40          /* p p, or packed */
 #define ORK_SS_EDIT_OUTLIER_PARAM_COUNT 41 /* (int) */
@@ -462,6 +462,46 @@ int32_t _ruadSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
 int32_t _ruasSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
                                   uint32_t estimates_high, uint32_t method_low,
                                   uint32_t method_high, const ork_threader* threader);
+
+/* Mean and covariance that outliers cannot move far, by TBS: robustMean (p) and robustCov, from
+ * n > 2 p observations. In three stages, of which docs/statistics.md has the formulas:
+ * an orthogonalised estimate from robust scales of one variable each (Gnanadesikan, Kettenring
+ * 1972; Maronna, Zamar 2002), the moments of the observations that it finds near, then
+ * steps towards a translated biweight S-estimate (Rocke 1996). Weights, mask and estimate bits do
+ * not count.
+ *
+ * robustParams are read when robustParamCount is 4. A value out of its range, a NaN too, means the
+ * default:
+ *   0  breakdown, above 0: the part of the data that may be bad; at most and by default
+ *      (n - p) / (2 n)
+ *   1  rejection, in (0, 1): the part of clean Gaussian data, for large n, that gets no weight;
+ *      0.001
+ *   2  accuracy, above 0: the steps end when no more than this is the root of the sum of squares
+ *      of the weights' changes; 0.001
+ *   3  steps, 0 or more, truncated: their largest number; reaching it is no failure. 0 leaves the
+ *      result of the second stage, the sum of squares divided by the number of observations near;
+ *      100
+ * Where breakdown and rejection cannot be had together (at breakdown 1/2 and rejection 0.001:
+ * below p = 5 and from some p = 30 on), observations count fully up to the distance that the
+ * rejection tells, and not at all beyond.
+ *
+ * A variable of which more than half the values are equal has no robust scale and takes no part in
+ * the first stage. Powers of two as units change no digit of a result but its exponent; layouts
+ * and storages change nothing, numbers of threads what rounding does.
+ *
+ * Statuses in their order: p -4001; n -4002; storageFormat null -4044, unknown -4003; robustMean
+ * null -4028; robustCov null -4027; its storage null -4044, unknown -4003; method -4029;
+ * observations null -4032; memory -4000; a value that is NaN or infinite, or no convergence of the
+ * first stage's eigenvectors -5000; no observation with weight -4026; and those of
+ * __ruadTestCovRank and __ruadInvCov. After -4000 from the first two blocks, of 3 n reals (and
+ * p^2 more where the storage is packed), and of some 5/2 p^2 reals and 3 n for each of the threads,
+ * which are as many as have room in 10 MB, and after -5000 nothing is written. */
+int32_t _ruadSSRobustCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                uint32_t method_low, uint32_t method_high,
+                                const ork_threader* threader);
+int32_t _ruasSSRobustCovariance(ork_ss_task* task, uint32_t estimates_low, uint32_t estimates_high,
+                                uint32_t method_low, uint32_t method_high,
+                                const ork_threader* threader);
 
 /* Mahalanobis distances sqrt((x - m)' A (x - m)) of observations first to last - 1, the distance of
  * the first at place 0. What it reads beyond dimension, observationCount, observations and

@@ -11,13 +11,13 @@
 #include "outer/dense/dense.hpp"
 
 namespace ork::dense {
-// Room for n * n reals, or null.
+// Room for n * n reals, or null; none is asked for where n is 0.
 template <class R>
 struct Block {
   R* data = nullptr;
   explicit Block(long long n) {
     const long long bytes = n * n * sizeof(R);
-    if (bytes <= PTRDIFF_MAX) data = static_cast<R*>(ork_serv_allocate(size_t(bytes), 128));
+    if (n > 0 && bytes <= PTRDIFF_MAX) data = static_cast<R*>(ork_serv_allocate(size_t(bytes), 128));
   }
   ~Block() { ork_serv_deallocate(data); }
   Block(const Block&) = delete;

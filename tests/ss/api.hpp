@@ -32,6 +32,7 @@ struct Api;
     static constexpr auto stream = _rua##t##SSStreamQuantiles;            \
     static constexpr auto deviations = _rua##t##SSMAD;                    \
     static constexpr auto median = _rua##t##SSWMedian;                    \
+    static constexpr auto robust = _rua##t##SSRobustCovariance;           \
     static constexpr auto repair = _rua##t##SSCorParametrization;         \
     static constexpr auto outliers = _rua##t##SSOutliersDetection;        \
     static constexpr auto missing = _rua##t##SSMissingValues;             \

@@ -1,5 +1,6 @@
 // Repair of correlation matrices, against cyclic Jacobi rotations in long double.
 #include "ork/zem.h"
+#include "ss/jacobi.hpp"
 #include "ss/statistics.hpp"
 #include "support/bits.hpp"
 #include "support/special.hpp"
@@ -7,8 +8,6 @@
 namespace {
 using namespace statistics;
 
-typedef long double Wide;
-typedef std::vector<Wide> Square;  // p by p, row after row
 constexpr int kStorages[] = {ORK_SS_FULL, ORK_SS_LOWER_PACKED, ORK_SS_UPPER_PACKED};
 
 template <class R>
@@ -26,28 +25,6 @@ int place(int storage, int p, int i, int j) {
   return i * p - i * (i - 1) / 2 + j - i;
 }
 int size(int storage, int p) { return storage == ORK_SS_FULL ? p * p : p * (p + 1) / 2; }
-
-// a becomes diagonal, the rows of the result are its eigenvectors.
-Square jacobi(int p, Square& a) {
-  Square v(p * p, 0);
-  for (int i = 0; i < p; ++i) v[i * p + i] = 1;
-  for (int sweep = 0; sweep < 30; ++sweep)
-    for (int i = 0; i < p; ++i)
-      for (int j = 0; j < i; ++j) {
-        if (a[i * p + j] == 0) continue;
-        const Wide angle = atan2l(2 * a[i * p + j], a[j * p + j] - a[i * p + i]) / 2;
-        const Wide c = cosl(angle), s = sinl(angle);
-        const auto rotate = [&](Square& m, int at, int step) {
-          for (int k = 0; k < p; ++k) {
-            Wide &x = m[at * j + k * step], &y = m[at * i + k * step];
-            const Wide old = x;
-            x = c * old + s * y, y = c * y - s * old;
-          }
-        };
-        rotate(a, p, 1), rotate(a, 1, p), rotate(v, p, 1);
-      }
-  return v;
-}
 
 Wide least_eigenvalue(int p, Square a) {
   jacobi(p, a);

@@ -144,6 +144,15 @@ int32_t median(const R* x, int n, R* to, const ork_threader* threader) {
   return quantiles(*task, ORK_SS_QUANTILES, ORK_SS_FAST, threader);
 }
 
+template <class R>
+R take_median(R* x, int n) {
+  const int last = n - 1, k = last / 2;
+  const R below = Math<R>::select(n, x, k);
+  return last % 2 ? between(below, least(x + k + 1, last - k), R(0.5)) : below;
+}
+
+template double take_median(double*, int);
+template float take_median(float*, int);
 template int32_t median(const double*, int, double*, const ork_threader*);
 template int32_t median(const float*, int, float*, const ork_threader*);
 template int32_t quantiles(Task<double>&, uint64_t, uint64_t, const ork_threader*);

@@ -11,6 +11,10 @@ int32_t quantiles(Task<R>& task, uint64_t estimates, uint64_t method, const ork_
 template <class R>
 int32_t median(const R* x, int n, R* to, const ork_threader* threader);
 
+// The same of values that it may reorder; it takes no memory.
+template <class R>
+R take_median(R* x, int n);
+
 // The weighted quantile of each variable, of the first order; nothing is checked.
 template <class R>
 int32_t weighted_quantiles(const Task<R>& task);
