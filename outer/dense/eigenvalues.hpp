@@ -17,7 +17,8 @@ struct Block {
   R* data = nullptr;
   explicit Block(long long n) {
     const long long bytes = n * n * sizeof(R);
-    if (n > 0 && bytes <= PTRDIFF_MAX) data = static_cast<R*>(ork_serv_allocate(size_t(bytes), 128));
+    if (n > 0 && bytes <= PTRDIFF_MAX)
+      data = static_cast<R*>(ork_serv_allocate(size_t(bytes), 128));
   }
   ~Block() { ork_serv_deallocate(data); }
   Block(const Block&) = delete;

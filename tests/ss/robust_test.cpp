@@ -49,7 +49,8 @@ struct Estimate {
     R* const a = t[ORK_SS_EDIT_ROBUST_COV];
     if (storage == ORK_SS_FULL) return a[i * p + j];
     if ((storage == ORK_SS_UPPER_PACKED) != (j > i)) std::swap(i, j);
-    return a[storage == ORK_SS_LOWER_PACKED ? i * (i + 1) / 2 + j : i * p - i * (i - 1) / 2 + j - i];
+    return a[storage == ORK_SS_LOWER_PACKED ? i * (i + 1) / 2 + j
+                                            : i * p - i * (i - 1) / 2 + j - i];
   }
   std::vector<R> results() {
     std::vector<R> all;
@@ -207,15 +208,18 @@ TEST(RobustConstants, SatisfyTheirIntegrals) {
         const auto square = [](Wide d) { return d * d / 2; };
         const auto one = [](Wide) -> Wide { return 1; };
         const Wide beyond = mean(end, end + 15, one);
-        SCOPED_TRACE(testing::Message() << p << " " << double(breakdown) << " " << double(rejection));
+        SCOPED_TRACE(testing::Message()
+                     << p << " " << double(breakdown) << " " << double(rejection));
         EXPECT_NEAR(double(beyond / rejection), 1, 1e-6);
         if (c == 0) {
           // Even rejection at M alone has a higher breakdown, or even a descent from 0 on a lower.
           const Wide alone = mean(tiny, m, square) + m * m / 2 * beyond;
-          const Wide steepest = mean(tiny, m, [&](Wide d) {
-            const Wide t = 1 - d * d / (m * m);
-            return m * m / 6 * (1 - t * t * t);
-          }) + m * m / 6 * beyond;
+          const Wide steepest = mean(tiny, m,
+                                     [&](Wide d) {
+                                       const Wide t = 1 - d * d / (m * m);
+                                       return m * m / 6 * (1 - t * t * t);
+                                     }) +
+                                m * m / 6 * beyond;
           if (alone < breakdown * m * m / 2) {
             EXPECT_LE(steepest, breakdown * m * m / 6 - 0.99e-4L);
           }
@@ -229,7 +233,8 @@ TEST(RobustConstants, SatisfyTheirIntegrals) {
         // rho by its definition, the integral of d w(d): by parts, its mean is that of the tail.
         const Wide bound = m * m / 2 + integral(m, end, weight);
         const Wide rho = mean(tiny, m, square) + beyond * bound + mean(m, end, [&](Wide d) {
-                           const Wide t = (d - m) / c, t2 = t * t;  // Horner's scheme of the integral
+                           const Wide t = (d - m) / c,
+                                      t2 = t * t;  // Horner's scheme of the integral
                            return m * m / 2 + c * m * t * (1 + t2 * (-2 / 3.L + t2 / 5)) +
                                   c * c * (1 - (1 - t2) * (1 - t2) * (1 - t2)) / 6;
                          });
@@ -278,7 +283,8 @@ TYPED_TEST(Robust, SolvesTheEstimatingEquations) {
   const struct {
     int p;
     R rejection;
-  } cases[] = {{1, R(0.06)}, {2, R(0.05)}, {3, R(0.03)}, {5, R(0.01)}, {10, R(0.001)}, {33, R(1e-6)}};
+  } cases[] = {{1, R(0.06)}, {2, R(0.05)},   {3, R(0.03)},
+               {5, R(0.01)}, {10, R(0.001)}, {33, R(1e-6)}};
   for (const auto& [p, rejection] : cases)
     for (const int n : {12 * p + 1, 700}) {
       const Sample<R> s(p, n, 5);
@@ -375,8 +381,7 @@ TYPED_TEST(Robust, MovesWithTheData) {
     }
   }
   EXPECT_NEAR(turned[0], 0.6 * plain[0] - 0.8 * plain[1], this->wide ? 1e-6 : 1e-2);
-  EXPECT_NEAR(turned[p + 1],
-              0.48 * (plain[p] - plain[2 * p + 1]) + (0.36 - 0.64) * plain[p + 1],
+  EXPECT_NEAR(turned[p + 1], 0.48 * (plain[p] - plain[2 * p + 1]) + (0.36 - 0.64) * plain[p + 1],
               this->wide ? 1e-6 : 1e-2);
 }
 

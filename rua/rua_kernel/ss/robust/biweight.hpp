@@ -77,7 +77,9 @@ inline Biweight find_biweight(int p, double breakdown, double rejection) {
   const Biweight limit{end, 0};
   const double distance = rejection_distance(p, breakdown);
   if (rejection >= 1 - __ruadChi2CDF(p, distance * distance)) return limit;
-  const auto equation = [&](const Biweight& w, double mean) { return mean - breakdown * w.bound(); };
+  const auto equation = [&](const Biweight& w, double mean) {
+    return mean - breakdown * w.bound();
+  };
   // rho in units of its bound is greatest for m = 0, so that no m gives a mean above that one's.
   const Biweight steepest{0, end};
   if (equation(steepest, mean_rho(p, steepest)) < -kBiweightTolerance) return limit;

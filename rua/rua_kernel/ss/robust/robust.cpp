@@ -14,8 +14,7 @@ namespace {
 template <class R>
 int32_t check(const Task<R>& t, uint64_t method) {
   if (!t.dimension || t.integer(t.dimension) < 1) return ORK_SS_BAD_DIMENSION;
-  if (!t.observationCount ||
-      t.integer(t.observationCount) <= 2 * t.integer(t.dimension))
+  if (!t.observationCount || t.integer(t.observationCount) <= 2 * t.integer(t.dimension))
     return ORK_SS_BAD_OBSERVATION_COUNT;
   if (!t.storageFormat) return ORK_SS_NULL_STORAGE;
   const int64_t layout = t.integer(t.storageFormat);
@@ -36,8 +35,7 @@ struct Parameters {
   int steps;
 
   // A value that is out of its range, a NaN too, gives way to the default.
-  explicit Parameters(const Task<R>& t)
-      : rejection(R(0.001)), tolerance(R(0.001)), steps(100) {
+  explicit Parameters(const Task<R>& t) : rejection(R(0.001)), tolerance(R(0.001)), steps(100) {
     const double n = t.n(), most = (n - t.p()) / (2 * n);
     breakdown = most;
     const R* const a = t.robustParams;
@@ -54,8 +52,7 @@ struct Parameters {
 template <class R>
 int select_good(int p, int n, const R* e, R* w) {
   memcpy(w, e, size_t(n) * sizeof(R));
-  const R limit =
-      R(__ruadChi2ICDF(p, 0.9) * take_median(w, n) / __ruadChi2ICDF(p, 0.5));
+  const R limit = R(__ruadChi2ICDF(p, 0.9) * take_median(w, n) / __ruadChi2ICDF(p, 0.5));
   int good = 0;
   for (int i = 0; i < n; ++i) {
     const bool is_good = limit > e[i];

@@ -108,8 +108,7 @@ int32_t iterate(const Data<R>& data, const Biweight& biweight, R tolerance, int 
     const R scale = R(quantile) / Math<R>::select(n, scratch, good - 1);
     const Sums sums = weigh(biweight, n, scale, d, w);
     if (sums.w <= 0) return ORK_SS_TOO_FEW_GOOD;
-    if (const int32_t status =
-            weighted_moments(data, w, R(sums.wd2 / p), estimate, threader))
+    if (const int32_t status = weighted_moments(data, w, R(sums.wd2 / p), estimate, threader))
       return status;
     change = sums.change;
   }
