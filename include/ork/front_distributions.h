@@ -141,6 +141,18 @@ int ork_iRngBinomial(int method, RuaStream* stream, int n, int32_t* r, int32_t n
  * BAD_GENERATOR: it is too short. Range: a > 0, p > 0, p < 1. */
 int ork_iRngNegbinomial(int method, RuaStream* stream, int n, int32_t* r, double a, double p);
 
+/* Marked items among s drawn without replacement from a lot of l, m of which are marked; from
+ * max(0, s + m - l) to min(s, m), without a draw where these are one value. Of the smaller part
+ * of the lot and the smaller part of the sample, a mode up to 39 by a table of sums of
+ * probabilities, a double uniform number each; above by rejection, pairs of single ones
+ * (Kachitvichyanukul, Schmeiser 1985: H2PE). After a failed draw r holds numbers of the smaller
+ * parts. Set-ups stay with the stream, in chunk 6, until a parameter changes, which replaces
+ * the chunk; a table takes 48 bytes and 8 for each value but the first, at most 2.4 MB.
+ * NO_MEMORY: the chunk could not be made; BAD_GENERATOR: it is too short. Range: l > 0, s >= 0,
+ * s <= l, m >= 0, m <= l. */
+int ork_iRngHypergeometric(int method, RuaStream* stream, int n, int32_t* r, int32_t l, int32_t s,
+                           int32_t m);
+
 
 #ifdef __cplusplus
 }

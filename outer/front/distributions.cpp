@@ -116,3 +116,7 @@ ORK_OUTER int ork_iRngBinomial(int method, RuaStream* stream, int n, int32_t* r,
 ORK_OUTER int ork_iRngNegbinomial(int method, RuaStream* stream, int n, int32_t* r, double a, double p) {
   return draw(_ruaiRngNegbinomial, 1, a > 0 && p > 0 && p < 1, true, method, stream, n, r, a, p);
 }
+ORK_OUTER int ork_iRngHypergeometric(int method, RuaStream* stream, int n, int32_t* r, int32_t l, int32_t s,
+                           int32_t m) {
+  return draw(_ruaiRngHypergeometric, 1, l > 0 && s >= 0 && s <= l && m >= 0 && m <= l, true, method, stream, n, r, l, s, m);
+}

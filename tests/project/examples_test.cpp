@@ -65,6 +65,13 @@ const Example examples[] = {
       {"mean of the second return", {0.02, 0.02}, 0.005},
       {"shape 0: status", {-3}, 0},
       {"status", {0}, 0}}},
+    // Five standard errors of 100000 inspections, from exact sums of probabilities.
+    {"sampling",
+     {{"lot of 500, 15 bad, passes:", {0.818322}, 0.0065},
+      {"line with 3% bad, passes:", {0.810798}, 0.0065},
+      {"good items before a bad one:", {0.97 / 0.03}, 0.52},
+      {"51 of 50: status", {-3}, 0},
+      {"status", {0}, 0}}},
     // Of 1 to n: mean (n + 1)/2, variance n (n + 1)/12, quantiles to 200 places.
     {"statistics_in_blocks",
      {{"observations", {20000}, 0},

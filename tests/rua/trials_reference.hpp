@@ -1,5 +1,6 @@
 #pragma once
-// Binomial numbers written out one candidate at a time, from recorded uniform numbers.
+// Binomial and hypergeometric numbers written out one candidate at a time, from recorded uniform
+// numbers.
 #include <xmmintrin.h>
 
 #include <algorithm>
@@ -38,6 +39,43 @@ class Trials {
       if (p >= 0.5 && !failed)
         for (int32_t& x : r) x = ntrial - x;
     });
+  }
+
+  int32_t hypergeometric(int n, int32_t l, int32_t s, int32_t m) {
+    return call([&] {
+      const int32_t n1 = std::min(m, l - m), n2 = l - n1, k = std::min(s, l - s);
+      const int32_t most = std::min(n1, k);
+      const int M = int((float(k) + 1) * (float(n1) + 1) / (float(l) + 2));
+      if (most == 0)
+        r.assign(n, 0);
+      else if (M > 39)
+        h2pe(n, n1, n2, k, l, M, most);
+      else if (const auto sums = hypergeometric_sums(n1, n2, k, l, M); true)
+        look_up(n, 2048, sums, M, [&](double) { return int(sums.size()) - 1; });
+      if (failed) return;
+      const bool few = 2.0 * s < l, marked = m <= l - m;
+      for (int32_t& x : r) {
+        if (!few)
+          x = marked ? m - x : x + s - n1;
+        else if (!marked)
+          x = s - x;
+      }
+    });
+  }
+
+  static std::vector<double> hypergeometric_sums(int32_t n1, int32_t n2, int32_t k, int32_t l,
+                                                 int M) {
+    double f = (ln_factorial(n2) - ln_factorial(n2 - k)) - (ln_factorial(l) - ln_factorial(l - k));
+    ork_zem_kernel_dExp_ttab[1](1, &f, &f);
+    std::vector<double> p = {f};
+    const int most = std::min(n1, k);
+    for (int x = 0; x < most && !(x >= M && p.back() < std::numeric_limits<double>::epsilon()); ++x)
+      p.push_back(p.back() * (double(n1 - x) * (k - x)) / ((x + 1.0) * (double(n2) - k + x + 1)));
+    std::vector<double> sums(p.size());
+    for (int x = 0; x <= M; ++x) sums[x] = x ? sums[x - 1] + p[x] : p[x];
+    sums.back() = 1;
+    for (int x = int(p.size()) - 2; x > M; --x) sums[x] = sums[x + 1] - p[x + 1];
+    return sums;
   }
 
   // Sums of the table, for numbers that hit them.
@@ -139,6 +177,89 @@ class Trials {
       for (size_t i = 0; i < u.size(); i += 2)
         if (const int32_t y = candidate(u[i], u[i + 1]); y >= least) r.push_back(y);
     }
+  }
+
+  static double ln_factorial(int32_t x) {
+    if (x < 16) return double(lgammal(x + 1.0L));
+    return (x + 0.5) * __ruadLn(x) + 0.9189385332 - x +
+           (1.0 / x) * (0.08333333333333333 - 0.002777777777777778 * ((1.0 / x) * (1.0 / x)));
+  }
+  // Of four, whose sum is l.
+  static double ln_factorials(const std::vector<int32_t>& x, int32_t l) {
+    if (*std::min_element(x.begin(), x.end()) < 16)
+      return ln_factorial(x[0]) + ln_factorial(x[1]) + ln_factorial(x[2]) + ln_factorial(x[3]);
+    double logs = 0, series = 0;
+    for (const double d : x) {
+      double ln_d, i;
+      ork_zem_kernel_dLn_ttab[1](1, &d, &ln_d);
+      ork_zem_kernel_dInv_ttab[1](1, &d, &i);
+      logs += (d + 0.5) * ln_d;
+      series += i * (0.08333333333333333 - 0.002777777777777778 * (i * i));
+    }
+    return logs + 3.6757541328 - l + series;
+  }
+
+  void h2pe(int count, int32_t i1, int32_t i2, int32_t ik, int32_t l, int M, int32_t most) {
+    const float n1 = float(i1), k = float(ik), b = float(i2 - ik), m = float(M);
+    const auto G = [&](int x) { return ln_factorials({x, i1 - x, ik - x, x + i2 - ik}, l); };
+    const auto exp = [](double x) {
+      ork_zem_kernel_dExp_ttab[1](1, &x, &x);
+      return float(x);
+    };
+    const float A =
+        1.5f * std::sqrt(n1 * float(i2) * float(l - ik) * k / (float(l) - 1)) / float(l);
+    const float a = float(int(A)) + 0.5f, d = m + 0.5f, xl = d - a, xr = d + a;
+    const double lf = G(M);
+    const float kl = exp(lf - G(int(xl))), kr = exp(lf - G(int(xr) - 1));
+    const float left = -__ruasLn(xl * (b + xl) / ((n1 + 1 - xl) * (k + 1 - xl)));
+    const float right = -__ruasLn((n1 + 1 - xr) * (k + 1 - xr) / (xr * (b + xr)));
+    const float p1 = 2 * a, p2 = p1 + kl / left, p3 = p2 + kr / right;
+    const auto by_ratio = [&](int y, float v) {
+      float f = 1;
+      for (int j = M; j > y && !(f < v && j < M - 64); --j) {
+        const float i = float(j);
+        f = f * ((b + i) * i / ((n1 + 1 - i) * (k + 1 - i)));
+      }
+      for (int j = M; j < y && !(f < v && j > M + 64); ++j) {
+        const float i = float(j);
+        f = f * ((n1 - i) * (k - i) / ((i + b + 1) * (i + 1)));
+      }
+      return y == M || !(f < v);
+    };
+    const auto P = [](float y) { return y * (1 - 0.5f * y + 0.33333334f * (y * y)); };
+    const auto R = [](float y) { return (y * y) * (y * y) / (y < 0 ? 1 + y : 1); };
+    const auto accepts = [&](int y, float v) {
+      if (most <= 16000) return by_ratio(y, v);
+      const float x = float(y), t = x - m, L = ln(v);
+      const float r1 = -t / (x + 1), s1 = t / (n1 + 1 - x), t1 = t / (k + 1 - x),
+                  e1 = -t / (b + x + 1);
+      const float g = (n1 + 1 - x) * (k + 1 - x) / ((b + x + 1) * (x + 1)) - 1;
+      const float gu = g * (1 - 0.5f * g + 0.33333334f * (g * g));
+      const float gl = gu - 0.25f * ((g * g) * (g * g)) / (g < 0 ? 1 + g : 1);
+      const float wr = m + 0.5f, ws = n1 + 0.5f - m, wt = k + 0.5f - m, we = m + 0.5f + b;
+      const float ub =
+          x * gu + 0.0034f - m * gl + P(r1) * wr + P(s1) * ws + P(t1) * wt + P(e1) * we;
+      if (ub < L) return false;
+      const float lb = (x + m) * (gl - gu) - 0.0078f + ub -
+                       0.25f * (R(r1) * wr + R(s1) * ws + R(t1) * wt + R(e1) * we);
+      return lb > L || !(lf - G(y) < L);
+    };
+    rounds(count, 2048, 1, [&](float u, float v) -> int32_t {
+      const float area = u * p3;
+      int y;
+      if (area <= p1) {
+        y = int(xl + area);
+      } else if (area <= p2) {
+        y = int(xl + ln(v) / left);
+        if (y < 0) return -1;
+        v = left * v * (area - p1);
+      } else {
+        y = int(xr - ln(v) / right);
+        if (y > most) return -1;
+        v = right * v * (area - p2);
+      }
+      return accepts(y, v) ? y : -1;
+    });
   }
 
   static float rest_of_stirling(float t) {

@@ -73,6 +73,21 @@ inline DiscreteLaw negbinomial(double a, double p, bool coarse = false) {
           coarse};
 }
 
+inline DiscreteLaw hypergeometric(int32_t l, int32_t s, int32_t m, bool coarse = false) {
+  const auto ln_choose = [](int64_t n, int64_t k) {
+    return ln_factorial(n) - ln_factorial(k) - ln_factorial(n - k);
+  };
+  return {"hypergeometric " + std::to_string(l) + " " + std::to_string(s) + " " + std::to_string(m),
+          [=](auto* stream, auto n, auto* r) {
+            return _ruaiRngHypergeometric(0, stream, n, r, l, s, m);
+          },
+          std::max(int64_t{0}, int64_t{s} + m - l),
+          int64_t((real(s) + 1) * (real(m) + 1) / (real(l) + 2)),
+          std::min(s, m),
+          [=](int64_t k) { return ln_choose(m, k) + ln_choose(l - m, s - k) - ln_choose(l, s); },
+          coarse};
+}
+
 // Every method at its borders, and far away.
 inline std::vector<DiscreteLaw> all_discrete() {
   std::vector<DiscreteLaw> laws = {uniform(0, 100), uniform(-12, -3), bernoulli(0.3),
@@ -92,6 +107,17 @@ inline std::vector<DiscreteLaw> all_discrete() {
                           {1000, 0.3}, {20, 1e-3},   {2e5, 0.999}, {1e6, 0.5}};
   for (const auto& [a, p] : ap) laws.push_back(negbinomial(a, p));
   laws.push_back(negbinomial(1e8, 0.5, true));
+  // Both halves of lot and sample; modes 39 and 40; 16000 values and one more.
+  for (const int s : {30, 130})
+    for (const int m : {60, 100}) laws.push_back(hypergeometric(160, s, m));
+  for (const int l : {421, 420}) laws.push_back(hypergeometric(l, 129, 129));
+  for (const int s : {80, 120}) laws.push_back(hypergeometric(200, s, s));
+  laws.push_back(hypergeometric(1600000000, 250000, 250000));
+  laws.push_back(hypergeometric(40000, 16000, 20000));
+  laws.push_back(hypergeometric(40000, 16001, 20000));
+  laws.push_back(hypergeometric(1000000, 1000, 300000));
+  laws.push_back(hypergeometric(1000000, 500000, 500000));
+  laws.push_back(hypergeometric(1000000000, 500000000, 500000000, true));
   return laws;
 }
 

@@ -18,4 +18,14 @@ int32_t find_or_make(RuaStream* stream, P*& record, const P& fresh) {
   return give_chunk(stream, P::kChunk, nullptr, record, sizeof(P));
 }
 
+// A chunk of `size` bytes in the place of the stream's chunk P::kChunk, if it has one. Its content
+// is undefined. NO_MEMORY: there is none at all, or the old one is as it was.
+template <class P>
+int32_t replace(RuaStream* stream, P*& record, uint32_t size) {
+  record = static_cast<P*>(ork_serv_allocate(size, kAlignment));
+  if (!record) return RUA_STATUS_NO_MEMORY;
+  drop_chunk(stream, P::kChunk);
+  return give_chunk(stream, P::kChunk, nullptr, record, size);
+}
+
 }  // namespace ork::rua
