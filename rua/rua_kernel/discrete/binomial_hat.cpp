@@ -97,7 +97,9 @@ void test_far(const BinomialHat& h, int32_t m, uint16_t* far, const Rest& rest, 
     const f32x4 kk = abs(load(k + i)), l = load(ln_v + i);
     const f32x4 middle = -(0.5f * kk) * kk * w;
     const f32x4 width = kk * w * (((kk * 0.33333334f + 0.625f) * kk + 0.16666667f) * w + 0.5f);
-    const auto in = kk < bounded, below = l<middle - width, above = l> middle + width;
+    const auto in = kk < bounded;
+    const auto below = l < middle - width;
+    const auto above = l > middle + width;
     store(accepted + i, as<f32x4>(in & below));
     return ~(in & (below | above));
   });
