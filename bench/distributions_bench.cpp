@@ -2,6 +2,7 @@
 // and GSL in the same run. A form over its bound is marked. distributions_bench NAME: one of them.
 #include <dlfcn.h>
 
+#include <array>
 #include <functional>
 #include <random>
 
@@ -108,6 +109,13 @@ struct Multivariate {
 };
 template <class R>
 const Multivariate<R> multivariate;
+
+// A mean for each number, from 1 to 100 in no order.
+const auto kMeans = [] {
+  std::array<double, kNumbers> m;
+  for (int i = 0; i < kNumbers; ++i) m[i] = 1 + 0.1 * (i * 377 % 991);
+  return m;
+}();
 
 struct Row {
   char type;

@@ -156,8 +156,8 @@ int32_t _ruasRngGaussianMV(int32_t method, RuaStream* stream, int32_t n, float* 
                            int32_t mstorage, const float* a, const float* t);
 
 /* ---- Discrete distributions ---------------------------------------------------------------- *
- * Integers. None of these functions reads `method`. By rejection, how many uniform numbers an
- * output takes varies, and calls in pieces give other numbers than one long call. */
+ * Integers. `method` is read by Poisson only. By rejection, how many uniform numbers an output
+ * takes varies, and calls in pieces give other numbers than one long call. */
 
 /* From a to b - 1: floors of uniform numbers in double. Where b - a is not a power of two,
  * values differ in probability by one step of the generator. A generator whose number can round
@@ -218,6 +218,29 @@ int32_t _ruaiRngNegbinomial(int32_t method, RuaStream* stream, int32_t n, int32_
  * s <= l, m >= 0, m <= l. */
 int32_t _ruaiRngHypergeometric(int32_t method, RuaStream* stream, int32_t n, int32_t* r, int32_t l,
                                int32_t s, int32_t m);
+
+/* Methods of Poisson. */
+enum {
+  RUA_POISSON_PTPE = 0,     /* below 27 one uniform number each, from there on rejection */
+  RUA_POISSON_POISNORM = 1  /* one number each; the law is within 6e-4 of Poisson's */
+};
+
+/* PTPE: below a mean of 27 a search in sums of probabilities, in double; from there on a
+ * triangle, parallelograms and exponential tails with pairs of numbers in single precision
+ * (Kachitvichyanukul, Schmeiser 1981). The set-up of the last mean stays with the stream, in
+ * chunk 3. Calls in pieces give the numbers of one long call below 27 only, since a round of
+ * pairs is as long as outputs are missing. NO_MEMORY: the chunk could not be made;
+ * BAD_GENERATOR: it is too short. POISNORM: below a mean of 1 a uniform number, at most 11;
+ * from there on a polynomial in a normal number, by ICDF, in single precision: results beyond
+ * 2^24 are multiples of powers of two. By either method the last digits of single precision
+ * begin to show in the law above 1e7 (docs/distributions.md). Range: lambda > 0, lambda <= 2e9. */
+int32_t _ruaiRngPoisson(int32_t method, RuaStream* stream, int32_t n, int32_t* r, double lambda);
+
+/* A mean for each output: a polynomial in a normal number by ICDF, always one each, and below a
+ * mean of 1/16 sums of probabilities. In double but for that number. The law is within 6e-4 of
+ * Poisson's. Range: lambda[i] > 0, lambda[i] <= 2e9. */
+int32_t _ruaiRngPoissonV(int32_t method, RuaStream* stream, int32_t n, int32_t* r,
+                         const double* lambda);
 
 #ifdef __cplusplus
 }

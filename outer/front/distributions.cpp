@@ -120,3 +120,11 @@ ORK_OUTER int ork_iRngHypergeometric(int method, RuaStream* stream, int n, int32
                            int32_t m) {
   return draw(_ruaiRngHypergeometric, 1, l > 0 && s >= 0 && s <= l && m >= 0 && m <= l, true, method, stream, n, r, l, s, m);
 }
+ORK_OUTER int ork_iRngPoisson(int method, RuaStream* stream, int n, int32_t* r, double lambda) {
+  return draw(_ruaiRngPoisson, 2, lambda > 0 && lambda <= 2e9, true, method, stream, n, r, lambda);
+}
+ORK_OUTER int ork_iRngPoissonV(int method, RuaStream* stream, int n, int32_t* r, const double* lambda) {
+  const bool there = lambda != nullptr;
+  const bool valid = true && (!there || (all(n, lambda, [](auto x) { return isfinite(x) && x > 0 && x <= 2e9; })));
+  return draw(_ruaiRngPoissonV, 1, valid, there, method, stream, n, r, lambda);
+}

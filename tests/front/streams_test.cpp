@@ -1,5 +1,7 @@
 // Streams and distributions through the public layer: bad arguments, and the same numbers as the
 // kernels behind it.
+#include <algorithm>
+
 #include "ork/front.h"
 #include "registry/distributions.hpp"
 #include "status_rows.hpp"
@@ -170,7 +172,7 @@ void check_draws(const Distribution& d, Front* front) {
     if (p.kind != Kind::array || p.counted)
       for (const double bad : breaking(d, p)) {
         v[k] = d.sample[k];
-        v[k].set(v[k].size() - 1, bad);
+        v[k].set(std::min<size_t>(v[k].size(), n) - 1, bad);
         expect(-3, 0, s, n, r.data(), v, p.name + (" = " + std::to_string(bad)));
       }
   }

@@ -14,6 +14,8 @@ struct DiscreteLaw {
   // Beyond single precision: neighbours cannot be told apart there. docs/distributions.md tells
   // from where on.
   bool coarse = false;
+  // Draws from which on the distance of a fitted law shows; likewise told there.
+  uint64_t shows = UINT64_MAX;
 };
 
 inline real ln_factorial(int64_t k) { return lgammal(real(k) + 1); }
@@ -88,6 +90,24 @@ inline DiscreteLaw hypergeometric(int32_t l, int32_t s, int32_t m, bool coarse =
           coarse};
 }
 
+// Method -1: PoissonV, every output with this mean.
+inline DiscreteLaw poisson(int32_t method, double lambda, bool coarse = false) {
+  const bool fitted = method != RUA_POISSON_PTPE && lambda > 0.5 && lambda < 4;
+  const char* const names[] = {"poissonv ", "poisson ", "poisson normal "};
+  return {names[method + 1] + std::to_string(lambda),
+          [=](RuaStream* s, int32_t n, int32_t* r) {
+            if (method >= 0) return _ruaiRngPoisson(method, s, n, r, lambda);
+            const std::vector<double> means(size_t(n), lambda);
+            return _ruaiRngPoissonV(0, s, n, r, means.data());
+          },
+          0,
+          int64_t(lambda),
+          INT32_MAX,
+          [=](int64_t k) { return k * logl(lambda) - lambda - ln_factorial(k); },
+          coarse,
+          fitted ? 1000000 : UINT64_MAX};
+}
+
 // Every method at its borders, and far away.
 inline std::vector<DiscreteLaw> all_discrete() {
   std::vector<DiscreteLaw> laws = {uniform(0, 100), uniform(-12, -3), bernoulli(0.3),
@@ -118,6 +138,13 @@ inline std::vector<DiscreteLaw> all_discrete() {
   laws.push_back(hypergeometric(1000000, 1000, 300000));
   laws.push_back(hypergeometric(1000000, 500000, 500000));
   laws.push_back(hypergeometric(1000000000, 500000000, 500000000, true));
+  for (const double lambda : {1e-3, 5.0, 26.99, 27.0, 50.0, 100.0, 100.01, 127.99, 1e6})
+    laws.push_back(poisson(RUA_POISSON_PTPE, lambda));
+  for (const double lambda :
+       {0.5, 0.999, 1.0, 1.99, 2.5, 6.0, 12.0, 24.0, 48.0, 99.99, 100.0, 127.99, 1e4, 1e6})
+    laws.push_back(poisson(RUA_POISSON_POISNORM, lambda));
+  for (double lambda = 0.05; lambda < 2e4; lambda *= 1.9) laws.push_back(poisson(-1, lambda));
+  for (const int32_t method : {0, 1, -1}) laws.push_back(poisson(method, 1e8, method >= 0));
   return laws;
 }
 

@@ -15,6 +15,15 @@ class Value {
   Value(double x) : Value{{x}} {}
   Value(std::initializer_list<double> x) : double_(x), float_(x.begin(), x.end()) {}
   Value(std::nullptr_t) {}
+  // For an array of as many elements as outputs, of which nobody draws more.
+  static Value repeated(std::initializer_list<double> x) {
+    Value all(nullptr);
+    for (size_t i = 0; i < 2048; ++i) {
+      all.double_.push_back(x.begin()[i % x.size()]);
+      all.float_.push_back(float(all.double_.back()));
+    }
+    return all;
+  }
 
   operator double() const { return double_[0]; }
   operator float() const { return float_[0]; }

@@ -233,7 +233,9 @@ def front_code(blocks):
     return "\n".join(out) + "\n"
 
 
-def value(text):
+def value(text, p):
+    if p.size == "n":
+        return f"Value::repeated({text})"
     return text if text.startswith("{") else f"{{{text}}}"
 
 
@@ -253,7 +255,7 @@ def registry(blocks):
         arguments = "".join(f", p[{i}]" for i in range(len(b.parameters)))
         values = place.get(b.values, -1)
         out.append(f"DISTRIBUTION({letter}, {b.element(letter)}, {b.name}, {max(1, len(b.methods))}, {values}, {chunk}, "
-                   f"(m, s, n, r{arguments}), ({', '.join(rows)}), ({', '.join(map(value, b.sample))}))")
+                   f"(m, s, n, r{arguments}), ({', '.join(rows)}), ({', '.join(map(value, b.sample, b.parameters))}))")
     return "\n".join(out) + "\n"
 
 
