@@ -56,17 +56,15 @@ ORK_INLINE void element(const Row& row, f64x2 t, f64x2 z, f64x2& offsets, f64x2&
 
 // Two outputs from two means and normal numbers.
 ORK_INLINE __m128i two(f64x2 mean, f64x2 z) {
-  const __m128i image = as<__m128i>(mean);
   const f64x2 t =
       as<f64x2>((as<u64x2>(mean) & splat_u64(0xfffffffffffff)) | splat_u64(0x3ff0000000000000)) -
       1.0;
-  const auto row = [](int high_word) -> const Row& {
-    const int32_t i = int32_t(uint32_t(high_word) >> 4 & 0x7ff) - 1019;
-    return kRows.row[i < 0 ? 0 : i > kLastRow ? kLastRow : i];
-  };
+  // Word 3 of each mean holds sign and exponent. Whatever the mean, the row is in the table.
+  __m128i row = _mm_sub_epi16(_mm_srli_epi16(as<__m128i>(mean), 4), _mm_set1_epi16(1019));
+  row = _mm_min_epi16(_mm_max_epi16(row, _mm_setzero_si128()), _mm_set1_epi16(kLastRow));
   f64x2 offsets0, offsets1, halves0, halves1;
-  element(row(_mm_extract_epi16(image, 3)), evens(t, t), evens(z, z), offsets0, halves0);
-  element(row(_mm_extract_epi16(image, 7)), odds(t, t), odds(z, z), offsets1, halves1);
+  element(kRows.row[_mm_extract_epi16(row, 3)], evens(t, t), evens(z, z), offsets0, halves0);
+  element(kRows.row[_mm_extract_epi16(row, 7)], odds(t, t), odds(z, z), offsets1, halves1);
   const f64x2 scale = sqrt(mean) + odds(offsets0, offsets1);
   const f64x2 polynomial = evens(halves0, halves1) + z * z * odds(halves0, halves1);
   const f64x2 x = 1 + mean + evens(offsets0, offsets1) + z * polynomial * scale;
@@ -101,14 +99,24 @@ int32_t by_sums(double lambda, float e) {
   return k;
 }
 
+bool any_small(int32_t n, const double* lambda) {
+  f64x2 least = splat(kSmall);
+  int32_t i = 0;
+  for (; n - i >= 4; i += 4)
+    least = _mm_min_pd(_mm_min_pd(load(lambda + i), load(lambda + i + 2)), least);
+  for (; i < n; ++i) least = _mm_min_pd(splat(lambda[i]), least);
+  return _mm_movemask_pd(least < kSmall) != 0;
+}
+
 void block(int32_t n, int32_t* r, const double* lambda) {
   alignas(64) float e[kBlockLength + 4];
   uint16_t place[kBlockLength + 4];
   int32_t small = 0;
-  for (int32_t i = 0; i < n; ++i) {
-    place[small] = uint16_t(i);
-    small += lambda[i] < kSmall;
-  }
+  if (any_small(n, lambda))
+    for (int32_t i = 0; i < n; ++i) {
+      place[small] = uint16_t(i);
+      small += lambda[i] < kSmall;
+    }
   for (int32_t k = 0; k < small; ++k) {
     const f32x4 z = _mm_castsi128_ps(_mm_loadu_si32(r + place[k]));
     e[k] = z[0] * 0.70710677f;
