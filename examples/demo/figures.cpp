@@ -73,6 +73,42 @@ std::string scatter_figure(const Quarters& q, const Analysis& a) {
   return in_both_widths(draw, 340, 300);
 }
 
+std::string robust_figure(const Quarters& q, const Robust& r) {
+  const auto &x = q.series[gdp_growth].values, &y = q.series[unemployment_change].values;
+  std::vector<double> robust_x, robust_y, classical_x, classical_y;
+  r.robust.ellipse(r.limit, robust_x, robust_y);
+  r.classical.ellipse(r.limit, classical_x, classical_y);
+  const auto range = [](std::vector<double> all, const std::vector<double>& a,
+                        const std::vector<double>& b) {
+    all.insert(all.end(), a.begin(), a.end());
+    all.insert(all.end(), b.begin(), b.end());
+    return widened(range_of(all), 0.06);
+  };
+  const Range xr = range(x, robust_x, classical_x), yr = range(y, robust_y, classical_y);
+  const auto draw = [&](int width, int height) {
+    Plot plot(width, height, xr, yr,
+              "Change of unemployment against growth, with the regions that hold 39 of 40 quarters "
+              "by the classical and by the robust estimate");
+    plot.axes("GDP growth, % a year", "change of unemployment, points");
+    plot.line(classical_x, classical_y, "theory");
+    plot.line(robust_x, robust_y, "curve");
+    for (size_t i = 0; i < x.size(); ++i) {
+      const bool apart = r.robust.distance(x[i], y[i]) > r.limit;
+      plot.dot(
+          x[i], y[i], plot.narrow() ? 2 : 2.5, apart ? "apart" : "data",
+          q.label(i + 1) + ": growth " + number(x[i], 1) + " %, unemployment " + number(y[i], 1));
+    }
+    for (size_t k = 0; k < r.apart.size() && k < 3; ++k) {
+      const size_t i = r.apart[k];
+      const bool left = x[i] < (xr.low + xr.high) / 2;
+      plot.text(x[i], y[i], left ? 6 : -6, 4, left ? Anchor::start : Anchor::end, q.label(i + 1),
+                "note");
+    }
+    return plot.finish();
+  };
+  return in_both_widths(draw, 340, 300);
+}
+
 std::string bootstrap_figure(const Bootstrap& b, double observed) {
   const Range x = range_of(b.draws);
   const auto edges = ticks_of(x, 60);

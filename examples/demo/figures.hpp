@@ -8,12 +8,14 @@
 #include "bootstrap.hpp"
 #include "curve.hpp"
 #include "measure.hpp"
+#include "robust.hpp"
 #include "series.hpp"
 
 namespace demo {
 
 std::string unemployment_figure(const Quarters&, const Curve&);
 std::string scatter_figure(const Quarters&, const Analysis&);
+std::string robust_figure(const Quarters&, const Robust&);
 std::string bootstrap_figure(const Bootstrap&, double observed);
 std::string quantile_figure(const Quarters&, const Analysis&);
 std::string speed_figure(const std::vector<Measured>&);

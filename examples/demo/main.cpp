@@ -19,6 +19,7 @@ int run(const std::string& input, const std::string& report) {
   r.quarters = transform(r.table);
   const Output output(report);
   r.analysis = analyse(r.quarters);
+  r.robust = compare_robust(r.quarters);
   r.curve = fit_curve(r.quarters);
   r.bootstrap = bootstrap(r.quarters, r.analysis, output.scratch(), progress);
   r.measured = measure(progress);

@@ -191,6 +191,25 @@ std::string bootstrap_section(const Results& r) {
   return text;
 }
 
+std::string robust_section(const Results& r) {
+  const Robust& s = r.robust;
+  std::string text = "<h2>Without the odd quarters</h2>\n";
+  if (!s.found)
+    return text + "<p>More than half of the quarters are alike: there is no robust scale.</p>\n";
+  std::string names;
+  for (size_t k = 0; k < s.apart.size() && k < 3; ++k)
+    names += (k == 0 ? "" : ", ") + r.quarters.label(s.apart[k] + 1);
+  return text +
+         figure(robust_figure(r.quarters, s),
+                "The same quarters. Within the line lie 39 of 40 by the robust estimate, which the "
+                "quarters far from the bulk do not move; within the broken line by the classical "
+                "one. " +
+                    std::to_string(s.apart.size()) + " quarters lie beyond the line" +
+                    (names.empty() ? "" : ", the farthest " + names) +
+                    ". The robust correlation is " + number(s.robust.correlation, 3) +
+                    ", the classical one " + number(s.classical.correlation, 3) + ".");
+}
+
 // "1 in 480 000", for a probability; powers of ten where it is small.
 std::string once_in(double probability) {
   if (!(probability > 0)) return "practically never";
@@ -270,8 +289,8 @@ std::string page(const Results& r) {
          "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n"
          "<title>Growth and unemployment</title>\n<style>" +
          std::string(style) + "</style>\n</head>\n<body>\n<main>\n" + head(r) +
-         unemployment_section(r) + series_section(r) + bootstrap_section(r) + quantile_section(r) +
-         speed_section(r) + foot(r) + "</main>\n</body>\n</html>\n";
+         unemployment_section(r) + series_section(r) + robust_section(r) + bootstrap_section(r) +
+         quantile_section(r) + speed_section(r) + foot(r) + "</main>\n</body>\n</html>\n";
 }
 
 }  // namespace demo

@@ -7,6 +7,7 @@
 #include "bootstrap.hpp"
 #include "curve.hpp"
 #include "measure.hpp"
+#include "robust.hpp"
 #include "series.hpp"
 
 namespace demo {
@@ -15,6 +16,7 @@ struct Results {
   Table table;
   Quarters quarters;
   Analysis analysis;
+  Robust robust;
   Bootstrap bootstrap;
   Curve curve;
   std::vector<Measured> measured;
