@@ -118,6 +118,7 @@ int ork_stream_load(RuaStream** stream, const char* file);
 /* Computations that have no estimate bit in ss.h: bits beside those, for ork_ss_compute alone. */
 #define ORK_SS_REPAIRED_COR (1ull << 40)   /* paramCorrelation from cor, by SPECTRAL */
 #define ORK_SS_IMPUTED_VALUES (1ull << 41) /* simulated and estimates, by IMPUTATION */
+#define ORK_SS_OUTLIERS (1ull << 43) /* outlierWeights, by BACON */
 
 /* Computes the estimates (a mask of bits of ss.h and of those above) of a task made by
  * __ruadSSNewTask or __ruasSSNewTask, each by the method bits that serve it, in this order:

@@ -101,6 +101,7 @@ const struct {
       {ORK_SS_EDIT_GROUP_REQUEST, ORK_SS_NULL_GROUPS},
       {ORK_SS_EDIT_GROUP_COV, ORK_SS_NULL_GROUP_COV},
       {ORK_SS_EDIT_GROUP_MEANS, ORK_SS_NULL_GROUP_MEANS}}},
+    {ORK_SS_OUTLIERS, ORK_SS_BACON, {{ORK_SS_EDIT_OUTLIER_WEIGHTS, ORK_SS_NULL_OUTLIER_WEIGHTS}}},
     {ORK_SS_PARTIAL_COV | ORK_SS_PARTIAL_COR,
      ORK_SS_FAST,
      {{ORK_SS_EDIT_COV, ORK_SS_NULL_COV},
@@ -205,6 +206,10 @@ TEST(FrontComputations, LeaveNoConstantUnserved) {
   for (const uint64_t e : estimates)
     EXPECT_TRUE(std::any_of(methods.begin(), methods.end(), [&](auto m) { return serves(e, m); }))
         << e;
+  for (const uint64_t m : methods)
+    EXPECT_TRUE(
+        std::any_of(estimates.begin(), estimates.end(), [&](auto e) { return serves(e, m); }))
+        << m;
   __ruaSSDeleteTask(&task);
 }
 
