@@ -118,14 +118,15 @@ int ork_stream_load(RuaStream** stream, const char* file);
 /* Computations that have no estimate bit in ss.h: bits beside those, for ork_ss_compute alone. */
 #define ORK_SS_REPAIRED_COR (1ull << 40)   /* paramCorrelation from cor, by SPECTRAL */
 #define ORK_SS_IMPUTED_VALUES (1ull << 41) /* simulated and estimates, by IMPUTATION */
-#define ORK_SS_OUTLIERS (1ull << 43) /* outlierWeights, by BACON */
+#define ORK_SS_ROBUST_COV (1ull << 42)     /* robustMean and robustCov, by TBS */
+#define ORK_SS_OUTLIERS (1ull << 43)       /* outlierWeights, by BACON */
 
 /* Computes the estimates (a mask of bits of ss.h and of those above) of a task made by
  * __ruadSSNewTask or __ruasSSNewTask, each by the method bits that serve it, in this order:
- * moments, sums and matrices; extremes; quantiles; deviations; pooled and group covariance; partial
- * covariance; repair; imputation. So the two before it may start from a covariance or correlation
- * of the same call. QUANTILES by STREAM or STREAM_ADD are the streaming ones. threader null: one
- * thread.
+ * moments, sums and matrices; extremes; quantiles; deviations; pooled and group covariance;
+ * outliers; robust covariance; partial covariance; repair; imputation. So partial covariance and
+ * repair may start from a covariance or correlation of the same call. QUANTILES by STREAM or
+ * STREAM_ADD are the streaming ones. threader null: one thread.
  *
  * Before anything is computed: NULL_TASK; BAD_METHOD for an estimate that no method bit serves;
  * then for each computation BAD_DIMENSION, BAD_OBSERVATION_COUNT, NULL_OBSERVATIONS, NULL_STORAGE,

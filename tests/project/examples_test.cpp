@@ -108,6 +108,13 @@ const Example examples[] = {
       {"Niederreiter: error falls as points to the power", {-1.2}, 0.25},
       {"MT19937: error falls as points to the power", {-0.5}, 0.1},
       {"   262144", {0, 0, 1.5e-3}, 5e-4}}},
+    // Four giants and the star of spectral class F between them and the others.
+    {"outliers",
+     {{"classical correlation", {-0.210}, 5e-4},
+      {"classical outliers", {}, 0},
+      {"robust correlation", {0.68}, 0.01},
+      {"robust outliers", {7, 11, 20, 30, 34}, 0},
+      {"status", {0}, 0}}},
     {"tour",
      {{"exp of 200000 numbers:", {1}, 1e6},
       {"lognormal: mean", {1.701, 1.701, 0.1866, 0.1866}, 0.01},
