@@ -81,7 +81,7 @@ const Example examples[] = {
       {"covariance", {16667501.2501, 0.99999993}, 1e-3},
       {"quartiles", {5000.75, 10000.5, 15000.25, 200}, 201},
       {"all calls succeeded", {}, 0}}},
-    // By exact fractions of the 30 rows.
+    // From the 30 rows by a plain program.
     {"groups_compared",
      {{"all together", {-0.018}, 5e-4},
       {"setosa", {0.787, 4.86, 3.31}, 5e-4},
