@@ -1,18 +1,50 @@
-// Asinh, double, HA: ln(|x| + sqrt(x^2 + 1)) on the x87 unit in two passes, the sign of x.
-// Fast range: 0.125 <= |x| < 2^1020; below it an odd series in extended precision, so that y's
-// rounding does not count; above it ln x + ln 2. Bound: 0.52 ulp.
-#include "areas/two_pass.hpp"
+// Asinh, double, HA: ln(|x| + sqrt(x^2 + 1)), the sign of x; in two words, or on the x87 unit
+// where these leave the rounding open, about one element of 300, and from 2^500 on (from 2^1020
+// ln x + ln 2). Below 0.125 an odd series, so that y's rounding does not count. Bound: 0.52 ulp.
+#include "areas/ln_pair.hpp"
 
 namespace ork {
 namespace {
 
-struct AsinhHa : TwoPassCore {
+struct AsinhHa : Core<double> {
   static constexpr char name[] = "vdAsinh";
-  static bool is_fast(uint64_t image) {
-    return (uint32_t)(image >> 32 & 0x7FFFFFFF) - 0x3FC00000 < 0x7FB00000 - 0x3FC00000;
+  static constexpr unsigned x87 = x87_extended;
+  static constexpr uint32_t least = 0x3FC00000, limit = 0x5F300000;  // 0.125, 2^500: high words
+  // c1 to c8 of the odd series.
+  static constexpr double c[] = {
+#include "areas/asinh/near_zero_d.inc"
+  };
+
+  ORK_INLINE f64x2 eval(f64x2 x, u32x4& rare) {
+    const u32x4 size = as<u32x4>(abs(x));
+    rare |= (size - least) | (limit - 1 - size);
+    const f64x2 a = _mm_min_pd(abs(x), splat(0x1p500));  // a rare lane must not overflow
+    const auto [p, p_low] = square_pair(a);
+    const f64x2 s = 1.0 + p;
+    const f64x2 s_low = ((f64x2)_mm_max_pd(p, splat(1.0)) - s) + (f64x2)_mm_min_pd(p, splat(1.0));
+    const auto [root, root_low] = root_pair(s, s_low + p_low);
+    const auto [y, lost] = exact_sum(root, a);
+    const Pair<f64x2> ln_y = ln_pair(y, lost + root_low);
+    // In extended y is off by 3 * 2^-64, y c by 2^-64, the logarithm's sums by 2^-62 of it.
+    const f64x2 r = settled(ln_y, 0x1.1p-62 + ln_y.high * 0x1p-62, rare);
+    return or_bits(r, as<u64x2>(x) & sign_f64x2);
   }
-  static long double first(long double a) { return a + __builtin_sqrtl(a * a + 1.0L); }
-  static double last(long double ln_y) { return (double)ln_y; }
+
+  // The series of `special` in double: off by 5 * 2^-53 of t, and the extended sum by 2^-64 of a.
+  ORK_INLINE f64x2 eval_rest(f64x2 x, f64x2 r, u32x4& rare) {
+    const f64x2 size = abs(x), a = _mm_min_pd(size, splat(0.125)), z = a * a;
+    f64x2 p = splat(c[7]);
+#pragma GCC unroll 8
+    for (int i = 6; i >= 0; --i) p = c[i] + z * p;
+    const f64x2 t = a * (z * p);
+    u32x4 open = {};
+    const f64x2 small = settled({a, t}, a * 0x1.2p-64 - t * 0x1.8p-51, open);
+    const u32x4 is_small = as<u32x4>((f64x2)_mm_cmplt_pd(size, splat(0.125)));
+    const f64x2 v = select(is_small, or_bits(small, as<u64x2>(x) & sign_f64x2), r);
+    rare |= as<u32x4>((f64x2)_mm_cmpunord_pd(v, v)) | (as<u32x4>(size) - 0x00100000) |
+            (limit - 1 - as<u32x4>(size));
+    return v;
+  }
 
   static int special(const double* x, double* r) {
     const uint64_t magnitude = as<uint64_t>(*x) & ~0ull >> 1;
@@ -20,19 +52,18 @@ struct AsinhHa : TwoPassCore {
       *r = *x + *x;
       return 0;
     }
-    const long double a = *x;
-    if (magnitude < 0x3FC0000000000000) {
-      constexpr double c[] = {
-#include "areas/asinh/near_zero_d.inc"
-      };
-      const long double z = a * a;
+    const long double a = *x, z = a * a;
+    if (magnitude < (uint64_t)least << 32) {
       long double p = c[7];
       for (int i = 6; i >= 0; --i) p = c[i] + z * p;
       *r = (double)(a + a * (z * p));
       return 0;
     }
-    const Extended y = {__builtin_fabsl(a) * 0x1p-200L};
-    *r = __builtin_copysign((double)(ln_extended(y) + 201 * 0.693147180559945309417232L), *x);
+    const long double size = __builtin_fabsl(a);
+    const long double ln_y = magnitude < 0x7FB0000000000000
+                                 ? ln_extended(size + __builtin_sqrtl(z + 1.0L))
+                                 : ln_twice_extended(size);
+    *r = __builtin_copysign((double)ln_y, *x);
     return 0;
   }
 };
@@ -41,5 +72,5 @@ struct AsinhHa : TwoPassCore {
 }  // namespace ork
 
 ORK_EXPORT void ork_zem_kernel_dAsinh_W7HAynn(int n, const double* a, double* r) {
-  ork::two_pass<ork::AsinhHa>(n, a, r);
+  ork::block<ork::AsinhHa>(n, {{a}, {r}});
 }
