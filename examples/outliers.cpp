@@ -53,23 +53,27 @@ void draw(std::FILE* file, const Estimate (&estimates)[2]) {
   const auto y = [](double v) { return 330 - (v - 3.5) * 100; };
   const auto across = [](double v) { return 430 + v * 85; };
   const auto up = [](double v) { return 330 - std::min(v, 14.0) * 21; };
-  std::fputs("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 780 370' font-family='sans-serif' "
-             "font-size='12'>\n<rect width='780' height='370' fill='white'/>\n"
-             "<path d='M30 20V335H370M420 20V335H770' fill='none' stroke='#888'/>\n"
-             "<text x='40' y='355'>log of temperature, falling; upwards log of light</text>\n"
-             "<text x='430' y='355'>expected distances; upwards those found</text>\n",
-             file);
+  std::fputs(
+      "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 780 370' font-family='sans-serif' "
+      "font-size='12'>\n<rect width='780' height='370' fill='white'/>\n"
+      "<path d='M30 20V335H370M420 20V335H770' fill='none' stroke='#888'/>\n"
+      "<text x='40' y='355'>log of temperature, falling; upwards log of light</text>\n"
+      "<text x='430' y='355'>expected distances; upwards those found</text>\n",
+      file);
   for (const Estimate& e : estimates) {
     // The points of distance `limit`, by the Cholesky factor.
     const double l = std::sqrt(e.cov[0]), m = e.cov[1] / l, k = std::sqrt(e.cov[3] - m * m);
-    std::fprintf(file, "<g stroke='%s' fill='none'><svg x='30' y='20' width='345' height='315' "
-                       "viewBox='30 20 345 315'><path d='", e.colour);
+    std::fprintf(file,
+                 "<g stroke='%s' fill='none'><svg x='30' y='20' width='345' height='315' "
+                 "viewBox='30 20 345 315'><path d='",
+                 e.colour);
     for (int i = 0; i < 90; ++i) {
       const double c = limit * std::cos(i * M_PI / 45), s = limit * std::sin(i * M_PI / 45);
       std::fprintf(file, "%c%.1f %.1f", i ? 'L' : 'M', x(e.mean[0] + l * c),
                    y(e.mean[1] + m * c + k * s));
     }
-    std::fprintf(file, "Z'/></svg><path d='M430 %.1fH770' stroke-dasharray='3 5'/></g>\n", up(limit));
+    std::fprintf(file, "Z'/></svg><path d='M430 %.1fH770' stroke-dasharray='3 5'/></g>\n",
+                 up(limit));
     std::vector<double> d;
     for (const auto& one : star) d.push_back(e.distance(one));
     std::sort(d.begin(), d.end());
@@ -100,7 +104,8 @@ int main(int argc, char** argv) {
   if (status != 0) return 1;
   __ruadSSEditCovCor(task, e[0].mean, e[0].cov, &full, nullptr, nullptr);
   __ruadSSEditRCov(task, &full, nullptr, nullptr, e[1].mean, e[1].cov);
-  status = ork_ss_compute(task, ORK_SS_COV | ORK_SS_ROBUST_COV, ORK_SS_ONE_PASS | ORK_SS_TBS, nullptr);
+  status =
+      ork_ss_compute(task, ORK_SS_COV | ORK_SS_ROBUST_COV, ORK_SS_ONE_PASS | ORK_SS_TBS, nullptr);
   __ruaSSDeleteTask(&task);
   for (const Estimate& one : e) report(one);
   std::printf("status %d\n", status);

@@ -46,9 +46,9 @@ Robust compare_robust(const Quarters& quarters) {
   r.found = ork_ss_compute(task, ORK_SS_ROBUST_COV, ORK_SS_TBS, nullptr) == ORK_SS_OK;
   __ruaSSDeleteTask(&task);
   for (Pair* pair : {&r.classical, &r.robust})
-    pair->correlation =
-        pair->covariance[1] / std::sqrt(pair->covariance[0] * pair->covariance[3]);
-  r.found = r.found && std::fabs(r.robust.correlation) < 1 && std::fabs(r.classical.correlation) < 1;
+    pair->correlation = pair->covariance[1] / std::sqrt(pair->covariance[0] * pair->covariance[3]);
+  r.found =
+      r.found && std::fabs(r.robust.correlation) < 1 && std::fabs(r.classical.correlation) < 1;
 
   r.limit = -2 * std::log(0.025);  // chi-square with two degrees of freedom
   if (!r.found) return r;

@@ -20,7 +20,7 @@ struct Pair {
 struct Robust {
   bool found;  // false: nearly all quarters are alike, and no robust scale is to be had
   Pair classical, robust;
-  double limit;              // squared distance that 1 in 40 Gaussian quarters passes
+  double limit;               // squared distance that 1 in 40 Gaussian quarters passes
   std::vector<size_t> apart;  // quarters beyond it, by the robust estimate, the farthest first
 };
 

@@ -213,9 +213,9 @@ TEST(FrontComputations, LeaveNoConstantUnserved) {
     EXPECT_TRUE(std::any_of(methods.begin(), methods.end(), [&](auto m) { return serves(e, m); }))
         << e;
   for (const uint64_t m : methods)
-    EXPECT_TRUE(
-        std::any_of(estimates.begin(), estimates.end(), [&](auto e) { return serves(e, m); }))
-        << m;
+    EXPECT_TRUE(std::any_of(estimates.begin(), estimates.end(), [&](auto e) {
+      return serves(e, m);
+    })) << m;
   __ruaSSDeleteTask(&task);
 }
 
