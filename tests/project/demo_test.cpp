@@ -124,7 +124,7 @@ TEST_F(Demo, ShippedDataGiveAWholePageWithTheRightFigures) {
   const Figures figures = check_page(html);
   int drawings = 0;
   for (size_t at = 0; (at = html.find("<svg", at)) != std::string::npos; ++at) ++drawings;
-  EXPECT_EQ(drawings, 10);                                        // five figures in two widths
+  EXPECT_EQ(drawings, 12);                                        // six figures in two widths
   EXPECT_NE(html.find("Public domain.</p>"), std::string::npos);  // the table's own note
   std::ifstream expected(ORK_SOURCE_DIR "/tests/project/demo_figures.tsv");
   int compared = 0;
