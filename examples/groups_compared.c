@@ -32,18 +32,28 @@ int main(void) {
 
   /* 1. A task with the group of each flower. */
   ork_ss_task* task;
-  status |= __ruadSSNewTask(&task, &p, &n, &columns, flowers[0], NULL, NULL, 0);
+  status |= ork_dSSNewTask(&task, &p, &n, &columns, flowers[0], NULL, NULL);
   if (status != 0) return 1;
-  status |= __ruadSSEditCovCor(task, mean, cov, &full, NULL, NULL);
-  status |=
-      __ruadSSEditPooledCovariance(task, group, pooled_mean, pooled, wanted, means[0], covs[0]);
-  status |= __ruaiSSEditTask(task, ORK_SS_EDIT_POOLED_COV_STORAGE, &full);
-  status |= __ruaiSSEditTask(task, ORK_SS_EDIT_GROUP_COV_STORAGE, &full);
+  const struct {
+    int code;
+    double* array;
+  } arrays[] = {{ORK_SS_EDIT_MEAN, mean},
+                {ORK_SS_EDIT_COV, cov},
+                {ORK_SS_EDIT_POOLED_MEAN, pooled_mean},
+                {ORK_SS_EDIT_POOLED_COV, pooled},
+                {ORK_SS_EDIT_GROUP_MEANS, means[0]},
+                {ORK_SS_EDIT_GROUP_COV, covs[0]}};
+  for (int k = 0; k < 6; ++k) status |= ork_dSSEditTask(task, arrays[k].code, arrays[k].array);
+  status |= ork_iSSEditTask(task, ORK_SS_EDIT_GROUP_INDEX, group);
+  status |= ork_iSSEditTask(task, ORK_SS_EDIT_GROUP_REQUEST, wanted);
+  status |= ork_iSSEditTask(task, ORK_SS_EDIT_COV_STORAGE, &full);
+  status |= ork_iSSEditTask(task, ORK_SS_EDIT_POOLED_COV_STORAGE, &full);
+  status |= ork_iSSEditTask(task, ORK_SS_EDIT_GROUP_COV_STORAGE, &full);
 
   /* 2. The covariance of all flowers, that of each species, and the pooled one. */
   status |= ork_ss_compute(task, ORK_SS_COV | ORK_SS_POOLED_COV | ORK_SS_GROUP_COV, ORK_SS_ONE_PASS,
                            NULL);
-  status |= __ruaSSDeleteTask(&task);
+  status |= ork_ss_delete(&task);
 
   /* 3. Over all flowers length and width of a sepal seem to have nothing to do with each other;
    * within each species long sepals are wide. */

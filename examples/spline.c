@@ -19,8 +19,8 @@ int main(void) {
    * coefficients stay the caller's, 4 for each cell. */
   ork_df_task* task = NULL;
   const double ends[2] = {0, 0}; /* second derivatives of the sine at 0 and pi */
-  status |= ork_df_kernel_dNewTask1D(&task, KNOTS, x, ORK_DF_X_NON_UNIFORM, 1, y, 0, 0);
-  status |= ork_df_kernel_dEditPPSpline1D(task, 4, ORK_DF_TYPE_NATURAL,
+  status |= ork_dDFNewTask(&task, KNOTS, x, ORK_DF_X_NON_UNIFORM, 1, y, 0);
+  status |= ork_dDFEditSpline(task, 4, ORK_DF_TYPE_NATURAL,
                                           ORK_DF_BC_2ND_LEFT | ORK_DF_BC_2ND_RIGHT, ends, 0, NULL,
                                           coefficients, 0);
   status |= ork_dDFConstruct(task, &ork_threader_parallel);
@@ -33,14 +33,11 @@ int main(void) {
   for (int j = 0; j < SITES; ++j) worst = fmax(worst, fabs(value[j] - sin(pi * j / (SITES - 1))));
   printf("largest error of the spline   %.1e\n", worst);
 
-  /* 3. Value and slope together: flags for the derivatives of order 0 and 1, by the entry behind
-   * the front door, which also takes callbacks. */
+  /* 3. Value and slope together: flags for the derivatives of order 0 and 1. */
   const double middle = pi / 2;
   const int32_t flags[2] = {1, 1};
   double both[2];
-  status |= ork_df_kernel_dDFInterpolate1D(task, 0, 0, 1, &middle, 0, 2, flags, NULL, both,
-                                           ORK_DF_RESULT_ROWS, NULL, NULL, NULL, NULL, NULL, NULL,
-                                           NULL, NULL, NULL, &ork_threader_serial);
+  status |= ork_dDFDerivatives(task, 1, &middle, 0, 2, flags, both, NULL);
   printf("value and slope at pi/2       %.6f %.6f\n", both[0], both[1]);
 
   /* 4. Integrals over several intervals; the second one runs backwards. */
@@ -49,7 +46,7 @@ int main(void) {
   status |= ork_dDFIntegrate(task, 2, left, right, integral, NULL);
   printf("integrals 0 to pi, pi to pi/2 %.6f %.6f\n", integral[0], integral[1]);
 
-  status |= ork_df_kernel_DeleteTask(&task);
+  status |= ork_df_delete(&task);
   puts(status == 0 ? "all calls succeeded" : "a call failed");
   return status != 0;
 }

@@ -112,7 +112,10 @@ enum { ORK_DF_IC_UNIFORM = 4, ORK_DF_IC_SUBGRID = 8 };
 enum {
   ORK_DF_TYPE_DEFAULT = 0,
   ORK_DF_TYPE_SUBBOTIN = 1,
+  ORK_DF_TYPE_NATURAL = 2,
   ORK_DF_TYPE_HERMITE = 3,
+  ORK_DF_TYPE_BESSEL = 4,
+  ORK_DF_TYPE_AKIMA = 5,
   ORK_DF_TYPE_LOOKUP = 6,
   ORK_DF_TYPE_STEP_RIGHT = 7, /* continuous from the right */
   ORK_DF_TYPE_STEP_LEFT = 8   /* continuous from the left */

@@ -12,6 +12,7 @@
 #include "ork/df.h"
 #include "ork/front_distributions.h"
 #include "ork/front_elementwise.h"
+#include "ork/front_tasks.h"
 #include "ork/rua_distributions.h"
 #include "ork/ss.h"
 #include "ork/threader.h"
@@ -83,6 +84,11 @@ float ork_set_threshold(float work);
  * released by ork_stream_delete. After any failure *stream is null. */
 int ork_stream_new(RuaStream** stream, int32_t brng, uint32_t seed);
 
+/* The same from a seed of n words, as many as the generator takes (rua.h), or, of a quasi-random
+ * one, from a block with tables of the caller's own. BAD_ARGUMENT: n below 0, and what rua.h says
+ * of such blocks. */
+int ork_stream_new_words(RuaStream** stream, int32_t brng, int32_t n, const uint32_t* seed);
+
 /* A quasi-random sequence of points with `dimension` components, RUA_BRNG_SOBOL (up to 40) or
  * RUA_BRNG_NIEDERR (up to 318), that starts with its first point; each draw is the next
  * component. BAD_ARGUMENT: dimension out of range. BAD_GENERATOR: another generator. After any
@@ -141,12 +147,9 @@ int ork_ss_compute(ork_ss_task* task, uint64_t estimates, uint64_t method,
 
 /* ---- Splines ------------------------------------------------------------------------------
  *
- * For tasks of df.h, made by the d or the s constructor and used with that letter: BAD_TYPE for the
- * other. threader null: one thread. Callbacks, derivatives and hints are for the entries of df.h.
- */
-
-/* Types of cubic splines beside ORK_DF_TYPE_DEFAULT and ORK_DF_TYPE_HERMITE. */
-enum { ORK_DF_TYPE_NATURAL = 2, ORK_DF_TYPE_BESSEL = 4, ORK_DF_TYPE_AKIMA = 5 };
+ * For tasks of front_tasks.h, which also has derivatives and cells, made by the d or the s
+ * constructor and used with that letter: BAD_TYPE for the other. threader null: one thread.
+ * Callbacks and data hints are for the entries of df.h, which take the same tasks. */
 
 /* Fills the coefficients of the spline that the task names: order 2 linear, order 3 quadratic
  * (type 0 or ORK_DF_TYPE_SUBBOTIN), order 4 cubic by its type. Other orders have nothing to be
@@ -156,8 +159,9 @@ int ork_sDFConstruct(ork_df_task* task, const ork_threader* threader);
 
 /* Values of all functions at the sites: function f, site j at result[f * nsite + j]. siteHint: 0,
  * ORK_DF_SITES_SORTED, or ORK_DF_SITES_UNIFORM with the first and the last site in `site`.
- * NULL_TASK; BAD_NX: nsite below 0 or above 2^31 - 1; BAD_X: site null; NULL_RESULT; BAD_COEFFS or,
- * for step splines, BAD_Y where a row of coefficients or a function was never set. */
+ * NULL_TASK; BAD_NX: nsite below 0 or above 2^31 - 1, or more results than an array can hold;
+ * BAD_X: site null; NULL_RESULT; BAD_XHINT: another siteHint; BAD_COEFFS or, for step splines,
+ * BAD_Y where a row of coefficients or a function was never set. */
 int ork_dDFInterpolate(const ork_df_task* task, int64_t nsite, const double* site, int64_t siteHint,
                        double* result, const ork_threader* threader);
 int ork_sDFInterpolate(const ork_df_task* task, int64_t nsite, const float* site, int64_t siteHint,

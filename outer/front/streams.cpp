@@ -2,12 +2,19 @@
 #include "ork/front.h"
 #include "outer/export.hpp"
 
-ORK_OUTER int ork_stream_new(RuaStream** stream, int32_t brng, uint32_t seed) {
+ORK_OUTER int ork_stream_new_words(RuaStream** stream, int32_t brng, int32_t n,
+                                   const uint32_t* seed) {
   if (stream == nullptr) return RUA_STATUS_NULL_POINTER;
   *stream = nullptr;
-  const int status = __ruaNewStreamEx(stream, brng, 1, &seed);
+  if (n < 0) return RUA_STATUS_BAD_ARGUMENT;
+  if (n > 0 && seed == nullptr) return RUA_STATUS_NULL_POINTER;
+  const int status = __ruaNewStreamEx(stream, brng, n, seed);
   if (status < 0) __ruaDeleteStream(stream);
   return status;
+}
+
+ORK_OUTER int ork_stream_new(RuaStream** stream, int32_t brng, uint32_t seed) {
+  return ork_stream_new_words(stream, brng, 1, &seed);
 }
 
 ORK_OUTER int ork_stream_new_points(RuaStream** stream, int32_t brng, int32_t dimension) {
