@@ -127,7 +127,7 @@ inline double solving(const Data& data, int runs) {
 inline void run(Report& report) {
   const Data data;
   constexpr double entries = double(p) * n;
-  constexpr int few = 1, many = 5, runs = 5;
+  constexpr int few = 1, many = 9, runs = 12;
   report.line(
       format("# missing values: cycles per entry, p = %d, n = %d, %g missing at random, "
              "%d patterns, double",

@@ -79,7 +79,7 @@ inline void covariance(Report& report) {
       __ruadSSEditRCov(t.task, &full, &four, parameters, mean.data(), cov.data());
       const auto seconds = [&](const ork_threader& table) {
         double least = 1e300;
-        for (int k = 0; k < 7; ++k) {
+        for (int k = 0; k < 15; ++k) {
           const auto start = std::chrono::steady_clock::now();
           _ruadSSRobustCovariance(t.task, 0, 0, ORK_SS_TBS, 0, &table);
           const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
