@@ -10,40 +10,35 @@
 
 namespace ork {
 
-// sqrt(s + e) for an e small against s: the root and half its remainder, divided.
-ORK_INLINE Pair<f64x2> root_pair(f64x2 s, f64x2 e) {
-  const Upper h(sqrt(s));
-  const f64x2 left = (((s - h.high * h.high) - (h.high + h.high) * h.low) - h.low * h.low) + e;
-  return {h.whole, left * (0.5 / h.whole)};
-}
-
-// x^2 in two words, |x| < 2^500.
-ORK_INLINE Pair<f64x2> square_pair(f64x2 a) {
-  const Upper x(a);
-  const f64x2 p = a * a;
-  return {p, ((x.high * x.high - p) + (x.high + x.high) * x.low) + x.low * x.low};
+// 1 - y w for a w next to 1/y, without the roundings of the product.
+ORK_INLINE f64x2 lack_of_product(const Upper& y, const Upper& w) {
+  return ((1.0 - y.high * w.high) - y.high * w.low) - y.low * w.whole;
 }
 
 // ln(y + y_low), 1 <= y < 2^1022. m c - 1 is exact: m in halves of 26 and 27 bits, c of 22.
-ORK_INLINE Pair<f64x2> ln_pair(f64x2 y, f64x2 y_low) {
-  const u32x4 exponent = as<u32x4>(y) & u32x4{0, 0x7FF00000, 0, 0x7FF00000};
-  const f64x2 scale = as<f64x2>(u32x4{0, 0x7FE00000, 0, 0x7FE00000} - exponent);  // 2^-k
+ORK_INLINE Pair<f64x2> ln_pair(const Upper& y, f64x2 y_low) {
+  const u32x4 image = as<u32x4>(y.whole);
   // The row is the top eight mantissa bits: bits 12 to 19 of the high word.
-  const __m128i j = (__m128i)((as<u32x4>(y) & 0x000FF000) >> 12);
+  const u32x4 j = (image & 0x000FF000) >> 12;
   const double* const row0 = log_rows_d[word<2>(j)];
   const double* const row1 = log_rows_d[word<6>(j)];
   const f64x2 first = load(row0), second = load(row1);
   const f64x2 t = _mm_unpacklo_pd(first, second), t_low = _mm_unpackhi_pd(first, second);
-  const f64x2 c = gather(row0 + 2, row1 + 2) * scale;
-  const __m128i field = _mm_shuffle_epi32((__m128i)(exponent >> 20), 0x0D);
-  const f64x2 k = _mm_cvtepi32_pd(_mm_sub_epi32(field, _mm_set1_epi32(1023)));
+  // c 2^-k, by the exponent field; k through the low word of 2^52.
+  const u32x4 down =
+      u32x4{0, 0x3FF00000, 0, 0x3FF00000} - (image & u32x4{0, 0x7FF00000, 0, 0x7FF00000});
+  const f64x2 c = as<f64x2>(as<u32x4>(gather(row0 + 2, row1 + 2)) + down);
+  const f64x2 k =
+      as<f64x2>((as<u64x2>(y.whole) >> 52) | splat_u64(0x4330000000000000)) - (0x1p52 + 1023);
 
-  const Upper m(y);
-  const f64x2 r_high = m.high * c - 1.0, r_low = (m.low + y_low) * c, r = r_high + r_low;
+  const f64x2 r_high = y.high * c - 1.0, r_low = (y.low + y_low) * c, r = r_high + r_low;
+  const f64x2 z = r * r;
+  const auto& p = ln_tail;
+  const f64x2 tail = z * ((p[0] + r * p[1]) + z * ((p[2] + r * p[3]) + z * p[4]));
   constexpr double ln2 = 0x1.62e42fefa38p-1, ln2_low = 0x1.ef35793c7673p-45;  // k ln2 is exact
   const auto [row, row_lost] = exact_sum(k * ln2, t);
   const auto [sum, lost] = exact_sum(row, r_high);
-  return {sum, ((k * ln2_low + t_low) + (row_lost + lost)) + (r_low + r * ln_tail(r))};
+  return {sum, ((k * ln2_low + t_low) + (row_lost + lost)) + (r_low + tail)};
 }
 
 // high + low to the nearest double; lanes that an error of `error` could change are marked rare,
