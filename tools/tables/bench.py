@@ -55,7 +55,7 @@ def generate():
             if not path.exists():
                 cells.append("-")
                 continue
-            over = sum(line.endswith(("over", "missed")) for line in path.read_text().splitlines())
+            over = sum(line.endswith("over") or "MISSED" in line for line in path.read_text().splitlines())
             cells.append(f"[{_bench.header(path)[1] or 'undated'}](../bench/results/{n}/{program}.txt), {over}")
         runs.append([program, *cells])
 
