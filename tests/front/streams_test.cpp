@@ -185,6 +185,13 @@ void check_draws(const Distribution& d, Front* front) {
     }
 }
 
+// Shapes at which the test of a candidate cancels to nothing: an answer, not an endless loop.
+TEST(FrontStreams, BetaThatAcceptsNothingEnds) {
+  Stream s(RUA_BRNG_MT19937);
+  double r[3];
+  EXPECT_EQ(ork_dRngBeta(0, s, 3, r, 2, 1e30, 0, 1), RUA_STATUS_BAD_ARGUMENT);
+}
+
 TEST(FrontStreams, DistributionsCheckAndDrawAsTheirKernels) {
   ASSERT_EQ(std::size(fronts), distributions.size());
   for (size_t i = 0; i < distributions.size(); ++i) check_draws(distributions[i], fronts[i]);

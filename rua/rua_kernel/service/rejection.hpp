@@ -49,20 +49,28 @@ ORK_INLINE int32_t accept(int32_t m, R* r, Candidate candidate) {
   return int32_t(r - begin);
 }
 
-// Candidates of uniform pairs. round(m, first, second, scratch) computes with the arrays, fours(m)
-// long, and returns the function for accept; second stands fours(m) behind first.
+// So many rounds in a row without a number happen to no healthy parameters, which accept a
+// candidate in five at least: those whose test cancels to nothing or overflows accept none, ever.
+constexpr int kIdleRounds = 1000;
+
+// Candidates of uniform pairs. BAD_ARGUMENT where kIdleRounds in a row accept none. round(m, first,
+// second, scratch) computes with the arrays, fours(m) long, and returns the function for accept;
+// second stands fours(m) behind first.
 template <class R, class Round>
 ORK_INLINE int32_t accept_in_rounds(RuaStream* stream, int32_t n, R* r, Round round) {
   alignas(64) R u[2 * kRound], pairs[2 * kRound];
-  for (int32_t done = 0; done < n;) {
+  for (int32_t done = 0, idle = 0; done < n;) {
     const int32_t m = n - done < kRound ? n - done : kRound, whole = fours(m);
-    const int32_t status = uniform(stream, 2 * m, u, 0, 1);
+    const int32_t status =
+        idle < kIdleRounds ? uniform(stream, 2 * m, u, 0, 1) : int32_t(RUA_STATUS_BAD_ARGUMENT);
     if (status < 0) return status;
     // Lanes beyond the last pair get a number that nothing happens to.
     for (int32_t i = 2 * m; i < 2 * whole; ++i) u[i] = R(0.5);
     R *const first = pairs, *const second = pairs + whole;
     split(whole, u, first, second, [](auto x) { return x; });
-    done += accept(m, r + done, round(whole, first, second, u));
+    const int32_t accepted = accept(m, r + done, round(whole, first, second, u));
+    idle = accepted > 0 ? 0 : idle + 1;
+    done += accepted;
   }
   return RUA_STATUS_OK;
 }
