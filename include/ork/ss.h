@@ -478,12 +478,11 @@ int32_t _ruasSSCorParametrization(ork_ss_task* task, uint32_t estimates_low,
  *      0.001
  *   2  accuracy, above 0: the steps end when no more than this is the root of the sum of squares
  *      of the weights' changes; 0.001
- *   3  steps, 0 or more, truncated: their largest number; reaching it is no failure. 0 leaves the
- *      result of the second stage, the sum of squares divided by the number of observations near;
- *      100
- * Where breakdown and rejection cannot be had together (at breakdown 1/2 and rejection 0.001:
- * below p = 5 and from some p = 30 on), observations count fully up to the distance that the
- * rejection tells, and not at all beyond.
+ *   3  steps, 0 or more, truncated, 10000 where it is more: their largest number; reaching it is no
+ *      failure. 0 leaves the result of the second stage, the sum of squares divided by the number
+ * of observations near; 100 Where breakdown and rejection cannot be had together (at breakdown 1/2
+ * and rejection 0.001: below p = 5 and from some p = 30 on), observations count fully up to the
+ * distance that the rejection tells, and not at all beyond.
  *
  * A variable of which more than half the values are equal has no robust scale and takes no part in
  * the first stage. Powers of two as units change no digit of a result but its exponent; layouts

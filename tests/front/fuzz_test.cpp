@@ -515,7 +515,7 @@ struct Statistics {
   }
 };
 
-TEST_F(FrontFuzz, DISABLED_Statistics) {
+TEST_F(FrontFuzz, Statistics) {
   const std::vector<Pair> pairs = served();
   ASSERT_GT(pairs.size(), 30u);
   rounds("statistics", 4000, [&](Random& random) {

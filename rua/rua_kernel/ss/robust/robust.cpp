@@ -28,6 +28,8 @@ int32_t check(const Task<R>& t, uint64_t method) {
   return t.observations ? ORK_SS_OK : ORK_SS_NULL_OBSERVATIONS;
 }
 
+constexpr int kMostSteps = 10000;  // where weights of 0 and 1 take turns, no number is enough
+
 template <class R>
 struct Parameters {
   double breakdown, rejection;
@@ -43,7 +45,7 @@ struct Parameters {
     if (a[0] > 0 && a[0] < most) breakdown = a[0];
     if (a[1] > 0 && a[1] < 1) rejection = a[1];
     if (a[2] > 0) tolerance = a[2];
-    if (a[3] >= 0) steps = a[3] < R(1 << 30) ? int(a[3]) : 1 << 30;
+    if (a[3] >= 0) steps = a[3] < R(kMostSteps) ? int(a[3]) : kMostSteps;
   }
 };
 
